@@ -1,0 +1,90 @@
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/time.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cwchar>
+
+#include "logger-platform.h"
+
+namespace vlog::platform {
+
+std::string narrow(const std::wstring& w) {
+  // wchar_t holds UTF-32 here.
+  std::string out;
+  out.reserve(w.size());
+  for (wchar_t wc : w) {
+    auto c = static_cast<std::uint32_t>(wc);
+    if (c < 0x80) {
+      out.push_back(static_cast<char>(c));
+    } else if (c < 0x800) {
+      out.push_back(static_cast<char>(0xC0 | (c >> 6)));
+      out.push_back(static_cast<char>(0x80 | (c & 0x3F)));
+    } else if (c < 0x10000) {
+      out.push_back(static_cast<char>(0xE0 | (c >> 12)));
+      out.push_back(static_cast<char>(0x80 | ((c >> 6) & 0x3F)));
+      out.push_back(static_cast<char>(0x80 | (c & 0x3F)));
+    } else {
+      out.push_back(static_cast<char>(0xF0 | (c >> 18)));
+      out.push_back(static_cast<char>(0x80 | ((c >> 12) & 0x3F)));
+      out.push_back(static_cast<char>(0x80 | ((c >> 6) & 0x3F)));
+      out.push_back(static_cast<char>(0x80 | (c & 0x3F)));
+    }
+  }
+  return out;
+}
+
+FILE* open_append(const std::wstring& path) {
+  // "e": O_CLOEXEC, the POSIX form of a non-inheritable handle.
+  return std::fopen(narrow(path).c_str(), "ae");
+}
+
+std::uint64_t file_size(const std::wstring& path, FILE* stream) {
+  struct stat st {};
+  if (::fstat(::fileno(stream), &st) != 0) {
+    std::fprintf(stream, "fstat(%s): error code %ld\n", narrow(path).c_str(), static_cast<long>(errno));
+    return 0;
+  }
+  return static_cast<std::uint64_t>(st.st_size);
+}
+
+bool rename_no_replace(const std::wstring& from, const std::wstring& to) {
+  const std::string a = narrow(from), b = narrow(to);
+  if (::renameat2(AT_FDCWD, a.c_str(), AT_FDCWD, b.c_str(), RENAME_NOREPLACE) == 0) return true;
+  if (errno != EINVAL && errno != ENOSYS) return false;
+  // File systems without RENAME_NOREPLACE: link() refuses an existing target too.
+  if (::link(a.c_str(), b.c_str()) != 0) return false;
+  ::unlink(a.c_str());
+  return true;
+}
+
+bool remove_file(const std::wstring& path) { return ::unlink(narrow(path).c_str()) == 0; }
+
+void write_text(FILE* stream, const std::string& utf8, bool /*is_file*/) {
+  std::fwrite(utf8.data(), 1, utf8.size(), stream);
+}
+
+unsigned pid() { return static_cast<unsigned>(::getpid()); }
+
+unsigned long tid() { return static_cast<unsigned long>(::syscall(SYS_gettid)); }
+
+void local_now(std::tm& out, int& millis) {
+  struct timeval tv {};
+  ::gettimeofday(&tv, nullptr);
+  const time_t t = tv.tv_sec;
+  ::localtime_r(&t, &out);
+  millis = static_cast<int>(tv.tv_usec / 1000);
+}
+
+bool get_env(const char* name, std::string& value) {
+  const char* v = std::getenv(name);
+  if (!v) return false;
+  value = v;
+  return true;
+}
+
+}  // namespace vlog::platform

@@ -1,0 +1,152 @@
+#include "json-access.h"
+
+#include <json/reader.h>
+#include <json/writer.h>
+
+#include <cmath>
+#include <limits>
+#include <memory>
+#include <sstream>
+
+namespace jsonx {
+namespace {
+
+const Json::Value& null_value() {
+  static const Json::Value v;
+  return v;
+}
+
+// An integral value within [lo, hi], from a JSON integer or an integral double.
+template <typename T>
+bool integral(const Json::Value& v, T& out) {
+  if (v.isInt64()) {  // a signed 64-bit integer (the value fits int64)
+    const std::int64_t i = v.asInt64();
+    if constexpr (std::is_signed_v<T>) {
+      if (i < static_cast<std::int64_t>(std::numeric_limits<T>::min()) ||
+          i > static_cast<std::int64_t>(std::numeric_limits<T>::max()))
+        return false;
+    } else {
+      if (i < 0 || static_cast<std::uint64_t>(i) > std::numeric_limits<T>::max()) return false;
+    }
+    out = static_cast<T>(i);
+    return true;
+  }
+  if (v.isUInt64()) {  // above int64 max
+    const std::uint64_t u = v.asUInt64();
+    if (u > static_cast<std::uint64_t>(std::numeric_limits<T>::max())) return false;
+    out = static_cast<T>(u);
+    return true;
+  }
+  if (v.isDouble()) {
+    const double d = v.asDouble();
+    if (!std::isfinite(d) || std::trunc(d) != d) return false;
+    // Compare in long double so the bounds of 64-bit types are exact enough.
+    const long double ld = d;
+    if (ld < static_cast<long double>(std::numeric_limits<T>::min()) ||
+        ld > static_cast<long double>(std::numeric_limits<T>::max()))
+      return false;
+    out = static_cast<T>(d);
+    return true;
+  }
+  return false;
+}
+
+template <typename T>
+T integral_or(const Json::Value& v, T fallback) {
+  T out{};
+  return integral(v, out) ? out : fallback;
+}
+
+}  // namespace
+
+const Json::Value& member(const Json::Value& v, const char* key) {
+  if (!v.isObject()) return null_value();
+  const Json::Value* found = v.find(key, key + std::char_traits<char>::length(key));
+  return found ? *found : null_value();
+}
+
+bool has(const Json::Value& v, const char* key) {
+  return v.isObject() && v.find(key, key + std::char_traits<char>::length(key)) != nullptr;
+}
+
+std::int64_t to_int64(const Json::Value& v, std::int64_t fallback) { return integral_or(v, fallback); }
+std::uint64_t to_uint64(const Json::Value& v, std::uint64_t fallback) { return integral_or(v, fallback); }
+std::int32_t to_int32(const Json::Value& v, std::int32_t fallback) { return integral_or(v, fallback); }
+std::uint32_t to_uint32(const Json::Value& v, std::uint32_t fallback) { return integral_or(v, fallback); }
+
+double to_double(const Json::Value& v, double fallback) {
+  return v.isNumeric() && !v.isBool() ? v.asDouble() : fallback;
+}
+
+bool to_bool(const Json::Value& v, bool fallback) { return v.isBool() ? v.asBool() : fallback; }
+
+std::string to_string(const Json::Value& v, const std::string& fallback) {
+  return v.isString() ? v.asString() : fallback;
+}
+
+std::int64_t get_int64(const Json::Value& obj, const char* key, std::int64_t fallback) {
+  return to_int64(member(obj, key), fallback);
+}
+std::uint64_t get_uint64(const Json::Value& obj, const char* key, std::uint64_t fallback) {
+  return to_uint64(member(obj, key), fallback);
+}
+std::int32_t get_int32(const Json::Value& obj, const char* key, std::int32_t fallback) {
+  return to_int32(member(obj, key), fallback);
+}
+std::uint32_t get_uint32(const Json::Value& obj, const char* key, std::uint32_t fallback) {
+  return to_uint32(member(obj, key), fallback);
+}
+double get_double(const Json::Value& obj, const char* key, double fallback) {
+  return to_double(member(obj, key), fallback);
+}
+bool get_bool(const Json::Value& obj, const char* key, bool fallback) {
+  return to_bool(member(obj, key), fallback);
+}
+std::string get_string(const Json::Value& obj, const char* key, const std::string& fallback) {
+  return to_string(member(obj, key), fallback);
+}
+
+const Json::Value& get_object(const Json::Value& obj, const char* key) {
+  static const Json::Value empty(Json::objectValue);
+  const Json::Value& m = member(obj, key);
+  return m.isObject() ? m : empty;
+}
+
+const Json::Value& get_array(const Json::Value& obj, const char* key) {
+  static const Json::Value empty(Json::arrayValue);
+  const Json::Value& m = member(obj, key);
+  return m.isArray() ? m : empty;
+}
+
+bool is_object(const Json::Value& v) { return v.isObject(); }
+
+bool parse(const std::string& text, Json::Value& out, std::string* error, bool collect_comments) {
+  Json::CharReaderBuilder builder;
+  builder["collectComments"] = collect_comments;
+  std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
+  std::string errs;
+  Json::Value parsed;
+  bool ok = false;
+  try {
+    ok = reader->parse(text.data(), text.data() + text.size(), &parsed, &errs);
+  } catch (const std::exception& e) {  // jsoncpp throws on pathological nesting
+    ok = false;
+    errs = e.what();
+  }
+  if (ok) {
+    out = std::move(parsed);
+  } else {
+    out = Json::Value();
+    if (error) *error = errs;
+  }
+  return ok;
+}
+
+std::string compact(const Json::Value& v) {
+  Json::StreamWriterBuilder builder;
+  builder["indentation"] = "";
+  builder["commentStyle"] = "None";
+  return Json::writeString(builder, v);
+}
+
+}  // namespace jsonx
