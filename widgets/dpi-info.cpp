@@ -1,0 +1,42 @@
+#include "dpi-info.h"
+
+#include <QGuiApplication>
+#include <QRegularExpression>
+#include <QScreen>
+
+#include <cmath>
+
+double DPIinfo::getDPI() {
+  bool ok = false;
+  const double forced = qEnvironmentVariable("NIMBRA_UI_SCALE").toDouble(&ok);
+  if (ok && forced > 0.0) return forced;
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  if (!screen) return 1.0;
+  const double dpi = screen->logicalDotsPerInch();
+  return dpi > 0.0 ? dpi / 96.0 : 1.0;
+}
+
+double DPIinfo::getDPR() {
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  return screen ? screen->devicePixelRatio() : 1.0;
+}
+
+int DPIinfo::scaled(double length) { return static_cast<int>(std::trunc(length * getDPI())); }
+
+QString DPIinfo::getScaledStyleSheet(const QString& sheet) {
+  static const QRegularExpression px(QStringLiteral("(-?\\d+(?:\\.\\d+)?)px\\b"));
+  const double scale = getDPI();
+  QString out;
+  out.reserve(sheet.size());
+  int last = 0;
+  auto it = px.globalMatch(sheet);
+  while (it.hasNext()) {
+    const auto m = it.next();
+    out += sheet.midRef(last, m.capturedStart() - last);
+    const double value = m.captured(1).toDouble();
+    out += QString::number(static_cast<int>(std::trunc(value * scale))) + QStringLiteral("px");
+    last = m.capturedEnd();
+  }
+  out += sheet.midRef(last);
+  return out;
+}
