@@ -21,7 +21,9 @@ double DPIinfo::getDPR() {
   return screen ? screen->devicePixelRatio() : 1.0;
 }
 
-int DPIinfo::scaled(double length) { return static_cast<int>(std::trunc(length * getDPI())); }
+int DPIinfo::scaled(double length) {
+  return static_cast<int>(std::trunc(length * getDPI()));
+}
 
 QString DPIinfo::getScaledStyleSheet(const QString& sheet) {
   static const QRegularExpression px(QStringLiteral("(-?\\d+(?:\\.\\d+)?)px\\b"));

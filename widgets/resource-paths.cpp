@@ -1,0 +1,20 @@
+#include "resource-paths.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+#include "ui-path-manager.h"
+
+namespace resource_paths {
+
+QString resourceFolder() {
+  UIPathManager* paths = UIPathManager::getInstance();
+  if (paths->hasPath(QStringLiteral("resource_path"))) return paths->getPath(QStringLiteral("resource_path"));
+  return QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../resource"));
+}
+
+QString imagesFolder() {
+  return resourceFolder() + QStringLiteral("/images");
+}
+
+}  // namespace resource_paths

@@ -1,0 +1,15 @@
+#pragma once
+// Where the widget layer finds its resources: the "resource_path" registered
+// in UIPathManager, or, before start-up registered it, the folder
+// "../resource" beside the executable (the layout of both the build and the
+// install tree).
+
+#include <QString>
+
+namespace resource_paths {
+
+QString resourceFolder();
+// resourceFolder() + "/images"
+QString imagesFolder();
+
+}  // namespace resource_paths

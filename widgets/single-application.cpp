@@ -1,0 +1,168 @@
+#include "single-application.h"
+
+#include <QDataStream>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QLockFile>
+#include <QStandardPaths>
+#include <QThread>
+#include <QtEndian>
+
+#include "logger.h"
+#include "machine-lock.h"
+#include "user-identity.h"
+
+namespace {
+
+QString runtimeFolder() {
+  QString dir = qEnvironmentVariable("XDG_RUNTIME_DIR");
+  if (dir.isEmpty() || !QDir(dir).exists()) dir = QDir::tempPath();
+  return dir;
+}
+
+}  // namespace
+
+SingleInstance::SingleInstance(const QString& appId, QObject* parent) : QObject(parent) {
+  const QString base = qEnvironmentVariable("NIMBRA_PIPE_NAMESPACE") + appId + QLatin1Char('-') +
+                       user_identity::currentUserTag();
+  lockPath_ = QDir(runtimeFolder()).filePath(base + QStringLiteral(".lock"));
+  // Unix socket paths are short (108 bytes): keep the server beside the lock
+  // only when it fits, else let Qt put it in its own temporary folder.
+  const QString full = QDir(runtimeFolder()).filePath(base + QStringLiteral(".sock"));
+  serverName_ = full.toUtf8().size() < 100 ? full : base;
+  lock_.reset(new QLockFile(lockPath_));
+  lock_->setStaleLockTime(0);  // only a dead holder makes the lock stale
+}
+
+SingleInstance::~SingleInstance() {
+  release();
+}
+
+bool SingleInstance::isRunning() {
+  if (server_) return false;
+  if (!lock_->tryLock(0)) {
+    if (lock_->error() == QLockFile::PermissionError)
+      LOG_ERROR(vlog::kDefaultComponent, "single instance: cannot write lock file [%s]",
+                qUtf8Printable(lockPath_));
+    return true;
+  }
+  // We hold the lock: whatever socket file is left belongs to a dead holder.
+  QLocalServer::removeServer(serverName_);
+  server_ = new QLocalServer(this);
+  server_->setSocketOptions(QLocalServer::UserAccessOption);
+  if (!server_->listen(serverName_)) {
+    LOG_ERROR(vlog::kDefaultComponent, "single instance: cannot listen on [%s]: %s",
+              qUtf8Printable(serverName_), qUtf8Printable(server_->errorString()));
+    // Still the primary instance (we hold the lock); messages cannot arrive.
+  }
+  connect(server_, &QLocalServer::newConnection, this, &SingleInstance::onNewConnection);
+  LOG_INFO(vlog::kDefaultComponent, "single instance: primary on [%s]", qUtf8Printable(serverName_));
+  return false;
+}
+
+void SingleInstance::release() {
+  if (server_) {
+    server_->close();
+    delete server_;
+    server_ = nullptr;
+  }
+  if (lock_ && lock_->isLocked()) lock_->unlock();
+}
+
+bool SingleInstance::sendMessage(const QString& message, int timeoutMs) {
+  const QByteArray payload = message.toUtf8();
+  if (static_cast<quint32>(payload.size()) > kMaxMessageBytes) {
+    LOG_ERROR(vlog::kDefaultComponent, "single instance: message of %d bytes is too long", payload.size());
+    return false;
+  }
+  QElapsedTimer clock;
+  clock.start();
+  QLocalSocket socket;
+  // The primary may hold the lock a moment before it listens: retry.
+  for (;;) {
+    socket.connectToServer(serverName_);
+    const int left = timeoutMs - static_cast<int>(clock.elapsed());
+    if (socket.waitForConnected(qMax(1, qMin(left, 250)))) break;
+    socket.abort();
+    if (clock.elapsed() >= timeoutMs) {
+      LOG_WARN(vlog::kDefaultComponent, "single instance: no answer from [%s] within %d ms, message lost",
+               qUtf8Printable(serverName_), timeoutMs);
+      return false;
+    }
+    QThread::msleep(20);
+  }
+  QByteArray frame(4, '\0');
+  qToBigEndian<quint32>(static_cast<quint32>(payload.size()), frame.data());
+  frame += payload;
+  socket.write(frame);
+  while (socket.bytesToWrite() > 0) {
+    const int left = timeoutMs - static_cast<int>(clock.elapsed());
+    if (left <= 0 || !socket.waitForBytesWritten(left)) break;
+  }
+  while (socket.bytesAvailable() < 1) {
+    const int left = timeoutMs - static_cast<int>(clock.elapsed());
+    if (left <= 0 || !socket.waitForReadyRead(left)) {
+      LOG_WARN(vlog::kDefaultComponent, "single instance: message to [%s] not acknowledged",
+               qUtf8Printable(serverName_));
+      return false;
+    }
+  }
+  return socket.read(1) == QByteArray(1, '\x06');
+}
+
+void SingleInstance::onNewConnection() {
+  while (QLocalSocket* socket = server_ ? server_->nextPendingConnection() : nullptr) {
+    pending_.insert(socket, QByteArray());
+    connect(socket, &QLocalSocket::readyRead, this, [this, socket]() { onReadyRead(socket); });
+    connect(socket, &QLocalSocket::disconnected, this, [this, socket]() {
+      pending_.remove(socket);
+      socket->deleteLater();
+    });
+    if (socket->bytesAvailable() > 0) onReadyRead(socket);
+  }
+}
+
+void SingleInstance::onReadyRead(QLocalSocket* socket) {
+  auto it = pending_.find(socket);
+  if (it == pending_.end()) return;
+  it.value() += socket->readAll();
+  QByteArray& buffer = it.value();
+  if (buffer.size() < 4) return;
+  const quint32 length = qFromBigEndian<quint32>(buffer.constData());
+  if (length > kMaxMessageBytes) {
+    LOG_ERROR(vlog::kDefaultComponent, "single instance: refused a message announcing %u bytes", length);
+    pending_.erase(it);
+    socket->abort();
+    return;
+  }
+  if (static_cast<quint32>(buffer.size()) < 4 + length) return;
+  const QString message = QString::fromUtf8(buffer.constData() + 4, static_cast<int>(length));
+  pending_.erase(it);
+  socket->write(QByteArray(1, '\x06'));
+  socket->flush();
+  socket->disconnectFromServer();
+  LOG_INFO(vlog::kDefaultComponent, "single instance: message received [%s]", qUtf8Printable(message));
+  emit messageReceived(message);
+}
+
+QtSingleApplication::QtSingleApplication(int& argc, char** argv, bool GUIenabled)
+    : QtSingleApplication(QString::fromLatin1(kDefaultId), argc, argv, GUIenabled) {}
+
+QtSingleApplication::QtSingleApplication(const QString& appId, int& argc, char** argv, bool GUIenabled)
+    : QApplication(argc, argv, GUIenabled), instance_(new SingleInstance(appId, this)) {
+  connect(instance_, &SingleInstance::messageReceived, this, &QtSingleApplication::messageReceived);
+}
+
+QtSingleApplication::~QtSingleApplication() {
+  instance_->release();
+}
+
+bool QtSingleApplication::isRunning() {
+  return instance_->isRunning();
+}
+
+bool QtSingleApplication::sendMessage(const QString& message, int timeout) {
+  return instance_->sendMessage(message, timeout);
+}

@@ -1,0 +1,49 @@
+#pragma once
+// Labels: VellLabel (a label that can elide its text to its width, with the
+// full text as tool tip) and LinkLabel (a text link that emits clicked()).
+
+#include <QLabel>
+
+class VellLabel : public QLabel {
+  Q_OBJECT
+ public:
+  explicit VellLabel(QWidget* parent = nullptr);
+  explicit VellLabel(const QString& text, QWidget* parent = nullptr);
+
+  // With a mode other than Qt::ElideNone, plain text wider than the label is
+  // shortened with an ellipsis and the whole text becomes the tool tip.
+  void setElideMode(Qt::TextElideMode mode);
+  Qt::TextElideMode elideMode() const { return elide_; }
+  void setText(const QString& text);
+  // The text as set, before any eliding.
+  QString fullText() const { return full_; }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void applyElide();
+  Qt::TextElideMode elide_ = Qt::ElideNone;
+  QString full_;
+};
+
+// A clickable text. It shows a pointing hand, takes keyboard focus (Return,
+// Enter and Space click it), changes colour on hover and is never
+// underlined on hover.
+class LinkLabel : public QLabel {
+  Q_OBJECT
+ public:
+  explicit LinkLabel(QWidget* parent = nullptr);
+  explicit LinkLabel(const QString& text, QWidget* parent = nullptr);
+
+ signals:
+  void clicked();
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  bool pressed_ = false;
+};
