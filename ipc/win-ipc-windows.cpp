@@ -1,0 +1,236 @@
+// System calls of the pipe transport on Windows: one non-blocking named-pipe
+// instance per server, open to Everyone on this machine and closed to remote
+// clients, polled with fixed sleeps (100 ms at connect and accept, 10 ms at
+// read and write).
+
+#include <windows.h>
+// after windows.h
+#include <aclapi.h>
+
+#include <cstddef>
+#include <cstring>
+
+#include "win-ipc-platform.h"
+
+namespace WinIpc {
+namespace platform {
+
+namespace {
+
+constexpr DWORD kSidSize = 68;  // SECURITY_MAX_SID_SIZE
+constexpr DWORD kConnectSleepMs = 100;
+constexpr DWORD kIoSleepMs = 10;
+
+HANDLE to_handle(Native n) {
+  return reinterpret_cast<HANDLE>(n);
+}
+Native to_native(HANDLE h) {
+  return reinterpret_cast<Native>(h);
+}
+
+}  // namespace
+
+std::string native_name(const std::string& name) {
+  return name;
+}
+
+Result connect_client(const std::string& name, int, Native& out) {
+  Result r;
+  close_handle(out);
+  const HANDLE h =
+      ::CreateFileA(name.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+  if (h != INVALID_HANDLE_VALUE) {
+    out = to_native(h);
+    r.status = Status::kOk;
+    return r;
+  }
+  const DWORD err = ::GetLastError();
+  if (err == ERROR_PIPE_BUSY) {
+    ::Sleep(kConnectSleepMs);
+    r.status = Status::kBusy;
+    r.waited_ms = static_cast<int>(kConnectSleepMs);
+    return r;
+  }
+  r.error = err;
+  return r;
+}
+
+CreateResult create_server(const std::string& name, ServerEnds& ends) {
+  CreateResult r;
+  close_server(ends);
+
+  PSID sid = ::LocalAlloc(LMEM_FIXED, kSidSize);
+  if (sid == nullptr) {
+    r.step = CreateStep::kAllocSid;
+    r.error = ::GetLastError();
+    return r;
+  }
+  DWORD sid_size = kSidSize;
+  if (!::CreateWellKnownSid(WinWorldSid, nullptr, sid, &sid_size)) {
+    r.step = CreateStep::kEveryoneSid;
+    r.error = ::GetLastError();
+    ::LocalFree(sid);
+    return r;
+  }
+
+  EXPLICIT_ACCESSW access;
+  std::memset(&access, 0, sizeof access);
+  access.grfAccessPermissions = GENERIC_READ | GENERIC_WRITE;
+  access.grfAccessMode = SET_ACCESS;
+  access.grfInheritance = NO_INHERITANCE;
+  access.Trustee.TrusteeForm = TRUSTEE_IS_SID;
+  access.Trustee.TrusteeType = TRUSTEE_IS_WELL_KNOWN_GROUP;
+  access.Trustee.ptstrName = static_cast<LPWSTR>(sid);
+
+  PACL acl = nullptr;
+  const DWORD acl_result = ::SetEntriesInAclW(1, &access, nullptr, &acl);
+  if (acl_result != ERROR_SUCCESS) {
+    r.step = CreateStep::kAce;
+    r.error = acl_result;
+    ::LocalFree(sid);
+    return r;
+  }
+
+  SECURITY_DESCRIPTOR descriptor;
+  if (!::InitializeSecurityDescriptor(&descriptor, SECURITY_DESCRIPTOR_REVISION)) {
+    r.step = CreateStep::kInitDescriptor;
+    r.error = ::GetLastError();
+    ::LocalFree(sid);
+    ::LocalFree(acl);
+    return r;
+  }
+  if (!::SetSecurityDescriptorDacl(&descriptor, TRUE, acl, FALSE)) {
+    r.step = CreateStep::kSetDescriptor;
+    r.error = ::GetLastError();
+    ::LocalFree(sid);
+    ::LocalFree(acl);
+    return r;
+  }
+
+  SECURITY_ATTRIBUTES attributes;
+  attributes.nLength = sizeof(SECURITY_ATTRIBUTES);
+  attributes.lpSecurityDescriptor = &descriptor;
+  attributes.bInheritHandle = FALSE;
+
+  const HANDLE pipe =
+      ::CreateNamedPipeA(name.c_str(), PIPE_ACCESS_DUPLEX | FILE_FLAG_FIRST_PIPE_INSTANCE,
+                         PIPE_TYPE_BYTE | PIPE_READMODE_BYTE | PIPE_NOWAIT | PIPE_REJECT_REMOTE_CLIENTS, 1,
+                         static_cast<DWORD>(kBufferSize), static_cast<DWORD>(kBufferSize), 1000, &attributes);
+  const DWORD pipe_error = ::GetLastError();
+  ::LocalFree(sid);
+  ::LocalFree(acl);
+  if (pipe == INVALID_HANDLE_VALUE) {
+    r.step = CreateStep::kPipe;
+    r.error = pipe_error;
+    return r;
+  }
+  ends.listener = to_native(pipe);
+  ends.client = ends.listener;
+  r.step = CreateStep::kDone;
+  return r;
+}
+
+Result accept_client(ServerEnds& ends, int) {
+  Result r;
+  if (::ConnectNamedPipe(to_handle(ends.listener), nullptr)) {
+    r.status = Status::kOk;
+    return r;
+  }
+  const DWORD err = ::GetLastError();
+  switch (err) {
+    case ERROR_PIPE_CONNECTED:
+      r.status = Status::kOk;
+      return r;
+    case ERROR_IO_PENDING:
+    case ERROR_PIPE_LISTENING:
+      r.status = Status::kRetry;
+      break;
+    case ERROR_NO_DATA:
+      r.status = Status::kGone;
+      break;
+    default:
+      r.error = err;
+      return r;
+  }
+  ::Sleep(kConnectSleepMs);
+  r.waited_ms = static_cast<int>(kConnectSleepMs);
+  return r;
+}
+
+Result disconnect_client(ServerEnds& ends) {
+  Result r;
+  if (!::DisconnectNamedPipe(to_handle(ends.listener))) {
+    r.error = ::GetLastError();
+    return r;
+  }
+  r.status = Status::kOk;
+  return r;
+}
+
+void close_server(ServerEnds& ends) {
+  // One handle serves both ends.
+  ends.client = kInvalid;
+  close_handle(ends.listener);
+}
+
+void close_handle(Native& handle) {
+  if (handle != kInvalid) {
+    ::CloseHandle(to_handle(handle));
+    handle = kInvalid;
+  }
+}
+
+Result read_some(Native handle, char* buffer, std::size_t size) {
+  Result r;
+  DWORD count = 0;
+  if (::ReadFile(to_handle(handle), buffer, static_cast<DWORD>(size), &count, nullptr)) {
+    r.status = Status::kOk;
+    r.count = count;
+    return r;
+  }
+  const DWORD err = ::GetLastError();
+  if (err == ERROR_IO_PENDING || err == ERROR_NO_DATA) {
+    r.status = Status::kRetry;
+  } else {
+    r.error = err;
+  }
+  return r;
+}
+
+Result write_some(Native handle, const char* data, std::size_t size) {
+  Result r;
+  DWORD written = 0;
+  if (::WriteFile(to_handle(handle), data, static_cast<DWORD>(size), &written, nullptr)) {
+    r.status = Status::kOk;
+    r.count = written;
+    return r;
+  }
+  const DWORD err = ::GetLastError();
+  if (err == ERROR_PIPE_NOT_CONNECTED || err == ERROR_IO_PENDING) {
+    r.status = Status::kRetry;
+  } else {
+    r.error = err;
+  }
+  return r;
+}
+
+void wait_readable(Native) {
+  ::Sleep(kIoSleepMs);
+}
+
+void wait_writable(Native) {
+  ::Sleep(kIoSleepMs);
+}
+
+// A non-blocking write larger than the free buffer writes nothing at all, so
+// a message goes in pieces no larger than the buffer.
+std::size_t write_piece_limit() {
+  return kBufferSize;
+}
+
+void flush(Native handle) {
+  ::FlushFileBuffers(to_handle(handle));
+}
+
+}  // namespace platform
+}  // namespace WinIpc
