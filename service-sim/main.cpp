@@ -1,0 +1,6 @@
+// nimbra-service-sim: the simulated backup service (see --help).
+#include "sim-cli.h"
+
+int main(int argc, char** argv) {
+  return sim::run_cli(argc, argv);
+}
