@@ -62,15 +62,21 @@ bool rename_no_replace(const std::wstring& from, const std::wstring& to) {
   return true;
 }
 
-bool remove_file(const std::wstring& path) { return ::unlink(narrow(path).c_str()) == 0; }
+bool remove_file(const std::wstring& path) {
+  return ::unlink(narrow(path).c_str()) == 0;
+}
 
 void write_text(FILE* stream, const std::string& utf8, bool /*is_file*/) {
   std::fwrite(utf8.data(), 1, utf8.size(), stream);
 }
 
-unsigned pid() { return static_cast<unsigned>(::getpid()); }
+unsigned pid() {
+  return static_cast<unsigned>(::getpid());
+}
 
-unsigned long tid() { return static_cast<unsigned long>(::syscall(SYS_gettid)); }
+unsigned long tid() {
+  return static_cast<unsigned long>(::syscall(SYS_gettid));
+}
 
 void local_now(std::tm& out, int& millis) {
   struct timeval tv {};

@@ -25,7 +25,8 @@ std::wstring widen(const std::string& utf8) {
 
 std::string narrow(const std::wstring& w) {
   if (w.empty()) return std::string();
-  const int n = ::WideCharToMultiByte(CP_UTF8, 0, w.data(), static_cast<int>(w.size()), nullptr, 0, nullptr, nullptr);
+  const int n =
+      ::WideCharToMultiByte(CP_UTF8, 0, w.data(), static_cast<int>(w.size()), nullptr, 0, nullptr, nullptr);
   std::string out(static_cast<std::size_t>(n), '\0');
   ::WideCharToMultiByte(CP_UTF8, 0, w.data(), static_cast<int>(w.size()), out.data(), n, nullptr, nullptr);
   return out;
@@ -43,12 +44,14 @@ std::uint64_t file_size(const std::wstring& path, FILE* stream) {
   HANDLE h = ::CreateFileW(path.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                            OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
   if (h == INVALID_HANDLE_VALUE) {
-    ::fwprintf(stream, L"CreateFile(%ls): error code %ld\n", path.c_str(), static_cast<long>(::GetLastError()));
+    ::fwprintf(stream, L"CreateFile(%ls): error code %ld\n", path.c_str(),
+               static_cast<long>(::GetLastError()));
     return 0;
   }
   LARGE_INTEGER size{};
   if (!::GetFileSizeEx(h, &size)) {
-    ::fwprintf(stream, L"GetFileSizeEx(%ls): error code %ld\n", path.c_str(), static_cast<long>(::GetLastError()));
+    ::fwprintf(stream, L"GetFileSizeEx(%ls): error code %ld\n", path.c_str(),
+               static_cast<long>(::GetLastError()));
     ::CloseHandle(h);
     return 0;
   }
@@ -61,7 +64,9 @@ bool rename_no_replace(const std::wstring& from, const std::wstring& to) {
   return ::_wrename(from.c_str(), to.c_str()) == 0;
 }
 
-bool remove_file(const std::wstring& path) { return ::_wremove(path.c_str()) == 0; }
+bool remove_file(const std::wstring& path) {
+  return ::_wremove(path.c_str()) == 0;
+}
 
 void write_text(FILE* stream, const std::string& utf8, bool is_file) {
   if (is_file) {
@@ -72,9 +77,13 @@ void write_text(FILE* stream, const std::string& utf8, bool is_file) {
   }
 }
 
-unsigned pid() { return static_cast<unsigned>(::GetCurrentProcessId()); }
+unsigned pid() {
+  return static_cast<unsigned>(::GetCurrentProcessId());
+}
 
-unsigned long tid() { return static_cast<unsigned long>(::GetCurrentThreadId()); }
+unsigned long tid() {
+  return static_cast<unsigned long>(::GetCurrentThreadId());
+}
 
 void local_now(std::tm& out, int& millis) {
   SYSTEMTIME st{};

@@ -84,7 +84,8 @@ std::wstring numbered(const std::wstring& path, int i) {
 // The renames run before the oldest file is removed and never replace an
 // existing file; that order is deliberate.
 void rotate(State& s) {
-  for (int i = s.keep - 2; i >= 0; --i) platform::rename_no_replace(numbered(s.path, i), numbered(s.path, i + 1));
+  for (int i = s.keep - 2; i >= 0; --i)
+    platform::rename_no_replace(numbered(s.path, i), numbered(s.path, i + 1));
   if (s.keep >= 1) platform::remove_file(numbered(s.path, s.keep - 1));
   std::fclose(s.file);
   s.file = nullptr;
@@ -128,7 +129,8 @@ std::string format_message(const char* format, va_list args) {
   const int n = std::vsnprintf(stack_buf, sizeof stack_buf, format, copy);
   va_end(copy);
   if (n < 0) return std::string();
-  if (static_cast<std::size_t>(n) < sizeof stack_buf) return std::string(stack_buf, static_cast<std::size_t>(n));
+  if (static_cast<std::size_t>(n) < sizeof stack_buf)
+    return std::string(stack_buf, static_cast<std::size_t>(n));
   std::string out(static_cast<std::size_t>(n) + 1, '\0');
   std::vsnprintf(out.data(), out.size(), format, args);
   out.resize(static_cast<std::size_t>(n));
@@ -197,7 +199,6 @@ int init(int output, const std::wstring& path, const std::wstring& settings_path
 void log(const char* logger, int level, const char* component, const char* format, ...) {
   State* s = find(logger);
   if (!s || !s->enabled) return;
-  if (s->output != kRawStderr && !s->file) return;
   {
     auto it = s->component_levels.find(component);
     const int limit = it == s->component_levels.end() ? kDefaultThreshold : it->second;
@@ -227,7 +228,9 @@ void log(const char* logger, int level, const char* component, const char* forma
     platform::write_text(stderr, message, false);
     return;
   }
-  if (!s->file) return;  // a failed rotation or reopen: dropped
+  // No open stream (a failed rotation or reopen): the line is dropped. Checked
+  // under the mutex because a rotation on another thread replaces the stream.
+  if (!s->file) return;
   const std::string stamp = time_stamp(level);
   platform::write_text(s->file, stamp + message, s->output == kRotatingFile);
   std::fflush(s->file);
@@ -272,8 +275,12 @@ std::string trace_tag() {
   return platform::get_env("VANTOR_LOG_TRACE", v) ? v : std::string();
 }
 
-unsigned current_pid() { return platform::pid(); }
-unsigned long current_tid() { return platform::tid(); }
+unsigned current_pid() {
+  return platform::pid();
+}
+unsigned long current_tid() {
+  return platform::tid();
+}
 
 const char* base_name(const char* path) {
   const char* base = path;

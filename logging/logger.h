@@ -46,9 +46,8 @@ constexpr int kDefaultThreshold = kWarning;
 // message, how many rotated files to keep and how many processes share the
 // file. Returns 0 on success, -1 when the log file cannot be opened (the
 // logger then stays disabled and drops every line).
-int init(int output, const std::wstring& path, const std::wstring& settings_path,
-         const std::string& prefix, int keep, int sharers,
-         const std::string& name = kDefaultLogger);
+int init(int output, const std::wstring& path, const std::wstring& settings_path, const std::string& prefix,
+         int keep, int sharers, const std::string& name = kDefaultLogger);
 
 // Writes one line if the logger is enabled and `level` is within the
 // component's threshold. `format` is a printf format whose first five
@@ -86,10 +85,10 @@ std::size_t utf16_length(const std::string& utf8);
 }  // namespace vlog
 
 // The trace tag lives in a temporary that outlasts the whole call.
-#define VLOG_LINE_(level, tag, component, fmt, ...)                                               \
-  ::vlog::log(::vlog::kDefaultLogger, level, component, tag "[%s:%d](%u,%lu){%s} " fmt "\n",      \
-              ::vlog::base_name(__FILE__), __LINE__, ::vlog::current_pid(),                      \
-              ::vlog::current_tid(), ::vlog::trace_tag().c_str(), ##__VA_ARGS__)
+#define VLOG_LINE_(level, tag, component, fmt, ...)                                                \
+  ::vlog::log(::vlog::kDefaultLogger, level, component, tag "[%s:%d](%u,%lu){%s} " fmt "\n",       \
+              ::vlog::base_name(__FILE__), __LINE__, ::vlog::current_pid(), ::vlog::current_tid(), \
+              ::vlog::trace_tag().c_str(), ##__VA_ARGS__)
 
 #define LOG_ERROR(component, fmt, ...) VLOG_LINE_(::vlog::kError, "[ERROR]", component, fmt, ##__VA_ARGS__)
 #define LOG_WARN(component, fmt, ...) VLOG_LINE_(::vlog::kWarning, "[WARNIN]", component, fmt, ##__VA_ARGS__)

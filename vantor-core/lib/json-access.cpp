@@ -69,16 +69,26 @@ bool has(const Json::Value& v, const char* key) {
   return v.isObject() && v.find(key, key + std::char_traits<char>::length(key)) != nullptr;
 }
 
-std::int64_t to_int64(const Json::Value& v, std::int64_t fallback) { return integral_or(v, fallback); }
-std::uint64_t to_uint64(const Json::Value& v, std::uint64_t fallback) { return integral_or(v, fallback); }
-std::int32_t to_int32(const Json::Value& v, std::int32_t fallback) { return integral_or(v, fallback); }
-std::uint32_t to_uint32(const Json::Value& v, std::uint32_t fallback) { return integral_or(v, fallback); }
+std::int64_t to_int64(const Json::Value& v, std::int64_t fallback) {
+  return integral_or(v, fallback);
+}
+std::uint64_t to_uint64(const Json::Value& v, std::uint64_t fallback) {
+  return integral_or(v, fallback);
+}
+std::int32_t to_int32(const Json::Value& v, std::int32_t fallback) {
+  return integral_or(v, fallback);
+}
+std::uint32_t to_uint32(const Json::Value& v, std::uint32_t fallback) {
+  return integral_or(v, fallback);
+}
 
 double to_double(const Json::Value& v, double fallback) {
   return v.isNumeric() && !v.isBool() ? v.asDouble() : fallback;
 }
 
-bool to_bool(const Json::Value& v, bool fallback) { return v.isBool() ? v.asBool() : fallback; }
+bool to_bool(const Json::Value& v, bool fallback) {
+  return v.isBool() ? v.asBool() : fallback;
+}
 
 std::string to_string(const Json::Value& v, const std::string& fallback) {
   return v.isString() ? v.asString() : fallback;
@@ -118,11 +128,15 @@ const Json::Value& get_array(const Json::Value& obj, const char* key) {
   return m.isArray() ? m : empty;
 }
 
-bool is_object(const Json::Value& v) { return v.isObject(); }
+bool is_object(const Json::Value& v) {
+  return v.isObject();
+}
 
 bool parse(const std::string& text, Json::Value& out, std::string* error, bool collect_comments) {
   Json::CharReaderBuilder builder;
   builder["collectComments"] = collect_comments;
+  // Anything but blanks after the document means a broken message.
+  builder["failIfExtra"] = true;
   std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
   std::string errs;
   Json::Value parsed;

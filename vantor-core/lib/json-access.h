@@ -41,8 +41,7 @@ std::int32_t get_int32(const Json::Value& obj, const char* key, std::int32_t fal
 std::uint32_t get_uint32(const Json::Value& obj, const char* key, std::uint32_t fallback = 0);
 double get_double(const Json::Value& obj, const char* key, double fallback = 0.0);
 bool get_bool(const Json::Value& obj, const char* key, bool fallback = false);
-std::string get_string(const Json::Value& obj, const char* key,
-                       const std::string& fallback = std::string());
+std::string get_string(const Json::Value& obj, const char* key, const std::string& fallback = std::string());
 
 // Containers: the member when it has the asked type, else a shared empty
 // object / array (so callers may iterate the result unconditionally).
@@ -50,7 +49,8 @@ const Json::Value& get_object(const Json::Value& obj, const char* key);
 const Json::Value& get_array(const Json::Value& obj, const char* key);
 bool is_object(const Json::Value& v);  // an object (not null)
 
-// Parsing without exceptions: false (and `error` filled) on bad text.
+// Parsing without exceptions: false (and `error` filled) on bad text, which
+// includes anything but blanks after the document.
 bool parse(const std::string& text, Json::Value& out, std::string* error = nullptr,
            bool collect_comments = false);
 // Compact one-line serialisation ({"a":1}), for replies and log lines.

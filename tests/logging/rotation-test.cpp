@@ -1,0 +1,229 @@
+// Size rotation, the numbered files, shared files and many threads at once.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdio>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "log-test-util.h"
+#include "logger.h"
+#include "support/temp-dir.h"
+
+using logtest::read_log;
+using logtest::wide;
+using nimbra_test::file_exists;
+using nimbra_test::TempDir;
+
+namespace {
+
+constexpr std::uint32_t kRotateAt = 1048577;
+
+class RotationTest : public ::testing::Test {
+ protected:
+  void TearDown() override {
+    vlog::shutdown();
+    vlog::shutdown("SECOND");
+  }
+  std::string path() const { return dir.file("ui.txt"); }
+  std::string numbered(int i) const { return path() + "_" + std::to_string(i); }
+  void start(int keep) { ASSERT_EQ(0, vlog::init(vlog::kRotatingFile, wide(path()), L"", "", keep, 1)); }
+  // One line long enough to rotate on its own, tagged with `id`.
+  static void huge_line(int id) {
+    static const std::string padding(kRotateAt, 'p');
+    vlog::log(vlog::kDefaultLogger, vlog::kError, vlog::kDefaultComponent, "line %03d %s\n", id,
+              padding.c_str());
+  }
+  // The id of the only line in the file, or -1.
+  static int id_in(const std::string& file) {
+    const std::string text = read_log(file);
+    const auto at = text.find("line ");
+    if (at == std::string::npos || text.find("line ", at + 1) != std::string::npos) return -1;
+    return std::atoi(text.c_str() + at + 5);
+  }
+
+  TempDir dir;
+};
+
+// ---- the boundary ----
+
+struct BoundaryCase {
+  const char* name;
+  // The file is primed so that `written` starts at kRotateAt - line + delta,
+  // or at `absolute` when that is not 0.
+  long delta;
+  std::uint32_t absolute;
+  bool rotates;
+};
+
+void PrintTo(const BoundaryCase& c, std::ostream* os) {
+  *os << c.name;
+}
+
+class BoundaryTest : public RotationTest, public ::testing::WithParamInterface<BoundaryCase> {};
+
+TEST_P(BoundaryTest, RotatesOnceWrittenReachesTheLimit) {
+  const BoundaryCase& c = GetParam();
+  // Measure one line (stamp and message) in a file of its own.
+  TempDir probe_dir;
+  ASSERT_EQ(0, vlog::init(vlog::kRotatingFile, wide(probe_dir.file("probe.txt")), L"", "", 50, 1));
+  vlog::log(vlog::kDefaultLogger, vlog::kError, vlog::kDefaultComponent, "ten chars\n");
+  const std::uint32_t line = vlog::written();
+  vlog::shutdown();
+  ASSERT_GE(line, 10u);
+
+  const std::uint32_t primed =
+      c.absolute ? c.absolute : static_cast<std::uint32_t>(static_cast<long>(kRotateAt - line) + c.delta);
+  nimbra_test::write_file(path(), std::string(primed, 'o'));
+  start(50);
+  ASSERT_EQ(primed, vlog::written());
+  vlog::log(vlog::kDefaultLogger, vlog::kError, vlog::kDefaultComponent, "ten chars\n");
+
+  if (c.rotates) {
+    EXPECT_EQ(0u, vlog::written());
+    ASSERT_TRUE(file_exists(numbered(0)));
+    const std::string rotated = read_log(numbered(0));
+    EXPECT_EQ(primed + line, vlog::utf16_length(rotated));
+    EXPECT_THAT(rotated, ::testing::EndsWith("ten chars\n"));
+    EXPECT_EQ("", read_log(path()));
+    // The next line goes to the fresh file.
+    vlog::log(vlog::kDefaultLogger, vlog::kError, vlog::kDefaultComponent, "after\n");
+    EXPECT_THAT(read_log(path()), ::testing::EndsWith("after\n"));
+    EXPECT_FALSE(file_exists(numbered(1)));
+  } else {
+    EXPECT_EQ(primed + line, vlog::written());
+    EXPECT_FALSE(file_exists(numbered(0)));
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Limit, BoundaryTest,
+    ::testing::Values(BoundaryCase{"one_short_of_the_limit", -1, 0, false},
+                      BoundaryCase{"exactly_at_the_limit", 0, 0, true},
+                      BoundaryCase{"one_past_the_limit", 1, 0, true},
+                      BoundaryCase{"from_1048570_with_a_ten_character_message", 0, 1048570, true}),
+    [](const ::testing::TestParamInfo<BoundaryCase>& p) { return std::string(p.param.name); });
+
+// ---- numbered files ----
+
+TEST_F(RotationTest, FiftyOneRotationsWithKeepFiftyLeaveTheNewestFortyNine) {
+  start(50);
+  for (int id = 1; id <= 51; ++id) huge_line(id);
+  // P_0 is the newest; with the renames before the removal, P_49 is made and
+  // removed again on every rotation.
+  for (int i = 0; i <= 48; ++i) EXPECT_EQ(51 - i, id_in(numbered(i))) << "file _" << i;
+  EXPECT_FALSE(file_exists(numbered(49)));
+  EXPECT_FALSE(file_exists(numbered(50)));
+  EXPECT_EQ("", read_log(path()));
+}
+
+TEST_F(RotationTest, SmallKeepDropsTheOldestFiles) {
+  start(3);
+  for (int id = 1; id <= 5; ++id) huge_line(id);
+  EXPECT_EQ(5, id_in(numbered(0)));
+  EXPECT_EQ(4, id_in(numbered(1)));
+  EXPECT_FALSE(file_exists(numbered(2)));
+  EXPECT_FALSE(file_exists(numbered(3)));
+}
+
+TEST_F(RotationTest, KeepOneKeepsOnlyTheLastRotatedFile) {
+  start(1);
+  for (int id = 1; id <= 3; ++id) huge_line(id);
+  EXPECT_EQ(3, id_in(numbered(0)));
+  EXPECT_FALSE(file_exists(numbered(1)));
+}
+
+TEST_F(RotationTest, RenamesNeverReplaceAndAFailedRotationDropsLaterLines) {
+  nimbra_test::write_file(numbered(0), "old zero\n");
+  nimbra_test::write_file(numbered(1), "old one\n");
+  nimbra_test::write_file(numbered(2), "stray\n");
+  start(3);
+  huge_line(1);  // every rename meets an existing name; P -> P_0 fails too
+  EXPECT_EQ("old zero\n", read_log(numbered(0)));
+  EXPECT_EQ("old one\n", read_log(numbered(1)));
+  EXPECT_FALSE(file_exists(numbered(2)));  // the removal still ran
+  EXPECT_EQ(1, id_in(path()));
+  // The stream stays closed: later lines are dropped, quietly.
+  vlog::log(vlog::kDefaultLogger, vlog::kError, vlog::kDefaultComponent, "dropped\n");
+  EXPECT_THAT(read_log(path()), ::testing::Not(::testing::HasSubstr("dropped")));
+  // A new init opens the file again; it is still over the limit, so the
+  // next line rotates, and this time the names are free.
+  vlog::shutdown();
+  start(3);
+  vlog::log(vlog::kDefaultLogger, vlog::kError, vlog::kDefaultComponent, "back\n");
+  EXPECT_THAT(read_log(numbered(0)), ::testing::EndsWith("back\n"));
+  EXPECT_EQ("old zero\n", read_log(numbered(1)));
+  EXPECT_FALSE(file_exists(numbered(2)));
+  EXPECT_EQ("", read_log(path()));
+}
+
+// ---- two logger states on one file ----
+
+class SharersTest : public RotationTest, public ::testing::WithParamInterface<int> {};
+
+TEST_P(SharersTest, AStateThatShareTheFileFollowsTheRotationOnlyFromTwoSharers) {
+#ifdef _WIN32
+  GTEST_SKIP() << "a C runtime stream does not let another handle rename its file";
+#endif
+  const int sharers = GetParam();
+  ASSERT_EQ(0, vlog::init(vlog::kRotatingFile, wide(path()), L"", "", 50, sharers));
+  ASSERT_EQ(0, vlog::init(vlog::kRotatingFile, wide(path()), L"", "", 50, sharers, "SECOND"));
+  huge_line(1);  // the first state rotates
+  ASSERT_TRUE(file_exists(numbered(0)));
+  vlog::log("SECOND", vlog::kError, vlog::kDefaultComponent, "from second\n");
+  if (sharers >= 2) {
+    EXPECT_THAT(read_log(path()), ::testing::EndsWith("from second\n"));
+    EXPECT_THAT(read_log(numbered(0)), ::testing::Not(::testing::HasSubstr("from second")));
+  } else {
+    // One sharer: no reopen, the old stream still writes the renamed file.
+    EXPECT_THAT(read_log(numbered(0)), ::testing::EndsWith("from second\n"));
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Counts, SharersTest, ::testing::Values(1, 2));
+
+// ---- threads ----
+
+TEST_F(RotationTest, FourThreadsLoseAndInterleaveNoLine) {
+  constexpr int kThreads = 4;
+  constexpr int kLines = 50000;
+  start(50);
+  std::vector<std::thread> threads;
+  for (int t = 0; t < kThreads; ++t)
+    threads.emplace_back([t] {
+      for (int n = 0; n < kLines; ++n) LOG_ERROR(vlog::kDefaultComponent, "thread %d line %06d end", t, n);
+    });
+  for (auto& th : threads) th.join();
+  vlog::shutdown();
+
+  // Oldest file first, so that every thread's lines come in order.
+  std::vector<std::string> files;
+  for (int i = 49; i >= 0; --i)
+    if (file_exists(numbered(i))) files.push_back(numbered(i));
+  files.push_back(path());
+  ASSERT_GE(files.size(), 2u) << "200,000 lines should have rotated at least once";
+
+  std::array<int, kThreads> next{};
+  long total = 0;
+  for (const auto& f : files) {
+    for (const std::string& line : logtest::split_lines(read_log(f))) {
+      const auto brace = line.find("} thread ");
+      ASSERT_NE(std::string::npos, brace) << line;
+      int t = -1, n = -1;
+      char end[8] = {};
+      ASSERT_EQ(3, std::sscanf(line.c_str() + brace, "} thread %d line %d %7s", &t, &n, end)) << line;
+      ASSERT_TRUE(t >= 0 && t < kThreads) << line;
+      ASSERT_EQ(next[static_cast<std::size_t>(t)], n) << "thread " << t << ": " << line;
+      ASSERT_STREQ("end", end) << line;
+      // Exactly one header per line: a second one means two lines ran together.
+      ASSERT_EQ(line.find("[ERROR]"), line.rfind("[ERROR]")) << line;
+      ++next[static_cast<std::size_t>(t)];
+      ++total;
+    }
+  }
+  EXPECT_EQ(long{kThreads} * kLines, total);
+}
+
+}  // namespace
