@@ -1,0 +1,38 @@
+# Translations of the agent's texts.
+#
+# resource/translations/<lang>.ts (refreshed from the sources by
+# scripts/translations, or `cmake --build <dir> --target translations_update`)
+# are compiled by lrelease into <lang>.qm at build time and embedded into
+# agent_core as the Qt resources ":/<lang>.qm" that start-up loads.
+
+set(NIMBRA_LANGUAGES ger fre spn tha cht chs jpn krn)
+set(nimbra_ts_dir ${CMAKE_SOURCE_DIR}/resource/translations)
+set(nimbra_qm_dir ${CMAKE_CURRENT_BINARY_DIR}/translations)
+file(MAKE_DIRECTORY ${nimbra_qm_dir})
+
+set(nimbra_ts_files)
+set(nimbra_qrc_entries)
+foreach(lang IN LISTS NIMBRA_LANGUAGES)
+  list(APPEND nimbra_ts_files ${nimbra_ts_dir}/${lang}.ts)
+  string(APPEND nimbra_qrc_entries "    <file>${lang}.qm</file>\n")
+endforeach()
+set_source_files_properties(${nimbra_ts_files} PROPERTIES OUTPUT_LOCATION ${nimbra_qm_dir})
+qt5_add_translation(nimbra_qm_files ${nimbra_ts_files})
+
+# The .qrc lives beside the .qm files it lists; it is rewritten only when the
+# language list changes.
+set(nimbra_qrc ${nimbra_qm_dir}/nimbra_translations.qrc)
+file(CONFIGURE OUTPUT ${nimbra_qrc}
+     CONTENT "<RCC>\n  <qresource prefix=\"/\">\n${nimbra_qrc_entries}  </qresource>\n</RCC>\n")
+qt5_add_resources(nimbra_translation_sources ${nimbra_qrc} OPTIONS -name nimbra_translations)
+set_source_files_properties(${nimbra_translation_sources} PROPERTIES SKIP_AUTOGEN ON)
+target_sources(agent_core PRIVATE ${nimbra_translation_sources} ${nimbra_qm_files})
+
+find_program(NIMBRA_LUPDATE NAMES lupdate-qt5 lupdate HINTS /usr/lib/qt5/bin)
+if(NIMBRA_LUPDATE)
+  add_custom_target(translations_update
+    COMMAND ${CMAKE_COMMAND} -E env LUPDATE=${NIMBRA_LUPDATE} ${CMAKE_SOURCE_DIR}/scripts/translations
+    WORKING_DIRECTORY ${CMAKE_SOURCE_DIR}
+    COMMENT "Refreshing resource/translations/*.ts from the sources"
+    VERBATIM)
+endif()

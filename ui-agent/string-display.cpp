@@ -1,0 +1,525 @@
+// Catalogue lookup, placeholders, sizes and activity event messages.
+#include "string-display.h"
+
+#include <QApplication>
+#include <QCoreApplication>
+#include <QFontMetrics>
+#include <QHash>
+#include <QJsonDocument>
+#include <QJsonValue>
+#include <QTranslator>
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+#include <mutex>
+#include <vector>
+
+#include "dpi-info.h"
+#include "json-access.h"
+#include "logger.h"
+#include "string-catalogue-table.h"
+
+// The translations are compiled into a resource of agent_core; the resource
+// object is always linked because init_resources() refers to it.
+static void nimbra_init_translation_resources() {
+  Q_INIT_RESOURCE(nimbra_translations);
+}
+
+namespace string_display {
+namespace {
+
+constexpr char kContext[] = "global";
+
+// A value inserted into a text: its position and length in the result.
+struct Span {
+  int start;
+  int length;
+};
+
+// ---- event table ---------------------------------------------------------
+
+struct EventType {
+  quint32 type;
+  EventKind kind;
+  Str row;
+  int value_count;  // named kind: how many values, in order
+  // Body members supplying the values; nullptr stands for the one fixed value
+  // that does not come from the body (an empty text).
+  const char* values[2];
+};
+
+// clang-format off
+constexpr EventType kEvents[] = {
+    {1000, EventKind::Fixed, Str::internal_error, 0, {nullptr}},
+    {1101, EventKind::Fixed, Str::task_start, 0, {nullptr}},
+    {1102, EventKind::Fixed, Str::task_finish, 0, {nullptr}},
+    {1103, EventKind::Fixed, Str::task_cancel, 0, {nullptr}},
+    {1104, EventKind::Fixed, Str::task_error, 0, {nullptr}},
+    {1108, EventKind::Fixed, Str::task_partial_success, 0, {nullptr}},
+    {1115, EventKind::Named, Str::task_start_by_event, 1, {"trigger_event"}},
+    {1124, EventKind::Named, Str::task_ignored_by_backup_window, 1, {"task_name"}},
+    {1132, EventKind::Named, Str::task_paused_by_backup_window, 1, {"task_name"}},
+    {1133, EventKind::Named, Str::task_resumed_by_backup_window, 1, {"task_name"}},
+    {1137, EventKind::Fixed, Str::task_same_backup_exist, 0, {nullptr}},
+    {1145, EventKind::Named, Str::task_cancelled_by_backup_window, 1, {"task_name"}},
+    {1201, EventKind::Named, Str::restore_start, 1, {"destination"}},
+    {1202, EventKind::Named, Str::restore_cancel, 1, {"destination"}},
+    {1203, EventKind::Named, Str::restore_finish, 1, {"destination"}},
+    {1204, EventKind::Named, Str::restore_error, 1, {"destination"}},
+    {1208, EventKind::Named, Str::restore_partial_success, 1, {"destination"}},
+    {5001, EventKind::Named, Str::log_connection, 1, {"email"}},
+    {6003, EventKind::Named, Str::path_restore, 1, {"path"}},
+    {6004, EventKind::Named, Str::path_restore_skip, 1, {"path"}},
+    {6005, EventKind::Named, Str::path_restore_overwrite, 1, {"path"}},
+    {6006, EventKind::Named, Str::path_restore_error, 1, {"path"}},
+    {6011, EventKind::Named, Str::path_restore_not_support, 1, {"path"}},
+    {6015, EventKind::Generic, Str::path_restore_parent_not_exist, 0, {nullptr}},
+    {6016, EventKind::Generic, Str::path_restore_parent_type_conflict, 0, {nullptr}},
+    {6017, EventKind::Named, Str::path_restore_no_permission, 1, {"path"}},
+    {6018, EventKind::Named, Str::path_restore_source_error, 2, {"path", "error_code"}},
+    {6019, EventKind::Named, Str::path_restore_metadata_error, 1, {"path"}},
+    {7001, EventKind::Fixed, Str::pc_collect_device_spec, 0, {nullptr}},
+    {7002, EventKind::Named, Str::pc_take_snapshot_start, 1, {"volume_name"}},
+    {7003, EventKind::Named, Str::pc_take_snapshot_finish, 1, {"volume_name"}},
+    {7004, EventKind::Named, Str::pc_take_snapshot_finish_error, 2, {"volume_name", "error_code"}},
+    {7005, EventKind::Named, Str::pc_take_snapshot_set_start, 1, {"volume_name"}},
+    {7006, EventKind::Named, Str::pc_take_snapshot_set_finish, 1, {"volume_name"}},
+    {7007, EventKind::Named, Str::pc_take_snapshot_set_finish_error, 1, {"volume_name"}},
+    {7009, EventKind::Fixed, Str::pc_upload_device_spec_start, 0, {nullptr}},
+    {7010, EventKind::Fixed, Str::pc_upload_device_spec_finish, 0, {nullptr}},
+    {7011, EventKind::Fixed, Str::pc_upload_device_spec_finish_error, 0, {nullptr}},
+    {7012, EventKind::Named, Str::pc_upload_volume_start, 1, {"volume_name"}},
+    {7013, EventKind::Named, Str::pc_upload_volume_finish, 1, {"volume_name"}},
+    {7014, EventKind::Named, Str::pc_upload_volume_finish_error, 1, {"volume_name"}},
+    {7016, EventKind::Fixed, Str::log_pc_update_agent_error, 0, {nullptr}},
+    {7020, EventKind::Named, Str::pc_read_snapshot_error, 1, {"error_code"}},
+    {7021, EventKind::Named, Str::pc_snapshot_not_found, 1, {"volume_name"}},
+    {7036, EventKind::Named, Str::pc_unsupported_dynamic_volume, 1, {"volume_name"}},
+    {7037, EventKind::Named, Str::pc_unsupported_file_system, 1, {"volume_name"}},
+    {7038, EventKind::Named, Str::pc_backup_access_denied, 2, {"volume_name", "error_code"}},
+    {7039, EventKind::Named, Str::pc_backup_sector_not_found, 2, {"volume_name", "error_code"}},
+    {7040, EventKind::Named, Str::pc_backup_path_not_found, 2, {"volume_name", "error_code"}},
+    {7041, EventKind::Named, Str::pc_backup_invalid_function, 2, {"volume_name", "error_code"}},
+    {7042, EventKind::Named, Str::pc_snapshot_open_error, 2, {"volume_name", "error_code"}},
+    {7043, EventKind::Named, Str::pc_backup_device_busy, 2, {"volume_name", "error_code"}},
+    {7044, EventKind::Generic, Str::pc_snapshot_skip_bad_cluster, 0, {nullptr}},
+    {7045, EventKind::Fixed, Str::pc_exec_pre_script, 0, {nullptr}},
+    {7046, EventKind::Generic, Str::pc_exec_pre_script_ignore_failure, 0, {nullptr}},
+    {7047, EventKind::Generic, Str::pc_exec_pre_script_error, 0, {nullptr}},
+    {7048, EventKind::Named, Str::pc_exec_pre_script_timeout, 1, {nullptr}},
+    {7049, EventKind::Fixed, Str::pc_exec_post_script, 0, {nullptr}},
+    {7050, EventKind::Generic, Str::pc_exec_post_script_ignore_failure, 0, {nullptr}},
+    {7051, EventKind::Generic, Str::pc_exec_post_script_error, 0, {nullptr}},
+    {7052, EventKind::Named, Str::pc_exec_post_script_timeout, 1, {nullptr}},
+    {7053, EventKind::Fixed, Str::pc_exec_script_client_can_not_access, 0, {nullptr}},
+    {7054, EventKind::Fixed, Str::pc_exec_script_server_can_not_access, 0, {nullptr}},
+    {7055, EventKind::Fixed, Str::pc_exec_script_size_too_large, 0, {nullptr}},
+    {7067, EventKind::Fixed, Str::pc_upload_script_output_file_error, 0, {nullptr}},
+    {7068, EventKind::Generic, Str::pc_exclude_volume_removable, 0, {nullptr}},
+    {7069, EventKind::Generic, Str::pc_exclude_volume_external, 0, {nullptr}},
+    {7070, EventKind::Generic, Str::pc_exclude_volume_unsupported_bus, 0, {nullptr}},
+    {7071, EventKind::Generic, Str::pc_exclude_volume_unsupported_device, 0, {nullptr}},
+    {7072, EventKind::Generic, Str::pc_exclude_volume_unsupported_fs, 0, {nullptr}},
+    {7073, EventKind::Generic, Str::pc_exclude_volume_unknown_fs, 0, {nullptr}},
+    {7074, EventKind::Generic, Str::pc_exclude_volume_info_error, 0, {nullptr}},
+    {7075, EventKind::Generic, Str::pc_shadow_not_found, 0, {nullptr}},
+    {7076, EventKind::Named, Str::windows_take_snapshot_finish_error, 2, {"volume_name", "error_code"}},
+    {7077, EventKind::Named, Str::windows_read_snapshot_error, 1, {"error_code"}},
+    {7078, EventKind::Named, Str::windows_snapshot_open_error, 2, {"error_code", "volume_name"}},
+    {7079, EventKind::Named, Str::windows_backup_access_denied, 2, {"volume_name", "error_code"}},
+    {7080, EventKind::Named, Str::windows_backup_sector_not_found, 2, {"volume_name", "error_code"}},
+    {7081, EventKind::Named, Str::windows_backup_path_not_found, 2, {"volume_name", "error_code"}},
+    {7082, EventKind::Named, Str::windows_backup_invalid_function, 2, {"volume_name", "error_code"}},
+    {7083, EventKind::Fixed, Str::pc_snapshot_no_available_volume, 0, {nullptr}},
+    {7084, EventKind::Named, Str::pc_custom_vol_not_found, 1, {"plan_name"}},
+    {7085, EventKind::Fixed, Str::pc_backup_time_skew, 0, {nullptr}},
+    {7086, EventKind::Fixed, Str::pc_cancel_due_to_resume, 0, {nullptr}},
+    {7087, EventKind::Generic, Str::pc_create_cache_volume, 0, {nullptr}},
+    {7088, EventKind::Generic, Str::pc_exclude_volume_unrecognize, 0, {nullptr}},
+    {7089, EventKind::Generic, Str::pc_snapshot_need_full_access, 0, {nullptr}},
+    {7090, EventKind::Generic, Str::pc_asr_failed, 0, {nullptr}},
+    {7091, EventKind::Generic, Str::pc_asr_failed_need_restart, 0, {nullptr}},
+    {7092, EventKind::Generic, Str::pc_upload_need_kext_allow, 0, {nullptr}},
+    {7093, EventKind::Generic, Str::pc_cache_not_found, 0, {nullptr}},
+    {7094, EventKind::Generic, Str::pc_mac_snapshot_not_found, 0, {nullptr}},
+    {7095, EventKind::Generic, Str::pc_asr_cbt_failed, 0, {nullptr}},
+    {7096, EventKind::Generic, Str::pc_take_snapshot_start_all, 0, {nullptr}},
+    {7097, EventKind::Generic, Str::pc_take_snapshot_finish_all, 0, {nullptr}},
+    {7098, EventKind::Generic, Str::pc_backup_hidden_auth_failed, 0, {nullptr}},
+    {7099, EventKind::Generic, Str::pc_mac_encrypted_volume_cannot_be_mounted, 0, {nullptr}},
+    {7100, EventKind::Generic, Str::pc_backup_need_full_disk_access, 0, {nullptr}},
+    {7101, EventKind::Fixed, Str::pc_need_reset_smc, 0, {nullptr}},
+    {7102, EventKind::Named, Str::pc_volume_fsck_fail, 1, {"volume_name"}},
+    {7103, EventKind::Named, Str::pc_volume_inode_corrupt, 2, {"volume_name", "inode_number"}},
+    {7104, EventKind::Generic, Str::pc_hfs_not_mount, 0, {nullptr}},
+    {8001, EventKind::Fixed, Str::reason_no_space, 0, {nullptr}},
+    {8002, EventKind::Fixed, Str::reason_no_perm, 0, {nullptr}},
+    {8003, EventKind::Fixed, Str::reason_no_quota, 0, {nullptr}},
+    {8004, EventKind::Fixed, Str::reason_readonly_fs, 0, {nullptr}},
+    {8005, EventKind::Fixed, Str::reason_io_err, 0, {nullptr}},
+    {8006, EventKind::Fixed, Str::reason_data_corrupt, 0, {nullptr}},
+    {8014, EventKind::Fixed, Str::reason_plan_quota_exceeded, 0, {nullptr}},
+    {8015, EventKind::Fixed, Str::reason_memory_not_enough, 0, {nullptr}},
+    {8016, EventKind::Fixed, Str::reason_network_error, 0, {nullptr}},
+    {8017, EventKind::Fixed, Str::reason_no_address, 0, {nullptr}},
+    {8018, EventKind::Fixed, Str::reason_request_timeout, 0, {nullptr}},
+    {8019, EventKind::Fixed, Str::reason_unauthorized, 0, {nullptr}},
+    {8020, EventKind::Fixed, Str::reason_agent_lack_capabilities, 0, {nullptr}},
+    {8300, EventKind::Fixed, Str::err_backup_role_invalid, 0, {nullptr}},
+};
+// clang-format on
+
+constexpr bool events_sorted() {
+  for (std::size_t i = 1; i < std::size(kEvents); ++i) {
+    if (kEvents[i - 1].type >= kEvents[i].type) return false;
+  }
+  return true;
+}
+static_assert(events_sorted(), "event types must be sorted for the binary search");
+static_assert(std::size(kEvents) == 116, "36 fixed, 50 named and 30 generic types");
+
+const EventType* find_event(quint32 type) {
+  const EventType* end = std::end(kEvents);
+  const EventType* it = std::lower_bound(std::begin(kEvents), end, type,
+                                         [](const EventType& e, quint32 t) { return e.type < t; });
+  return it != end && it->type == type ? it : nullptr;
+}
+
+// ---- placeholder helpers -----------------------------------------------------
+
+// One {name} of a template: the braces' positions.
+struct Placeholder {
+  int open;
+  int close;
+};
+
+// First "{" and first "}" from the current start; stop unless both exist and
+// the "}" comes after the "{"; continue after the "}".
+std::vector<Placeholder> scan_placeholders(const QString& tmpl) {
+  std::vector<Placeholder> found;
+  int start = 0;
+  for (;;) {
+    const int open = tmpl.indexOf(QLatin1Char('{'), start);
+    const int close = tmpl.indexOf(QLatin1Char('}'), start);
+    if (open < 0 || close < 0 || close < open) break;
+    found.push_back({open, close});
+    start = close + 1;
+  }
+  return found;
+}
+
+QString json_value_text(const QJsonValue& v) {
+  switch (v.type()) {
+    case QJsonValue::String:
+      return v.toString();
+    case QJsonValue::Bool:
+      return v.toBool() ? QStringLiteral("1") : QStringLiteral("0");
+    case QJsonValue::Double:
+      return QString::number(v.toDouble(), 'g', 6);
+    default:
+      return QString();
+  }
+}
+
+// The template with every placeholder replaced by its value, and where the
+// values went. The template's own text is copied as it is, and values are not
+// looked at again, so a value holding "%1" or braces stays literal.
+QString fill_placeholders(const QString& tmpl, const QJsonObject& values, std::vector<Span>& spans) {
+  const std::vector<Placeholder> found = scan_placeholders(tmpl);
+  QString out;
+  out.reserve(tmpl.size() + 16 * static_cast<int>(found.size()));
+  int pos = 0;
+  for (const Placeholder& p : found) {
+    out.append(tmpl.midRef(pos, p.open - pos));
+    const QString value = json_value_text(values.value(tmpl.mid(p.open + 1, p.close - p.open - 1)));
+    spans.push_back({out.size(), value.size()});
+    out.append(value);
+    pos = p.close + 1;
+  }
+  out.append(tmpl.midRef(pos));
+  return out;
+}
+
+// Wraps the spans in bold, keeping only the part of each span that lies
+// before `visible` (everything after it is copied unchanged).
+QString wrap_bold(const QString& text, const std::vector<Span>& spans, int visible, bool whole) {
+  QString out;
+  out.reserve(text.size() + 7 * static_cast<int>(spans.size()));
+  int pos = 0;
+  for (const Span& s : spans) {
+    const bool present = s.start < visible || (whole && s.start <= visible);
+    if (!present) break;
+    const int end = std::min(s.start + s.length, visible);
+    out.append(text.midRef(pos, s.start - pos));
+    out.append(QLatin1String("<b>"));
+    out.append(text.midRef(s.start, end - s.start));
+    out.append(QLatin1String("</b>"));
+    pos = end;
+  }
+  out.append(text.midRef(pos));
+  return out;
+}
+
+// Length of the text with every match of "<[^>]*>" removed, subtracted from
+// its length: how many characters are markup.
+int markup_length(const QString& tmpl) {
+  int markup = 0;
+  int i = 0;
+  const int n = tmpl.size();
+  while (i < n) {
+    if (tmpl.at(i) == QLatin1Char('<')) {
+      const int close = tmpl.indexOf(QLatin1Char('>'), i + 1);
+      if (close < 0) break;  // no later "<" can close either
+      markup += close - i + 1;
+      i = close + 1;
+    } else {
+      ++i;
+    }
+  }
+  return markup;
+}
+
+// Qt's eliding shows a line feed as a line separator.
+bool same_char(QChar a, QChar b) {
+  if (a == b) return true;
+  auto norm = [](QChar c) { return c == QLatin1Char('\n') ? QChar(QChar::LineSeparator) : c; };
+  return norm(a) == norm(b);
+}
+
+// The rich ending shared by the named and generic kinds: elide the filled
+// text to `width` pixels, then put the values that are still shown in bold.
+QString elide_and_embolden(const QFontMetrics& fm, const QString& filled, const std::vector<Span>& spans,
+                           int width) {
+  const QString elided = fm.elidedText(filled, Qt::ElideRight, width, 0);
+  int kept = 0;
+  const int limit = std::min(filled.size(), elided.size());
+  while (kept < limit && same_char(filled.at(kept), elided.at(kept))) ++kept;
+  const bool whole = kept == filled.size() && elided.size() == filled.size();
+  if (whole) return wrap_bold(filled, spans, filled.size(), true);
+  // The kept part of the original (with bold values), then Qt's tail (the
+  // ellipsis).
+  QString head = wrap_bold(filled.left(kept), spans, kept, false);
+  return head + elided.midRef(kept);
+}
+
+// Named kind: "{...}" spans become %1, %2, ... in order of appearance,
+// searching both braces from the start every time.
+QString to_markers(QString tmpl) {
+  int counter = 1;
+  for (;;) {
+    const int open = tmpl.indexOf(QLatin1Char('{'));
+    const int close = tmpl.indexOf(QLatin1Char('}'));
+    if (open < 0 || close < 0 || close < open) break;
+    tmpl.replace(open, close - open + 1, QLatin1Char('%') + QString::number(counter++));
+  }
+  return tmpl;
+}
+
+// Puts the i-th value on every marker %i (1 <= i <= values), like
+// QString::arg with one call per value but in a single pass, so that a value
+// holding a marker is not filled again. Other markers stay as they are.
+QString fill_markers(const QString& tmpl, const QStringList& values, std::vector<Span>* spans) {
+  QString out;
+  out.reserve(tmpl.size() + 32);
+  const int n = tmpl.size();
+  int pos = 0;
+  int i = 0;
+  while (i < n) {
+    if (tmpl.at(i) != QLatin1Char('%') || i + 1 >= n || !tmpl.at(i + 1).isDigit()) {
+      ++i;
+      continue;
+    }
+    int j = i + 1;
+    int number = 0;
+    // At most two digits, as QString::arg reads them.
+    while (j < n && j < i + 3 && tmpl.at(j).isDigit()) number = number * 10 + tmpl.at(j++).digitValue();
+    if (number < 1 || number > values.size()) {
+      i = j;
+      continue;
+    }
+    out.append(tmpl.midRef(pos, i - pos));
+    const QString& value = values.at(number - 1);
+    if (spans) spans->push_back({out.size(), value.size()});
+    out.append(value);
+    pos = i = j;
+  }
+  out.append(tmpl.midRef(pos));
+  return out;
+}
+
+// Device pixels granted to a rich message.
+int width_budget(int limit) {
+  return static_cast<int>(std::trunc(DPIinfo::getDPI() * (limit - 20)));
+}
+
+}  // namespace
+
+// ---- catalogue -------------------------------------------------------------------
+
+QString expand_escapes(QString text) {
+  text.replace(QLatin1String("\\n"), QLatin1String("\n"));
+  text.replace(QLatin1String("\\t"), QLatin1String("\t"));
+  return text;
+}
+
+QString text(Str row) {
+  const int index = static_cast<int>(row);
+  if (index < 0 || index >= kStrCount) {
+    LOG_WARN(vlog::kDefaultComponent, "no catalogue row %d", index);
+    return QString();
+  }
+  return expand_escapes(QCoreApplication::translate(kContext, catalogue_rows()[index].source));
+}
+
+QString key(Str row) {
+  const int index = static_cast<int>(row);
+  if (index < 0 || index >= kStrCount) return QString();
+  return QString::fromLatin1(catalogue_rows()[index].key);
+}
+
+QString source_text(Str row) {
+  const int index = static_cast<int>(row);
+  if (index < 0 || index >= kStrCount) return QString();
+  return QString::fromUtf8(catalogue_rows()[index].source);
+}
+
+std::optional<Str> find_row(const QString& key) {
+  static const QHash<QString, Str> by_key = [] {
+    QHash<QString, Str> map;
+    map.reserve(kStrCount);
+    for (int i = 0; i < kStrCount; ++i) map.insert(QString::fromLatin1(catalogue_rows()[i].key), Str(i));
+    return map;
+  }();
+  const auto it = by_key.constFind(key);
+  if (it == by_key.constEnd()) return std::nullopt;
+  return *it;
+}
+
+QString text_by_key(const QString& key) {
+  const std::optional<Str> row = find_row(key);
+  if (!row) {
+    LOG_WARN(vlog::kDefaultComponent, "no catalogue text for key '%s'", key.toUtf8().constData());
+    return QString();
+  }
+  return text(*row);
+}
+
+// ---- translations --------------------------------------------------------------------
+
+QStringList translation_languages() {
+  return {QStringLiteral("ger"), QStringLiteral("fre"), QStringLiteral("spn"), QStringLiteral("tha"),
+          QStringLiteral("cht"), QStringLiteral("chs"), QStringLiteral("jpn"), QStringLiteral("krn")};
+}
+
+QString translation_resource(const QString& language) {
+  return QStringLiteral(":/") + language + QStringLiteral(".qm");
+}
+
+void init_resources() {
+  static std::once_flag once;
+  std::call_once(once, [] { nimbra_init_translation_resources(); });
+}
+
+bool load_translation(QTranslator& translator, const QString& language) {
+  init_resources();
+  const QString resource = translation_resource(language);
+  if (translator.load(resource)) return true;
+  LOG_WARN(vlog::kDefaultComponent, "cannot load translation %s", resource.toUtf8().constData());
+  return false;
+}
+
+// ---- placeholders and sizes ------------------------------------------------------------
+
+QString expand_placeholders(const QString& tmpl, const QJsonObject& values) {
+  std::vector<Span> spans;
+  const QString filled = fill_placeholders(tmpl, values, spans);
+  return wrap_bold(filled, spans, filled.size(), true);
+}
+
+SizeText format_size(quint64 bytes, bool decimal) {
+  const quint64 b = decimal ? 1000 : 1024;
+  const double bd = static_cast<double>(b);
+  const double value = static_cast<double>(bytes);
+  auto number = [](double x) { return QString::number(x, 'g', 3); };
+  if (bytes >= b * b * b * 1000) return {number(value / (bd * bd * bd * bd)), QStringLiteral("TB")};
+  if (bytes >= b * b * 1000) return {number(value / (bd * bd * bd)), QStringLiteral("GB")};
+  if (bytes >= b * 1000) return {number(value / (bd * bd)), QStringLiteral("MB")};
+  if (bytes < 1000) return {QString::number(bytes), QStringLiteral("Bytes")};
+  return {number(value / bd), QStringLiteral("KB")};
+}
+
+QString format_size_text(quint64 bytes, bool decimal) {
+  const SizeText size = format_size(bytes, decimal);
+  return size.number + QLatin1Char(' ') + size.unit;
+}
+
+// ---- activity events ---------------------------------------------------------------------
+
+EventKind event_kind(quint32 type) {
+  const EventType* event = find_event(type);
+  return event ? event->kind : EventKind::Unknown;
+}
+
+std::optional<Str> event_row(quint32 type) {
+  const EventType* event = find_event(type);
+  if (!event) return std::nullopt;
+  return event->row;
+}
+
+QString render_event_message(const LogEntry& entry, bool rich, int limit) {
+  return render_event_message(entry.type, entry.body, rich, limit);
+}
+
+QString render_event_message(quint32 type, const Json::Value& body, bool rich, int limit) {
+  const EventType* event = find_event(type);
+  if (!event) {
+    LOG_WARN(vlog::kDefaultComponent, "unknown log type: %d", static_cast<int>(type));
+    return QString();
+  }
+  const int width = width_budget(limit);
+
+  switch (event->kind) {
+    case EventKind::Fixed: {
+      const QString message = text(event->row);
+      if (!rich) return message;
+      return QFontMetrics(QApplication::font()).elidedText(message, Qt::ElideRight, width, 0);
+    }
+
+    case EventKind::Named: {
+      QString tmpl = to_markers(text(event->row));
+      if (type == 7012 && jsonx::get_bool(body, "cbt")) tmpl += QLatin1String(" [CBT]");
+      QStringList values;
+      values.reserve(event->value_count);
+      for (int i = 0; i < event->value_count; ++i) {
+        const char* member = event->values[i];
+        values.append(member ? QString::fromStdString(jsonx::get_string(body, member)) : QString());
+      }
+      if (!rich) return fill_markers(tmpl, values, nullptr);
+      const QFontMetrics fm(QApplication::font());
+      const int allowance = fm.averageCharWidth() * markup_length(tmpl);
+      std::vector<Span> spans;
+      const QString filled = fill_markers(tmpl, values, &spans);
+      return elide_and_embolden(fm, filled, spans, width + allowance);
+    }
+
+    case EventKind::Generic: {
+      // The body as Qt sees it; anything but an object reads as an empty one.
+      const QJsonObject object =
+          QJsonDocument::fromJson(QByteArray::fromStdString(body.toStyledString())).object();
+      const QString tmpl = text(event->row);
+      std::vector<Span> spans;
+      const QString filled = fill_placeholders(tmpl, object, spans);
+      if (!rich) return filled;
+      const QFontMetrics fm(QApplication::font());
+      const int allowance = fm.averageCharWidth() * markup_length(tmpl);
+      return elide_and_embolden(fm, filled, spans, width + allowance);
+    }
+
+    case EventKind::Unknown:
+      break;
+  }
+  return QString();
+}
+
+}  // namespace string_display
