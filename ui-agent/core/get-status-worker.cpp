@@ -1,0 +1,78 @@
+#include "core/get-status-worker.h"
+
+#include <QThread>
+#include <QTimer>
+
+#include "core/connection-info.h"
+#include "core/global-connecter.h"
+#include "core/status-store.h"
+#include "json-access.h"
+
+GetStatusWorker::GetStatusWorker(QObject* parent) : QObject(parent) {
+  GlobalConnecter* bus = &GlobalConnecter::instance();
+  connect(bus, SIGNAL(sigQueryServiceDone(const QObject*, Json::Value)), this,
+          SLOT(slotQueryServiceDone(const QObject*, Json::Value)));
+  connect(this, SIGNAL(sigQueryService(const QObject*, Json::Value)), bus,
+          SIGNAL(sigQueryService(const QObject*, Json::Value)));
+  connect(this, SIGNAL(sigNotifyStatusChange(ServiceStatus, ServiceStatus, Json::Value)), bus,
+          SIGNAL(sigNotifyStatusChange(ServiceStatus, ServiceStatus, Json::Value)));
+}
+
+GetStatusWorker::~GetStatusWorker() {
+  if (!timer_) return;
+  // The timer belongs to the thread that started polling; it is stopped and
+  // deleted there.
+  if (timer_->thread() == QThread::currentThread()) {
+    delete timer_;
+  } else {
+    timer_->deleteLater();
+  }
+}
+
+void GetStatusWorker::startPolling() {
+  if (!timer_) {
+    timer_ = new QTimer();
+    connect(timer_, SIGNAL(timeout()), this, SLOT(slotQueryServiceStatus()));
+  }
+  if (!timer_->isActive()) timer_->start(kPollIntervalMs);
+}
+
+void GetStatusWorker::stopPolling() {
+  if (timer_ && timer_->isActive()) timer_->stop();
+}
+
+bool GetStatusWorker::isPolling() const {
+  return timer_ && timer_->isActive();
+}
+
+void GetStatusWorker::slotQueryServiceStatus() {
+  Json::Value request(Json::objectValue);
+  request["action"] = "get_status";
+  request["log_id"] = Json::UInt64(StatusStore::instance().getLastLogId());
+  emit sigQueryService(this, request);
+}
+
+void GetStatusWorker::slotQueryServiceDone(const QObject* sender, Json::Value response) {
+  if (sender != this) return;
+
+  StatusStore& store = StatusStore::instance();
+  ServiceStatus previous = StatusUnknown;
+  Json::Value previous_content;
+  store.getStatus(previous, previous_content);
+
+  const ServiceStatus current = service_status::from_int64(jsonx::get_int64(response, "status"));
+  // A `content` that is not an object counts as missing.
+  const Json::Value& member_content = jsonx::member(response, "content");
+  const Json::Value content = jsonx::is_object(member_content) ? member_content : Json::Value();
+  store.setStatus(current, content);
+
+  const Json::Value& connection = jsonx::member(response, "connection");
+  if (jsonx::is_object(connection)) {
+    // ssl_allow_untrust is left out on purpose: a status answer never
+    // carries it, so every poll with a connection stores false for it.
+    store.setConnectionInfo(
+        fillConnectionInfo(connection, jsonx::member(response, "proxy"), SslTrust::Ignore));
+  }
+
+  emit sigNotifyStatusChange(previous, current, content);
+}

@@ -1,0 +1,45 @@
+#pragma once
+// The status poller: while the device is linked it asks the service for its
+// state once a second ("get_status" with the newest activity-log id seen),
+// keeps the answer in the StatusStore and announces every answer on the bus
+// as sigNotifyStatusChange(previous, current, content). It makes no
+// decisions of its own.
+//
+// The worker lives on a thread of its own. startPolling(), stopPolling() and
+// isPolling() are called from the main thread, where the timer is created
+// and ticks; each tick reaches slotQueryServiceStatus() queued, on the
+// worker's thread.
+
+#include <json/value.h>
+
+#include <QObject>
+
+#include "core/json-meta-type.h"
+#include "core/service-status.h"
+
+class QTimer;
+
+class GetStatusWorker : public QObject {
+  Q_OBJECT
+
+ public:
+  static constexpr int kPollIntervalMs = 1000;
+
+  explicit GetStatusWorker(QObject* parent = nullptr);
+  ~GetStatusWorker() override;
+
+  void startPolling();
+  void stopPolling();
+  bool isPolling() const;
+
+ signals:
+  void sigQueryService(const QObject* sender, Json::Value request);
+  void sigNotifyStatusChange(ServiceStatus previous, ServiceStatus current, Json::Value current_content);
+
+ public slots:
+  void slotQueryServiceStatus();
+  void slotQueryServiceDone(const QObject* sender, Json::Value response);
+
+ private:
+  QTimer* timer_ = nullptr;
+};

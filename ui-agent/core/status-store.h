@@ -1,0 +1,44 @@
+#pragma once
+// The latest service state, shared by the status poller (its own thread) and
+// the client manager (main thread). Every operation holds the one mutex for
+// its whole duration, and only for that.
+
+#include <json/value.h>
+
+#include <cstdint>
+
+#include <QMutex>
+
+#include "core/connection-info.h"
+#include "core/service-status.h"
+
+class StatusStore {
+ public:
+  // The process-wide store, created on first use.
+  static StatusStore& instance();
+
+  StatusStore() = default;
+  StatusStore(const StatusStore&) = delete;
+  StatusStore& operator=(const StatusStore&) = delete;
+
+  void getStatus(ServiceStatus& status, Json::Value& content) const;
+  void setStatus(ServiceStatus status, const Json::Value& content);
+
+  // 0 and `info` filled when a connection is held; otherwise -1 and `info`
+  // left as it was.
+  int getConnectionInfo(ConnectionInfo& info) const;
+  void setConnectionInfo(const ConnectionInfo& info);
+  // Forgets the connection and the last seen log id (log-out, unlinking).
+  void clearConnection();
+
+  std::uint64_t getLastLogId() const;
+  void setLastLogId(std::uint64_t id);
+
+ private:
+  mutable QMutex mutex_;
+  ServiceStatus status_ = StatusUnknown;
+  Json::Value content_;
+  ConnectionInfo connection_;
+  bool has_connection_ = false;
+  std::uint64_t last_log_id_ = 0;
+};
