@@ -26,7 +26,9 @@ int DPIinfo::scaled(double length) {
 }
 
 QString DPIinfo::getScaledStyleSheet(const QString& sheet) {
-  static const QRegularExpression px(QStringLiteral("(-?\\d+(?:\\.\\d+)?)px\\b"));
+  // A length is a number on its own followed by "px": not the tail of a name
+  // such as "#item12px".
+  static const QRegularExpression px(QStringLiteral("(?<![\\w.#-])(-?\\d+(?:\\.\\d+)?)px\\b"));
   const double scale = getDPI();
   QString out;
   out.reserve(sheet.size());

@@ -1,0 +1,223 @@
+// The Vell controls: time combo box, buttons, labels, links, scroll area.
+#include <gtest/gtest.h>
+
+#include <ostream>
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QVBoxLayout>
+
+#include "dpi-info.h"
+#include "style-manager.h"
+#include "vell-button.h"
+#include "vell-check.h"
+#include "vell-label.h"
+#include "vell-scroll-area.h"
+#include "vell-time-combo-box.h"
+#include "widgets-fixture.h"
+
+namespace {
+
+class Controls : public ::testing::Test {
+ protected:
+  static void SetUpTestSuite() { widgets_test::loadProductLook(); }
+};
+
+struct TimeCase {
+  const char* in;
+  const char* out;
+};
+void PrintTo(const TimeCase& c, std::ostream* os) {
+  *os << '"' << c.in << '"';
+}
+class NormalizeTime : public ::testing::TestWithParam<TimeCase> {};
+
+TEST_P(NormalizeTime, Table) {
+  EXPECT_EQ(VellTimeComboBox::normalizeTime(GetParam().in).toStdString(), GetParam().out) << GetParam().in;
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, NormalizeTime,
+                         ::testing::Values(TimeCase{"07:30", "07:30"}, TimeCase{"7:30", "07:30"},
+                                           TimeCase{" 7:05 ", "07:05"}, TimeCase{"0730", "07:30"},
+                                           TimeCase{"730", "07:30"}, TimeCase{"23:59", "23:59"},
+                                           TimeCase{"00:00", "00:00"}, TimeCase{"24:00", ""},
+                                           TimeCase{"12:60", ""}, TimeCase{"7:3", ""}, TimeCase{"ab:cd", ""},
+                                           TimeCase{"", ""}, TimeCase{"-1:00", ""}, TimeCase{"123:00", ""}));
+
+class TimeCombo : public Controls {
+ protected:
+  void SetUp() override {
+    for (int h = 0; h < 24; ++h) combo_.addItem(QStringLiteral("%1:00").arg(h, 2, 10, QLatin1Char('0')));
+    combo_.setCustomText("(Custom)");
+  }
+  VellTimeComboBox combo_;
+};
+
+TEST_F(TimeCombo, ListedTimeIsSelected) {
+  EXPECT_TRUE(combo_.setTimeText("07:00"));
+  EXPECT_EQ(combo_.currentIndex(), 7);
+  EXPECT_EQ(combo_.timeText(), "07:00");
+  EXPECT_FALSE(combo_.isCustomSelected());
+  EXPECT_EQ(combo_.count(), 24);
+}
+
+TEST_F(TimeCombo, TimeNotInTheListKeepsTheCustomText) {
+  QSignalSpy changed(&combo_, QOverload<int>::of(&QComboBox::currentIndexChanged));
+  ASSERT_TRUE(combo_.setTimeText("7:30"));
+  EXPECT_EQ(combo_.currentText(), "07:30 (Custom)");
+  EXPECT_EQ(combo_.timeText(), "07:30");
+  EXPECT_TRUE(combo_.isCustomSelected());
+  EXPECT_EQ(combo_.count(), 25);
+  EXPECT_GE(changed.count(), 1);
+  // A second custom time replaces the first, never piles up.
+  ASSERT_TRUE(combo_.setTimeText("08:15"));
+  EXPECT_EQ(combo_.count(), 25);
+  EXPECT_EQ(combo_.currentText(), "08:15 (Custom)");
+  // Relabelling the custom words keeps the time.
+  combo_.setCustomText("(Benutzerdefiniert)");
+  EXPECT_EQ(combo_.currentText(), "08:15 (Benutzerdefiniert)");
+  // Choosing a listed time again drops the custom item.
+  ASSERT_TRUE(combo_.setTimeText("09:00"));
+  EXPECT_EQ(combo_.count(), 24);
+  EXPECT_EQ(combo_.timeText(), "09:00");
+}
+
+TEST_F(TimeCombo, NoTimeChangesNothing) {
+  combo_.setTimeText("05:00");
+  EXPECT_FALSE(combo_.setTimeText("25:00"));
+  EXPECT_FALSE(combo_.setTimeText("soon"));
+  EXPECT_EQ(combo_.timeText(), "05:00");
+  EXPECT_EQ(combo_.count(), 24);
+}
+
+TEST_F(TimeCombo, DecoratedItemsAreFoundByTheirTime) {
+  combo_.clear();
+  combo_.addItem("23:00");
+  combo_.addItem("00:00 Next day");
+  combo_.addItem("05:00 Next day");
+  EXPECT_TRUE(combo_.setTimeText("05:00 Next day"));
+  EXPECT_EQ(combo_.currentIndex(), 2);
+  EXPECT_TRUE(combo_.setTimeText("00:00"));
+  EXPECT_EQ(combo_.currentText(), "00:00 Next day");
+  EXPECT_EQ(combo_.timeText(), "00:00");
+}
+
+TEST_F(TimeCombo, TypedTimeIsCommittedWhenEditingEnds) {
+  combo_.setEditable(true);
+  combo_.setTimeText("07:00");
+  ASSERT_NE(combo_.lineEdit(), nullptr);
+  combo_.lineEdit()->setText("6:45");
+  emit combo_.lineEdit()->editingFinished();
+  EXPECT_EQ(combo_.currentText(), "06:45 (Custom)");
+  EXPECT_EQ(combo_.timeText(), "06:45");
+  // Rubbish typed puts back the selection.
+  combo_.lineEdit()->setText("later");
+  emit combo_.lineEdit()->editingFinished();
+  EXPECT_EQ(combo_.currentText(), "06:45 (Custom)");
+  // A listed time typed selects the item itself.
+  combo_.lineEdit()->setText("10:00");
+  emit combo_.lineEdit()->editingFinished();
+  EXPECT_EQ(combo_.currentIndex(), 10);
+  EXPECT_FALSE(combo_.isCustomSelected());
+}
+
+TEST_F(Controls, ButtonKindsPickTheirLook) {
+  VellButton primary("Save", 0), secondary("Cancel", 1), odd("X", 9);
+  EXPECT_EQ(primary.buttonKind(), VellButton::Primary);
+  EXPECT_EQ(secondary.buttonKind(), VellButton::Secondary);
+  EXPECT_EQ(odd.buttonKind(), VellButton::Primary);
+  EXPECT_EQ(primary.styleSheet(), getStyleSheet("nimbra_button_2"));
+  EXPECT_EQ(secondary.styleSheet(), getStyleSheet("nimbra_button_normal"));
+  EXPECT_NE(primary.styleSheet(), secondary.styleSheet());
+  secondary.setButtonKind(0);
+  EXPECT_EQ(secondary.styleSheet(), primary.styleSheet());
+}
+
+TEST_F(Controls, IconButtonFromPictureOrTextWithMenu) {
+  VellIconButton pic("icn_list");
+  EXPECT_FALSE(pic.icon().isNull());
+  EXPECT_EQ(pic.iconSize(), QSize(DPIinfo::scaled(24), DPIinfo::scaled(24)));
+  VellIconButton missing("no_such_picture");
+  EXPECT_TRUE(missing.icon().isNull());
+  VellIconButton text;
+  text.setText("U");
+  QMenu menu;
+  text.setMenu(&menu);
+  EXPECT_EQ(text.menu(), &menu);
+  EXPECT_EQ(text.popupMode(), QToolButton::InstantPopup);
+}
+
+TEST_F(Controls, CheckAndRadioCarryTheComponentLook) {
+  VellCheckBox check("a");
+  VellRadioButton radio("b");
+  EXPECT_EQ(check.styleSheet(), getStyleSheet("component.checkbox"));
+  EXPECT_EQ(radio.styleSheet(), getStyleSheet("component.radio_button"));
+}
+
+TEST_F(Controls, LinkLabelClicksOnReleaseInsideAndOnKeys) {
+  LinkLabel link("Terms of Service");
+  link.resize(120, 20);
+  QSignalSpy clicked(&link, &LinkLabel::clicked);
+  auto mouse = [&](QEvent::Type t, QPoint p) {
+    QMouseEvent e(t, p, link.mapToGlobal(p), Qt::LeftButton,
+                  t == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&link, &e);
+  };
+  mouse(QEvent::MouseButtonPress, {5, 5});
+  mouse(QEvent::MouseButtonRelease, {6, 6});
+  EXPECT_EQ(clicked.count(), 1);
+  // Pressed, dragged off and released outside: no click.
+  mouse(QEvent::MouseButtonPress, {5, 5});
+  mouse(QEvent::MouseButtonRelease, {500, 6});
+  EXPECT_EQ(clicked.count(), 1);
+  // A release without a press is no click either.
+  mouse(QEvent::MouseButtonRelease, {6, 6});
+  EXPECT_EQ(clicked.count(), 1);
+  QKeyEvent space(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier);
+  QApplication::sendEvent(&link, &space);
+  EXPECT_EQ(clicked.count(), 2);
+  EXPECT_EQ(link.cursor().shape(), Qt::PointingHandCursor);
+  EXPECT_FALSE(getStyleSheet("about_link_label").contains("underline"));
+}
+
+TEST_F(Controls, LabelElidesToItsWidthWithFullTextAsToolTip) {
+  VellLabel label;
+  label.setFixedWidth(60);
+  label.setElideMode(Qt::ElideRight);
+  label.setText("A rather long text that cannot fit");
+  EXPECT_NE(label.text(), label.fullText());
+  EXPECT_TRUE(label.text().endsWith(QChar(0x2026)));
+  EXPECT_EQ(label.toolTip(), "A rather long text that cannot fit");
+  label.setFixedWidth(2000);
+  label.setText("short");
+  EXPECT_EQ(label.text(), "short");
+  EXPECT_TRUE(label.toolTip().isEmpty());
+}
+
+TEST_F(Controls, ScrollAreaContentFollowsTheViewportWidth) {
+  VellVerticalScrollArea area;
+  area.resize(300, 100);
+  auto* content = new QWidget;
+  auto* layout = new QVBoxLayout(content);
+  for (int i = 0; i < 20; ++i) {
+    auto* row = new QWidget;
+    row->setMinimumHeight(30);
+    layout->addWidget(row);
+  }
+  area.setWidget(content);
+  area.show();
+  QApplication::processEvents();
+  EXPECT_EQ(area.horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+  EXPECT_EQ(content->width(), area.viewport()->width());
+  EXPECT_GT(area.verticalScrollBar()->maximum(), 0);
+  for (QWidget* row : content->findChildren<QWidget*>()) row->hide();
+  area.refreshScrollBar();
+  QApplication::processEvents();
+  EXPECT_EQ(area.verticalScrollBar()->maximum(), 0);
+}
+
+}  // namespace

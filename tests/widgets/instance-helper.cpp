@@ -1,0 +1,68 @@
+// A small program the single-instance and lock tests start as "another
+// process of the same user".
+//   instance-helper second <appId> [message]   start-up's check: ask
+//       isRunning() for 500 ms, then forward the message ("open" without one)
+//   instance-helper primary <appId>            become the primary instance and
+//       print every message received; ends after the first one
+//   instance-helper hold-lock <name>           hold the machine lock until killed
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QThread>
+
+#include <cstdio>
+#include <cstring>
+
+#include "machine-lock.h"
+#include "single-application.h"
+
+int main(int argc, char** argv) {
+  if (argc < 3) {
+    std::fprintf(stderr, "usage: %s second|primary|hold-lock NAME [message]\n", argv[0]);
+    return 2;
+  }
+  const char* mode = argv[1];
+  if (std::strcmp(mode, "hold-lock") == 0) {
+    MachineLock lock(argv[2]);
+    std::printf("%s\n", MachineLock::resultName(lock.acquire()));
+    std::fflush(stdout);
+    // Hold until stdin closes or the process is killed.
+    char buf[16];
+    while (std::fread(buf, 1, sizeof buf, stdin) > 0) {
+    }
+    return 0;
+  }
+  int qtArgc = 1;
+  QCoreApplication app(qtArgc, argv);
+  SingleInstance instance(QString::fromLocal8Bit(argv[2]));
+  if (std::strcmp(mode, "second") == 0) {
+    QElapsedTimer clock;
+    clock.start();
+    while (clock.elapsed() < 500) {
+      if (!instance.isRunning()) {
+        std::printf("PRIMARY\n");
+        return 3;
+      }
+      QThread::msleep(10);
+    }
+    QThread::msleep(100);
+    const QString message = argc > 3 ? QString::fromLocal8Bit(argv[3]) : QStringLiteral("open");
+    const bool ok = instance.sendMessage(message, 5000);
+    std::printf("SENT %s\n", ok ? "ok" : "failed");
+    return 0;
+  }
+  if (std::strcmp(mode, "primary") == 0) {
+    if (instance.isRunning()) {
+      std::printf("RUNNING\n");
+      return 4;
+    }
+    QObject::connect(&instance, &SingleInstance::messageReceived, [&](const QString& m) {
+      std::printf("MESSAGE %s\n", qUtf8Printable(m));
+      std::fflush(stdout);
+      app.quit();
+    });
+    std::printf("PRIMARY\n");
+    std::fflush(stdout);
+    return app.exec();
+  }
+  return 2;
+}

@@ -1,0 +1,219 @@
+// The per-user single instance across processes, and the machine-wide lock
+// telling the same user from another one.
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QLocalSocket>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QtEndian>
+
+#include <future>
+#include <thread>
+
+#include <unistd.h>
+
+#include "machine-lock.h"
+#include "single-application.h"
+#include "widgets-fixture.h"
+
+namespace {
+
+QString helperPath() {
+  return qEnvironmentVariable("NIMBRA_BUILD_DIR") + QStringLiteral("/tests/bin/widgets-instance-helper");
+}
+
+// Every test gets names of its own, so parallel runs never meet.
+class Isolated : public ::testing::Test {
+ protected:
+  Isolated()
+      : ns_("NIMBRA_PIPE_NAMESPACE", (std::string("wt") + std::to_string(::getpid()) + "-" +
+                                      ::testing::UnitTest::GetInstance()->current_test_info()->name() + "-")
+                                         .c_str()) {}
+  nimbra_test::ScopedEnv ns_;
+  const QString appId_ = QStringLiteral("nimbra-test-agent");
+};
+
+std::future<bool> sendFromThread(const QString& appId, const QString& message, int timeoutMs = 5000) {
+  return std::async(std::launch::async, [appId, message, timeoutMs] {
+    SingleInstance other(appId);
+    return other.sendMessage(message, timeoutMs);
+  });
+}
+
+class SingleApp : public Isolated {};
+
+TEST_F(SingleApp, SecondProcessFindsTheFirstAndItsArgumentArrives) {
+  SingleInstance primary(appId_);
+  ASSERT_FALSE(primary.isRunning());
+  ASSERT_TRUE(primary.isPrimary());
+  QSignalSpy received(&primary, &SingleInstance::messageReceived);
+  QProcess second;
+  second.start(helperPath(), {"second", appId_, "token=abc"});
+  ASSERT_TRUE(second.waitForStarted());
+  ASSERT_TRUE(received.wait(15000));
+  EXPECT_EQ(received.first().first().toString(), "token=abc");
+  ASSERT_TRUE(second.waitForFinished(10000));
+  EXPECT_EQ(second.exitCode(), 0);
+  EXPECT_EQ(second.readAllStandardOutput().trimmed(), "SENT ok");
+}
+
+TEST_F(SingleApp, SecondProcessWithoutArgumentSendsOpen) {
+  SingleInstance primary(appId_);
+  ASSERT_FALSE(primary.isRunning());
+  QSignalSpy received(&primary, &SingleInstance::messageReceived);
+  QProcess second;
+  second.start(helperPath(), {"second", appId_});
+  ASSERT_TRUE(received.wait(15000));
+  EXPECT_EQ(received.first().first().toString(), "open");
+  ASSERT_TRUE(second.waitForFinished(10000));
+  EXPECT_EQ(second.exitCode(), 0);
+}
+
+TEST_F(SingleApp, ProcessOfAnotherAppIdIsNotAnInstanceOfThisOne) {
+  SingleInstance primary(appId_);
+  ASSERT_FALSE(primary.isRunning());
+  SingleInstance other(QStringLiteral("some-other-app"));
+  EXPECT_FALSE(other.isRunning());
+}
+
+TEST_F(SingleApp, InstanceThatIsExitingIsNotRunning) {
+  SingleInstance first(appId_);
+  ASSERT_FALSE(first.isRunning());
+  SingleInstance second(appId_);
+  EXPECT_TRUE(second.isRunning());
+  EXPECT_TRUE(second.isRunning());  // asking again changes nothing
+  first.release();
+  EXPECT_FALSE(second.isRunning());
+  EXPECT_TRUE(second.isPrimary());
+  // And the new primary receives messages.
+  QSignalSpy received(&second, &SingleInstance::messageReceived);
+  auto sent = sendFromThread(appId_, "open");
+  ASSERT_TRUE(received.wait(10000));
+  EXPECT_TRUE(sent.get());
+}
+
+TEST_F(SingleApp, CrashedPrimaryLeavesNothingBehind) {
+  QProcess primary;
+  primary.start(helperPath(), {"primary", appId_});
+  ASSERT_TRUE(primary.waitForReadyRead(10000));
+  ASSERT_EQ(primary.readLine().trimmed(), "PRIMARY");
+  SingleInstance me(appId_);
+  EXPECT_TRUE(me.isRunning());
+  primary.kill();
+  ASSERT_TRUE(primary.waitForFinished(10000));
+  EXPECT_FALSE(me.isRunning());
+  QSignalSpy received(&me, &SingleInstance::messageReceived);
+  auto sent = sendFromThread(appId_, "after crash");
+  ASSERT_TRUE(received.wait(10000));
+  EXPECT_EQ(received.first().first().toString(), "after crash");
+  EXPECT_TRUE(sent.get());
+}
+
+TEST_F(SingleApp, MessagesToAPrimaryProcessArriveWhole) {
+  QProcess primary;
+  primary.start(helperPath(), {"primary", appId_});
+  ASSERT_TRUE(primary.waitForReadyRead(10000));
+  ASSERT_EQ(primary.readLine().trimmed(), "PRIMARY");
+  SingleInstance me(appId_);
+  ASSERT_TRUE(me.isRunning());
+  const QString text = QStringLiteral("nimbrabackup://nimbrabackupprotocol?access_token=") +
+                       QString(3000, 'x') + QStringLiteral(" \u00e9\u6f22");
+  EXPECT_TRUE(me.sendMessage(text, 5000));
+  ASSERT_TRUE(primary.waitForFinished(10000));
+  EXPECT_EQ(QString::fromUtf8(primary.readAllStandardOutput()).trimmed(), "MESSAGE " + text);
+}
+
+TEST_F(SingleApp, HostilePeersAreDroppedAndLaterMessagesStillArrive) {
+  SingleInstance primary(appId_);
+  ASSERT_FALSE(primary.isRunning());
+  QSignalSpy received(&primary, &SingleInstance::messageReceived);
+  widgets_test::LogCapture log;
+
+  // Announces four gigabytes.
+  QLocalSocket huge;
+  huge.connectToServer(primary.serverName());
+  ASSERT_TRUE(huge.waitForConnected(3000));
+  huge.write(QByteArray("\xff\xff\xff\xff", 4));
+  huge.flush();
+  // Sends half a message and goes away.
+  QLocalSocket half;
+  half.connectToServer(primary.serverName());
+  ASSERT_TRUE(half.waitForConnected(3000));
+  QByteArray frame(4, '\0');
+  qToBigEndian<quint32>(10, frame.data());
+  half.write(frame + "abc");
+  half.flush();
+  QCoreApplication::processEvents();
+  half.disconnectFromServer();
+
+  auto sent = sendFromThread(appId_, "open");
+  ASSERT_TRUE(received.wait(10000));
+  EXPECT_TRUE(sent.get());
+  EXPECT_EQ(received.size(), 1);
+  EXPECT_EQ(received.first().first().toString(), "open");
+  EXPECT_NE(log.text().find("refused a message announcing"), std::string::npos);
+}
+
+TEST_F(SingleApp, NobodyListeningMeansTheMessageIsLost) {
+  SingleInstance lonely(appId_);
+  EXPECT_FALSE(lonely.sendMessage("open", 300));
+}
+
+class Lock : public Isolated {
+ protected:
+  std::string name_ = "nimbra-test-lock";
+};
+
+TEST_F(Lock, FirstAcquiresSameUserSeesItHeld) {
+  MachineLock first(name_);
+  ASSERT_EQ(first.acquire(), MachineLock::Acquired);
+  EXPECT_TRUE(first.held());
+  EXPECT_EQ(first.acquire(), MachineLock::Acquired);  // again: still ours
+  MachineLock second(name_);
+  EXPECT_EQ(second.acquire(), MachineLock::HeldBySameUser);
+  EXPECT_FALSE(second.held());
+  first.release();
+  EXPECT_FALSE(first.held());
+  EXPECT_EQ(second.acquire(), MachineLock::Acquired);
+}
+
+TEST_F(Lock, AnotherUsersHolderIsToldApart) {
+  MachineLock holder(name_);
+  ASSERT_EQ(holder.acquire(), MachineLock::Acquired);
+  // We pretend to be a different user: the holder's uid no longer matches.
+  MachineLock stranger(name_, [] { return static_cast<unsigned long>(::getuid()) + 1; });
+  EXPECT_EQ(stranger.acquire(), MachineLock::HeldByOtherUser);
+  MachineLock me(name_, [] { return static_cast<unsigned long>(::getuid()); });
+  EXPECT_EQ(me.acquire(), MachineLock::HeldBySameUser);
+}
+
+TEST_F(Lock, ManyAskersNeverStall) {
+  MachineLock holder(name_);
+  ASSERT_EQ(holder.acquire(), MachineLock::Acquired);
+  for (int i = 0; i < 200; ++i) {
+    MachineLock asker(name_);
+    ASSERT_EQ(asker.acquire(), MachineLock::HeldBySameUser) << i;
+  }
+}
+
+TEST_F(Lock, NamesAreNamespaced) {
+  MachineLock lock(name_);
+  EXPECT_NE(lock.systemName(), name_);
+  EXPECT_EQ(lock.systemName().substr(lock.systemName().size() - name_.size()), name_);
+  EXPECT_STREQ(MachineLock::kName, "corvana-vantor-backup-agent");
+}
+
+TEST_F(Lock, LockVanishesWithItsProcess) {
+  QProcess holder;
+  holder.start(helperPath(), {"hold-lock", QString::fromStdString(name_)});
+  ASSERT_TRUE(holder.waitForReadyRead(10000));
+  ASSERT_EQ(holder.readLine().trimmed(), "acquired");
+  MachineLock me(name_);
+  EXPECT_EQ(me.acquire(), MachineLock::HeldBySameUser);
+  holder.kill();
+  ASSERT_TRUE(holder.waitForFinished(10000));
+  EXPECT_EQ(me.acquire(), MachineLock::Acquired);
+}
+
+}  // namespace

@@ -1,0 +1,209 @@
+// Message sheets (nested loop, buttons, quit) and masks (geometry, life).
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTimer>
+
+#include <functional>
+
+#include "component-strings.h"
+#include "vell-mask.h"
+#include "vell-message-sheet.h"
+#include "widgets-fixture.h"
+
+namespace {
+
+class Sheets : public ::testing::Test {
+ protected:
+  static void SetUpTestSuite() { widgets_test::loadProductLook(); }
+  void SetUp() override {
+    window_.resize(600, 400);
+    window_.show();
+  }
+  // Runs `action` from inside the sheet's nested loop.
+  static void whileUp(std::function<void()> action) { QTimer::singleShot(0, std::move(action)); }
+  QWidget window_;
+};
+
+TEST_F(Sheets, ExecReturnsThePressedButton) {
+  VellMessageSheet sheet(3, &window_, true);
+  ASSERT_NE(sheet.button(QMessageBox::Apply), nullptr);
+  ASSERT_NE(sheet.button(QMessageBox::Discard), nullptr);
+  whileUp([&] {
+    EXPECT_TRUE(sheet.isVisible());
+    EXPECT_EQ(VellMessageSheet::runningSheets(), QList<VellMessageSheet*>{&sheet});
+    sheet.button(QMessageBox::Apply)->click();
+  });
+  EXPECT_EQ(sheet.exec(), QMessageBox::Apply);
+  EXPECT_FALSE(sheet.isVisible());
+  EXPECT_TRUE(VellMessageSheet::runningSheets().isEmpty());
+
+  whileUp([&] { sheet.button(QMessageBox::Discard)->click(); });
+  EXPECT_EQ(sheet.exec(), QMessageBox::Discard);
+}
+
+TEST_F(Sheets, QuitEndsTheLoopWithNoButtonAndTheSheetCanRunAgain) {
+  VellMessageSheet sheet(1, &window_, true);
+  QSignalSpy finished(&sheet, &VellMessageSheet::finished);
+  whileUp([&] { sheet.quit(); });
+  EXPECT_EQ(sheet.exec(), QMessageBox::NoButton);
+  EXPECT_EQ(finished.count(), 1);
+  whileUp([&] { sheet.button(QMessageBox::Ok)->click(); });
+  EXPECT_EQ(sheet.exec(), QMessageBox::Ok);
+  // quit() without a running loop only hides.
+  sheet.show();
+  sheet.quit();
+  EXPECT_FALSE(sheet.isVisible());
+}
+
+TEST_F(Sheets, EscapePressesTheCancellingButton) {
+  VellMessageSheet sheet(3, &window_, true);
+  whileUp([&] {
+    QKeyEvent esc(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QApplication::sendEvent(&sheet, &esc);
+  });
+  EXPECT_EQ(sheet.exec(), QMessageBox::Discard);
+}
+
+TEST_F(Sheets, SecondExecWhileRunningIsRefused) {
+  VellMessageSheet sheet(1, &window_, true);
+  int inner = -2;
+  whileUp([&] {
+    inner = sheet.exec();
+    sheet.quit(QMessageBox::Ok);
+  });
+  EXPECT_EQ(sheet.exec(), QMessageBox::Ok);
+  EXPECT_EQ(inner, QMessageBox::NoButton);
+}
+
+TEST_F(Sheets, DestroyedWhileUpReturnsNoButton) {
+  auto* sheet = new VellMessageSheet(2, &window_, true);
+  QPointer<VellMessageSheet> guard(sheet);
+  whileUp([sheet] { delete sheet; });
+  EXPECT_EQ(sheet->exec(), QMessageBox::NoButton);
+  EXPECT_TRUE(guard.isNull());
+  EXPECT_TRUE(VellMessageSheet::runningSheets().isEmpty());
+}
+
+TEST_F(Sheets, DefaultButtonsByTypeAndInstalledWords) {
+  ComponentStrings::getInstance()->reset();
+  ComponentStrings::getInstance()->installStrings({{"ok", "Okay"}});
+  VellMessageSheet notice(1, &window_, true), error(2, &window_, true), question(3, &window_, true);
+  EXPECT_EQ(notice.standardButtons(), QMessageBox::StandardButtons(QMessageBox::Ok));
+  EXPECT_EQ(error.standardButtons(), QMessageBox::StandardButtons(QMessageBox::Ok));
+  EXPECT_EQ(question.standardButtons(), QMessageBox::Apply | QMessageBox::Discard);
+  EXPECT_EQ(notice.button(QMessageBox::Ok)->text(), "Okay");
+  EXPECT_EQ(notice.button(QMessageBox::Cancel), nullptr);
+  VellMessageSheet odd(7, &window_, true);
+  EXPECT_EQ(odd.messageType(), VellMessageSheet::Notice);
+  ComponentStrings::getInstance()->reset();
+}
+
+TEST_F(Sheets, ButtonsCanBeReplacedRelabelledAndTextsSet) {
+  VellMessageSheet sheet(1, &window_, true);
+  sheet.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
+  sheet.button(QMessageBox::Ok)->setText("Sign in");
+  sheet.setText("Title", "QLabel { color: red; }");
+  sheet.setInformativeText("More");
+  EXPECT_EQ(sheet.text(), "Title");
+  EXPECT_EQ(sheet.informativeText(), "More");
+  whileUp([&] { sheet.button(QMessageBox::Cancel)->click(); });
+  EXPECT_EQ(sheet.exec(), QMessageBox::Cancel);
+  EXPECT_EQ(sheet.button(QMessageBox::Ok)->text(), "Sign in");
+}
+
+TEST_F(Sheets, SheetIsCentredOverItsParent) {
+  VellMessageSheet sheet(1, &window_, true);
+  sheet.setFixedSize(480, 184);
+  whileUp([&] {
+    EXPECT_EQ(sheet.parentWidget(), &window_);
+    EXPECT_NEAR(sheet.geometry().center().x(), window_.rect().center().x(), 1);
+    window_.resize(800, 500);
+    QApplication::processEvents();
+    EXPECT_NEAR(sheet.geometry().center().x(), window_.rect().center().x(), 1);
+    EXPECT_NEAR(sheet.geometry().center().y(), window_.rect().center().y(), 1);
+    sheet.quit();
+  });
+  sheet.exec();
+}
+
+TEST_F(Sheets, WarningBoxIsAWindowOfItsOwnAndReturnsTheButton) {
+  widgets_test::LogCapture log;
+  whileUp([] {
+    ASSERT_EQ(VellMessageSheet::runningSheets().size(), 1);
+    VellMessageSheet* box = VellMessageSheet::runningSheets().first();
+    EXPECT_TRUE(box->isWindow());
+    EXPECT_EQ(box->windowTitle(), "Nimbra Backup");
+    EXPECT_EQ(box->text(), "This application is already opened by another user.");
+    box->button(QMessageBox::Ok)->click();
+  });
+  EXPECT_EQ(
+      showWarningMsg("Nimbra Backup", "This application is already opened by another user.", nullptr, 0),
+      QMessageBox::Ok);
+  EXPECT_NE(log.text().find("warning shown: [Nimbra Backup]"), std::string::npos);
+}
+
+class Masks : public Sheets {};
+
+TEST_F(Masks, CoversTheWidgetAndFollowsItsSize) {
+  VellMessageSheet sheet(1, &window_, true);
+  VellMask* mask = VellMask::createMask(&sheet, &window_, QColor(0, 0, 0, 20));
+  ASSERT_NE(mask, nullptr);
+  EXPECT_EQ(mask->color(), QColor(0, 0, 0, 20));
+  EXPECT_FALSE(mask->isVisible());  // not before the sheet is up
+  whileUp([&] {
+    EXPECT_TRUE(mask->isVisible());
+    EXPECT_EQ(mask->geometry(), window_.rect());
+    window_.resize(777, 333);
+    QApplication::processEvents();
+    EXPECT_EQ(mask->geometry(), QRect(0, 0, 777, 333));
+    // The sheet stays above its mask.
+    const QObjectList& kids = window_.children();
+    EXPECT_GT(kids.indexOf(&sheet), kids.indexOf(mask));
+    sheet.quit();
+  });
+  sheet.exec();
+  EXPECT_FALSE(mask->isVisible());
+}
+
+TEST_F(Masks, OneMaskPerSheetAndItGoesWithTheSheet) {
+  auto* sheet = new VellMessageSheet(1, &window_, true);
+  QPointer<VellMask> first = VellMask::createMask(sheet, &window_, QColor(0, 0, 0, 20));
+  VellMask* again = VellMask::createMask(sheet, &window_, QColor(0, 0, 0, 60));
+  EXPECT_EQ(first.data(), again);
+  EXPECT_EQ(again->color(), QColor(0, 0, 0, 60));
+  EXPECT_EQ(window_.findChildren<VellMask*>().size(), 1);
+  delete sheet;
+  QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_TRUE(first.isNull());
+}
+
+TEST_F(Masks, SwallowsClicksMeantForWidgetsUnderIt) {
+  auto* button = new QPushButton("under", &window_);
+  button->setGeometry(10, 10, 100, 30);
+  button->show();
+  QSignalSpy clicked(button, &QPushButton::clicked);
+  VellMessageSheet sheet(1, &window_, true);
+  VellMask::createMask(&sheet, &window_, QColor(0, 0, 0, 20));
+  whileUp([&] {
+    QWidget* hit = window_.childAt(20, 20);
+    EXPECT_TRUE(qobject_cast<VellMask*>(hit) != nullptr);
+    sheet.quit();
+  });
+  sheet.exec();
+  EXPECT_EQ(clicked.count(), 0);
+}
+
+TEST_F(Masks, NullArgumentsGiveNoMask) {
+  widgets_test::LogCapture log;
+  VellMessageSheet sheet(1, &window_, true);
+  EXPECT_EQ(VellMask::createMask(nullptr, &window_, Qt::black), nullptr);
+  EXPECT_EQ(VellMask::createMask(&sheet, nullptr, Qt::black), nullptr);
+  EXPECT_NE(log.text().find("cannot create a mask"), std::string::npos);
+}
+
+}  // namespace
