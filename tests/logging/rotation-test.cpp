@@ -69,8 +69,10 @@ TEST_P(BoundaryTest, RotatesOnceWrittenReachesTheLimit) {
   // Measure one line (stamp and message) in a file of its own.
   TempDir probe_dir;
   ASSERT_EQ(0, vlog::init(vlog::kRotatingFile, wide(probe_dir.file("probe.txt")), L"", "", 50, 1));
+  // (A new Windows text file may start with a byte-order mark.)
+  const std::uint32_t empty = vlog::written();
   vlog::log(vlog::kDefaultLogger, vlog::kError, vlog::kDefaultComponent, "ten chars\n");
-  const std::uint32_t line = vlog::written();
+  const std::uint32_t line = vlog::written() - empty;
   vlog::shutdown();
   ASSERT_GE(line, 10u);
 

@@ -48,8 +48,8 @@ std::vector<std::string> capture_stack() {
         address = symbol->Address;
       }
       char line[1024];
-      std::snprintf(line, sizeof line, "%i: %s [0x%0I64X] \n", static_cast<int>(count - i - 1), name,
-                    static_cast<unsigned long long>(address));
+      // The Microsoft runtime's own formatter, which reads the I64 size prefix.
+      ::sprintf_s(line, sizeof line, "%i: %s [0x%0I64X] \n", static_cast<int>(count - i - 1), name, address);
       lines.emplace_back(line);
     }
   } catch (const std::bad_alloc&) {
