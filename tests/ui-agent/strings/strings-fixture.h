@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <ostream>
 #include <vector>
 
 namespace strings_fixture {
@@ -15,6 +16,9 @@ struct KeyRow {
   QString text;
 };
 std::vector<KeyRow> key_rows();
+inline void PrintTo(const KeyRow& row, std::ostream* os) {
+  *os << row.key.toStdString();
+}
 
 struct EventRow {
   quint32 type = 0;
@@ -23,5 +27,8 @@ struct EventRow {
   QStringList values;  // named kind: members in the order they are supplied; "-" a fixed value
 };
 std::vector<EventRow> event_rows(const QString& kind = QString());
+inline void PrintTo(const EventRow& row, std::ostream* os) {
+  *os << row.type << " " << row.key.toStdString();
+}
 
 }  // namespace strings_fixture
