@@ -14,24 +14,11 @@
 #include "machine-lock.h"
 #include "user-identity.h"
 
-namespace {
-
-QString runtimeFolder() {
-  QString dir = qEnvironmentVariable("XDG_RUNTIME_DIR");
-  if (dir.isEmpty() || !QDir(dir).exists()) dir = QDir::tempPath();
-  return dir;
-}
-
-}  // namespace
-
 SingleInstance::SingleInstance(const QString& appId, QObject* parent) : QObject(parent) {
   const QString base = qEnvironmentVariable("NIMBRA_PIPE_NAMESPACE") + appId + QLatin1Char('-') +
                        user_identity::currentUserTag();
-  lockPath_ = QDir(runtimeFolder()).filePath(base + QStringLiteral(".lock"));
-  // Unix socket paths are short (108 bytes): keep the server beside the lock
-  // only when it fits, else let Qt put it in its own temporary folder.
-  const QString full = QDir(runtimeFolder()).filePath(base + QStringLiteral(".sock"));
-  serverName_ = full.toUtf8().size() < 100 ? full : base;
+  lockPath_ = QDir(user_identity::runtimeFolder()).filePath(base + QStringLiteral(".lock"));
+  serverName_ = user_identity::localServerName(base);
   lock_.reset(new QLockFile(lockPath_));
   lock_->setStaleLockTime(0);  // only a dead holder makes the lock stale
 }

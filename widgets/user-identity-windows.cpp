@@ -1,5 +1,7 @@
 #include <windows.h>
 
+#include <QDir>
+
 #include "user-identity.h"
 
 namespace user_identity {
@@ -13,6 +15,14 @@ QString currentUserTag() {
   for (QChar& c : tag)
     if (!c.isLetterOrNumber() && c != QLatin1Char('-') && c != QLatin1Char('_')) c = QLatin1Char('_');
   return tag;
+}
+
+QString runtimeFolder() {
+  return QDir::tempPath();
+}
+
+QString localServerName(const QString& base) {
+  return base;
 }
 
 }  // namespace user_identity
