@@ -227,6 +227,29 @@ TEST(EventMessage, TinyLimitEndsInAnEllipsis) {
   EXPECT_TRUE(full.startsWith(rich.chopped(1)));
 }
 
+TEST(EventMessage, WidthBudgetHoldsBackTwentyLogicalPixels) {
+  nimbra_test::ScopedEnv scale("NIMBRA_UI_SCALE", "1");
+  const QString full = text(Str::reason_no_perm);
+  const int w = QFontMetrics(QApplication::font()).horizontalAdvance(full);
+  ASSERT_GT(w, 0);
+  EXPECT_EQ(render_event_message(8002, Json::Value(), true, 20 + w), full);
+  EXPECT_TRUE(render_event_message(8002, Json::Value(), true, 19 + w).endsWith(kEllipsis));
+}
+
+TEST(EventMessage, WidthBudgetScalesWithTheDisplay) {
+  const QString full = text(Str::reason_no_perm);
+  const int w = QFontMetrics(QApplication::font()).horizontalAdvance(full);
+  const int limit = 20 + (w * 2) / 3;  // two thirds of the text at scale 1, all of it at scale 2
+  {
+    nimbra_test::ScopedEnv scale("NIMBRA_UI_SCALE", "1");
+    EXPECT_TRUE(render_event_message(8002, Json::Value(), true, limit).endsWith(kEllipsis));
+  }
+  {
+    nimbra_test::ScopedEnv scale("NIMBRA_UI_SCALE", "2");
+    EXPECT_EQ(render_event_message(8002, Json::Value(), true, limit), full);
+  }
+}
+
 TEST(EventMessage, ElisionKeepsBoldTagsBalanced) {
   const Json::Value body =
       parse(R"({"volume_name": "A very long volume name that cannot fit", "error_code": "42"})");
