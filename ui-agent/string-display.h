@@ -86,8 +86,12 @@ enum class EventKind {
 // The message of one activity-log entry. Plain (rich false): the sentence
 // with its values, for tool tips; `limit` is ignored. Rich: the values in
 // bold and the sentence elided at the right to DPI * (limit - 20) pixels of
-// the application font (plus an allowance for the template's markup). An
-// unknown type gives an empty text and a warning line.
+// the application font (plus an allowance for the template's markup); a
+// value cut by the ellipsis stays bold as far as it is shown. The i-th value
+// a type lists lands on the i-th placeholder of its text, in one pass: a
+// value holding "%2" or braces is shown as it is. Members of the wrong type
+// read as empty, as missing ones do. An unknown type gives an empty text and
+// a warning line.
 QString render_event_message(const LogEntry& entry, bool rich, int limit);
 QString render_event_message(quint32 type, const Json::Value& body, bool rich, int limit);
 
