@@ -218,6 +218,10 @@ int VellMessageSheet::exec() {
   }
   result_ = QMessageBox::NoButton;
   adjustSize();
+  // Wrapped texts: take the height the texts need at the sheet's width,
+  // unless the caller fixed the height.
+  if (minimumHeight() != maximumHeight() && layout() && layout()->hasHeightForWidth())
+    resize(width(), qBound(minimumHeight(), layout()->totalHeightForWidth(width()), maximumHeight()));
   place();
   show();
   raise();

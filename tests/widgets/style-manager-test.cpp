@@ -4,6 +4,9 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
@@ -162,6 +165,25 @@ TEST(StyleFiles, NoNameIsDefinedTwice) {
   loadProductLook();
   EXPECT_EQ(log.text().find("defined twice"), std::string::npos);
   EXPECT_EQ(log.text().find("replaces an earlier one"), std::string::npos);
+}
+
+// The build tree holds the resource folder beside bin/, as installed.
+TEST(ResourceFolder, BuildTreeMirrorsTheSourceFolder) {
+  const QDir source(widgets_test::sourceResources());
+  const QDir built(qEnvironmentVariable("NIMBRA_BUILD_DIR") + QStringLiteral("/resource"));
+  ASSERT_TRUE(built.exists()) << qPrintable(built.path());
+  QDirIterator it(source.path(), QDir::Files, QDirIterator::Subdirectories);
+  int files = 0;
+  while (it.hasNext()) {
+    const QString rel = source.relativeFilePath(it.next());
+    if (rel == QLatin1String("CMakeLists.txt")) continue;
+    ++files;
+    QFile a(source.filePath(rel)), b(built.filePath(rel));
+    ASSERT_TRUE(b.open(QIODevice::ReadOnly)) << "missing in the build tree: " << qPrintable(rel);
+    ASSERT_TRUE(a.open(QIODevice::ReadOnly));
+    EXPECT_EQ(a.readAll(), b.readAll()) << "stale copy: " << qPrintable(rel);
+  }
+  EXPECT_GT(files, 30);
 }
 
 }  // namespace
