@@ -177,9 +177,10 @@ ServiceIpcServer::~ServiceIpcServer() {
 
 void ServiceIpcServer::init() {
   GlobalConnecter* bus = &GlobalConnecter::instance();
-  connect(this, SIGNAL(sigOpenLogWindow()), bus, SIGNAL(sigOpenLogWindow()));
+  // Unique, so that a second init() does not deliver everything twice.
+  connect(this, SIGNAL(sigOpenLogWindow()), bus, SIGNAL(sigOpenLogWindow()), Qt::UniqueConnection);
   connect(this, SIGNAL(sigHandleNotifications(const Json::Value&)), bus,
-          SIGNAL(sigHandleNotifications(const Json::Value&)));
+          SIGNAL(sigHandleNotifications(const Json::Value&)), Qt::UniqueConnection);
   stop_ = false;
   if (server_.create(WinIpc::kAgentPipe) != 0) {
     throw std::runtime_error("can't open port or socket, ipc broken");

@@ -54,6 +54,7 @@ class CommunicatorTest : public ::testing::Test {
     thread_.quit();
     thread_.wait();
     delete communicator_;
+    QCoreApplication::processEvents();
   }
 
   std::unique_ptr<ScriptedPeer> startPeer(ScriptedPeer::Script script = echo) {

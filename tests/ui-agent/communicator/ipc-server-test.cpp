@@ -34,6 +34,9 @@ class IpcServerTest : public ::testing::Test {
       server_->stop();
       EXPECT_TRUE(server_->wait(5000));
     }
+    // Deliver what is still queued for the bus so that no test sees the
+    // signals of the one before.
+    QCoreApplication::processEvents();
   }
 
   // Sends one raw message (nullopt: connect and hang up) and returns the reply
@@ -158,6 +161,18 @@ TEST_F(IpcServerTest, StopEndsTheThreadWithinOneAcceptRoundAndLogsIt) {
   // The pipe went with the thread: nobody answers any more.
   WinIpc::IpcClient client;
   EXPECT_NE(client.connect(WinIpc::kAgentPipe, 300), 0);
+}
+
+TEST_F(IpcServerTest, RestartedServerDeliversEachNotificationOnce) {
+  server_->stop();
+  ASSERT_TRUE(server_->wait(5000));
+  server_->init();
+  server_->start();
+  QSignalSpy spy(bus_, &GlobalConnecter::sigHandleNotifications);
+  ASSERT_EQ(send(std::string(R"({"action":"notifications"})")).value_or(""), R"({"success":true})");
+  // The signal was queued before the reply was written.
+  QCoreApplication::processEvents();
+  EXPECT_EQ(spy.size(), 1);
 }
 
 TEST_F(IpcServerTest, SecondServerOnTheSameNameThrows) {

@@ -36,6 +36,7 @@ class StatusWorkerTest : public ::testing::Test {
     thread_.quit();
     thread_.wait();
     delete worker_;
+    QCoreApplication::processEvents();
   }
 
   // Lets everything already queued to the worker run, then delivers what it
