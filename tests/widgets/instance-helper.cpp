@@ -5,7 +5,6 @@
 //   instance-helper primary <appId>            become the primary instance and
 //       print every message received; ends after the first one
 //   instance-helper hold-lock <name>           hold the machine lock until killed
-#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QThread>
 
@@ -31,9 +30,11 @@ int main(int argc, char** argv) {
     }
     return 0;
   }
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   int qtArgc = 1;
-  QCoreApplication app(qtArgc, argv);
-  SingleInstance instance(QString::fromLocal8Bit(argv[2]));
+  // The agent's own application object, as start-up creates it.
+  QtSingleApplication app(QString::fromLocal8Bit(argv[2]), qtArgc, argv, true);
+  QtSingleApplication& instance = app;
   if (std::strcmp(mode, "second") == 0) {
     QElapsedTimer clock;
     clock.start();
@@ -55,7 +56,7 @@ int main(int argc, char** argv) {
       std::printf("RUNNING\n");
       return 4;
     }
-    QObject::connect(&instance, &SingleInstance::messageReceived, [&](const QString& m) {
+    QObject::connect(&app, &QtSingleApplication::messageReceived, [&](const QString& m) {
       std::printf("MESSAGE %s\n", qUtf8Printable(m));
       std::fflush(stdout);
       app.quit();
