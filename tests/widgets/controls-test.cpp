@@ -22,7 +22,7 @@
 
 namespace {
 
-class Controls : public ::testing::Test {
+class WidgetsControls : public ::testing::Test {
  protected:
   static void SetUpTestSuite() { widgets_test::loadProductLook(); }
 };
@@ -34,13 +34,13 @@ struct TimeCase {
 void PrintTo(const TimeCase& c, std::ostream* os) {
   *os << '"' << c.in << '"';
 }
-class NormalizeTime : public ::testing::TestWithParam<TimeCase> {};
+class WidgetsNormalizeTime : public ::testing::TestWithParam<TimeCase> {};
 
-TEST_P(NormalizeTime, Table) {
+TEST_P(WidgetsNormalizeTime, WidgetsTable) {
   EXPECT_EQ(VellTimeComboBox::normalizeTime(GetParam().in).toStdString(), GetParam().out) << GetParam().in;
 }
 
-INSTANTIATE_TEST_SUITE_P(Table, NormalizeTime,
+INSTANTIATE_TEST_SUITE_P(WidgetsTable, WidgetsNormalizeTime,
                          ::testing::Values(TimeCase{"07:30", "07:30"}, TimeCase{"7:30", "07:30"},
                                            TimeCase{" 7:05 ", "07:05"}, TimeCase{"0730", "07:30"},
                                            TimeCase{"730", "07:30"}, TimeCase{"23:59", "23:59"},
@@ -48,7 +48,7 @@ INSTANTIATE_TEST_SUITE_P(Table, NormalizeTime,
                                            TimeCase{"12:60", ""}, TimeCase{"7:3", ""}, TimeCase{"ab:cd", ""},
                                            TimeCase{"", ""}, TimeCase{"-1:00", ""}, TimeCase{"123:00", ""}));
 
-class TimeCombo : public Controls {
+class WidgetsTimeCombo : public WidgetsControls {
  protected:
   void SetUp() override {
     for (int h = 0; h < 24; ++h) combo_.addItem(QStringLiteral("%1:00").arg(h, 2, 10, QLatin1Char('0')));
@@ -57,7 +57,7 @@ class TimeCombo : public Controls {
   VellTimeComboBox combo_;
 };
 
-TEST_F(TimeCombo, ListedTimeIsSelected) {
+TEST_F(WidgetsTimeCombo, ListedTimeIsSelected) {
   EXPECT_TRUE(combo_.setTimeText("07:00"));
   EXPECT_EQ(combo_.currentIndex(), 7);
   EXPECT_EQ(combo_.timeText(), "07:00");
@@ -65,7 +65,7 @@ TEST_F(TimeCombo, ListedTimeIsSelected) {
   EXPECT_EQ(combo_.count(), 24);
 }
 
-TEST_F(TimeCombo, TimeNotInTheListKeepsTheCustomText) {
+TEST_F(WidgetsTimeCombo, TimeNotInTheListKeepsTheCustomText) {
   QSignalSpy changed(&combo_, QOverload<int>::of(&QComboBox::currentIndexChanged));
   ASSERT_TRUE(combo_.setTimeText("7:30"));
   EXPECT_EQ(combo_.currentText(), "07:30 (Custom)");
@@ -86,7 +86,7 @@ TEST_F(TimeCombo, TimeNotInTheListKeepsTheCustomText) {
   EXPECT_EQ(combo_.timeText(), "09:00");
 }
 
-TEST_F(TimeCombo, NoTimeChangesNothing) {
+TEST_F(WidgetsTimeCombo, NoTimeChangesNothing) {
   combo_.setTimeText("05:00");
   EXPECT_FALSE(combo_.setTimeText("25:00"));
   EXPECT_FALSE(combo_.setTimeText("soon"));
@@ -94,7 +94,7 @@ TEST_F(TimeCombo, NoTimeChangesNothing) {
   EXPECT_EQ(combo_.count(), 24);
 }
 
-TEST_F(TimeCombo, DecoratedItemsAreFoundByTheirTime) {
+TEST_F(WidgetsTimeCombo, DecoratedItemsAreFoundByTheirTime) {
   combo_.clear();
   combo_.addItem("23:00");
   combo_.addItem("00:00 Next day");
@@ -106,7 +106,7 @@ TEST_F(TimeCombo, DecoratedItemsAreFoundByTheirTime) {
   EXPECT_EQ(combo_.timeText(), "00:00");
 }
 
-TEST_F(TimeCombo, TypedTimeIsCommittedWhenEditingEnds) {
+TEST_F(WidgetsTimeCombo, TypedTimeIsCommittedWhenEditingEnds) {
   combo_.setEditable(true);
   combo_.setTimeText("07:00");
   ASSERT_NE(combo_.lineEdit(), nullptr);
@@ -125,7 +125,7 @@ TEST_F(TimeCombo, TypedTimeIsCommittedWhenEditingEnds) {
   EXPECT_FALSE(combo_.isCustomSelected());
 }
 
-TEST_F(Controls, ButtonKindsPickTheirLook) {
+TEST_F(WidgetsControls, ButtonKindsPickTheirLook) {
   VellButton primary("Save", 0), secondary("Cancel", 1), odd("X", 9);
   EXPECT_EQ(primary.buttonKind(), VellButton::Primary);
   EXPECT_EQ(secondary.buttonKind(), VellButton::Secondary);
@@ -137,7 +137,7 @@ TEST_F(Controls, ButtonKindsPickTheirLook) {
   EXPECT_EQ(secondary.styleSheet(), primary.styleSheet());
 }
 
-TEST_F(Controls, IconButtonFromPictureOrTextWithMenu) {
+TEST_F(WidgetsControls, IconButtonFromPictureOrTextWithMenu) {
   VellIconButton pic("icn_list");
   EXPECT_FALSE(pic.icon().isNull());
   EXPECT_EQ(pic.iconSize(), QSize(DPIinfo::scaled(24), DPIinfo::scaled(24)));
@@ -151,14 +151,14 @@ TEST_F(Controls, IconButtonFromPictureOrTextWithMenu) {
   EXPECT_EQ(text.popupMode(), QToolButton::InstantPopup);
 }
 
-TEST_F(Controls, CheckAndRadioCarryTheComponentLook) {
+TEST_F(WidgetsControls, CheckAndRadioCarryTheComponentLook) {
   VellCheckBox check("a");
   VellRadioButton radio("b");
   EXPECT_EQ(check.styleSheet(), getStyleSheet("component.checkbox"));
   EXPECT_EQ(radio.styleSheet(), getStyleSheet("component.radio_button"));
 }
 
-TEST_F(Controls, LinkLabelClicksOnReleaseInsideAndOnKeys) {
+TEST_F(WidgetsControls, LinkLabelClicksOnReleaseInsideAndOnKeys) {
   LinkLabel link("Terms of Service");
   link.resize(120, 20);
   QSignalSpy clicked(&link, &LinkLabel::clicked);
@@ -184,7 +184,7 @@ TEST_F(Controls, LinkLabelClicksOnReleaseInsideAndOnKeys) {
   EXPECT_FALSE(getStyleSheet("about_link_label").contains("underline"));
 }
 
-TEST_F(Controls, LabelElidesToItsWidthWithFullTextAsToolTip) {
+TEST_F(WidgetsControls, LabelElidesToItsWidthWithFullTextAsToolTip) {
   VellLabel label;
   label.setFixedWidth(60);
   label.setElideMode(Qt::ElideRight);
@@ -198,7 +198,7 @@ TEST_F(Controls, LabelElidesToItsWidthWithFullTextAsToolTip) {
   EXPECT_TRUE(label.toolTip().isEmpty());
 }
 
-TEST_F(Controls, ScrollAreaContentFollowsTheViewportWidth) {
+TEST_F(WidgetsControls, ScrollAreaContentFollowsTheViewportWidth) {
   VellVerticalScrollArea area;
   area.resize(300, 100);
   auto* content = new QWidget;

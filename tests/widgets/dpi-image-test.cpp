@@ -26,15 +26,15 @@ void PrintTo(const ScaleCase& c, std::ostream* os) {
   *os << '"' << c.in << '"';
 }
 
-class ScaledStyleSheet : public ::testing::TestWithParam<ScaleCase> {};
+class WidgetsScaledStyleSheet : public ::testing::TestWithParam<ScaleCase> {};
 
-TEST_P(ScaledStyleSheet, ScalesPixelLengthsAndLeavesTheRest) {
+TEST_P(WidgetsScaledStyleSheet, ScalesPixelLengthsAndLeavesTheRest) {
   ScopedEnv env("NIMBRA_UI_SCALE", GetParam().scale);
   EXPECT_EQ(DPIinfo::getScaledStyleSheet(QString::fromUtf8(GetParam().in)).toStdString(), GetParam().out);
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Table, ScaledStyleSheet,
+    WidgetsTable, WidgetsScaledStyleSheet,
     ::testing::Values(ScaleCase{"1", "QLabel { font-size: 13px; }", "QLabel { font-size: 13px; }"},
                       ScaleCase{"1.5", "QLabel { font-size: 13px; }", "QLabel { font-size: 19px; }"},
                       ScaleCase{"1.5", "border: 1px solid #EBF0F5; border-radius: 4px;",
@@ -48,7 +48,7 @@ INSTANTIATE_TEST_SUITE_P(
                       ScaleCase{"2", "QFrame#px12px { border: 2px; }", "QFrame#px12px { border: 4px; }"},
                       ScaleCase{"3", "", ""}));
 
-TEST(DpiInfo, ScaledTruncates) {
+TEST(WidgetsDpiInfo, ScaledTruncates) {
   ScopedEnv env("NIMBRA_UI_SCALE", "1.5");
   EXPECT_DOUBLE_EQ(DPIinfo::getDPI(), 1.5);
   EXPECT_EQ(DPIinfo::scaled(400), 600);
@@ -56,14 +56,14 @@ TEST(DpiInfo, ScaledTruncates) {
   EXPECT_EQ(DPIinfo::scaled(1), 1);
 }
 
-TEST(DpiInfo, NonsenseOverrideFallsBackToTheScreen) {
+TEST(WidgetsDpiInfo, NonsenseOverrideFallsBackToTheScreen) {
   ScopedEnv env("NIMBRA_UI_SCALE", "-2");
   EXPECT_GT(DPIinfo::getDPI(), 0.0);
   ScopedEnv env2("NIMBRA_UI_SCALE", "abc");
   EXPECT_GT(DPIinfo::getDPI(), 0.0);
 }
 
-class Pictures : public ::testing::Test {
+class WidgetsPictures : public ::testing::Test {
  protected:
   void SetUp() override {
     UIPathManager::getInstance()->setPath("resource_path", widgets_test::sourceResources());
@@ -71,9 +71,9 @@ class Pictures : public ::testing::Test {
   }
 };
 
-class AgentPicture : public Pictures, public ::testing::WithParamInterface<QString> {};
+class WidgetsAgentPicture : public WidgetsPictures, public ::testing::WithParamInterface<QString> {};
 
-TEST_P(AgentPicture, LoadsAndScalesWithThePixelRatio) {
+TEST_P(WidgetsAgentPicture, LoadsAndScalesWithThePixelRatio) {
   ImageManager* images = ImageManager::getInstance();
   ASSERT_TRUE(images->contains(GetParam())) << qPrintable(GetParam());
   const QSize natural = images->naturalSize(GetParam());
@@ -92,10 +92,11 @@ TEST_P(AgentPicture, LoadsAndScalesWithThePixelRatio) {
   EXPECT_GT(opaque, img.width() * img.height() / 50) << qPrintable(GetParam());
 }
 
-INSTANTIATE_TEST_SUITE_P(Names, AgentPicture, ::testing::ValuesIn(widgets_test::agentPictureNames()),
+INSTANTIATE_TEST_SUITE_P(WidgetsNames, WidgetsAgentPicture,
+                         ::testing::ValuesIn(widgets_test::agentPictureNames()),
                          [](const ::testing::TestParamInfo<QString>& p) { return p.param.toStdString(); });
 
-TEST_F(Pictures, GlobalImageFollowsUiScale) {
+TEST_F(WidgetsPictures, GlobalImageFollowsUiScale) {
   ScopedEnv env("NIMBRA_UI_SCALE", "1.5");
   ImageManager::getInstance()->clearCache();
   const QPixmap pix = getGlobalImage("icn_list");  // 24 x 24
@@ -104,7 +105,7 @@ TEST_F(Pictures, GlobalImageFollowsUiScale) {
   EXPECT_EQ(qRound(pix.height() / dpr), 36);
 }
 
-TEST_F(Pictures, RenderingsAreCachedByNameAndSize) {
+TEST_F(WidgetsPictures, RenderingsAreCachedByNameAndSize) {
   ImageManager* images = ImageManager::getInstance();
   images->clearCache();
   const QPixmap a = images->pixmap("app_img", QSize(24, 24), 1.0);
@@ -115,7 +116,7 @@ TEST_F(Pictures, RenderingsAreCachedByNameAndSize) {
   EXPECT_EQ(images->cachedCount(), 2);
 }
 
-TEST_F(Pictures, UnknownNameGivesNullPixmapAndOneLogLine) {
+TEST_F(WidgetsPictures, UnknownNameGivesNullPixmapAndOneLogLine) {
   widgets_test::LogCapture log;
   EXPECT_TRUE(getGlobalImage("no_such_picture").isNull());
   EXPECT_TRUE(getGlobalImage("no_such_picture").isNull());
@@ -125,7 +126,7 @@ TEST_F(Pictures, UnknownNameGivesNullPixmapAndOneLogLine) {
   EXPECT_EQ(text.find("unknown picture [no_such_picture]", first + 1), std::string::npos);
 }
 
-TEST(PicturesFolder, BrokenFileGivesNullPixmapAndMissingFolderNothing) {
+TEST(WidgetsPicturesFolder, BrokenFileGivesNullPixmapAndMissingFolderNothing) {
   TempDir dir;
   nimbra_test::write_file(dir.file("broken.svg"), "<svg this is not xml");
   nimbra_test::write_file(
@@ -143,9 +144,9 @@ TEST(PicturesFolder, BrokenFileGivesNullPixmapAndMissingFolderNothing) {
 
 // The tray states must not differ by colour alone: their shapes (alpha masks)
 // differ from each other at 16 px, in both the light and the dark variant.
-class TrayShapes : public Pictures, public ::testing::WithParamInterface<const char*> {};
+class WidgetsTrayShapes : public WidgetsPictures, public ::testing::WithParamInterface<const char*> {};
 
-TEST_P(TrayShapes, EveryStateHasItsOwnShapeAt16px) {
+TEST_P(WidgetsTrayShapes, EveryStateHasItsOwnShapeAt16px) {
   const QStringList states{"connect", "green", "blue", "red", "orange"};
   QList<QImage> masks;
   for (const QString& s : states) {
@@ -172,7 +173,7 @@ TEST_P(TrayShapes, EveryStateHasItsOwnShapeAt16px) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Variants, TrayShapes, ::testing::Values("", "_dark"),
+INSTANTIATE_TEST_SUITE_P(WidgetsVariants, WidgetsTrayShapes, ::testing::Values("", "_dark"),
                          [](const ::testing::TestParamInfo<const char*>& p) {
                            return std::string(*p.param ? "dark" : "light");
                          });

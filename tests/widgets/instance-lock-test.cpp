@@ -24,9 +24,9 @@ QString helperPath() {
 }
 
 // Every test gets names of its own, so parallel runs never meet.
-class Isolated : public ::testing::Test {
+class WidgetsIsolated : public ::testing::Test {
  protected:
-  Isolated()
+  WidgetsIsolated()
       : ns_("NIMBRA_PIPE_NAMESPACE", (std::string("wt") + std::to_string(::getpid()) + "-" +
                                       ::testing::UnitTest::GetInstance()->current_test_info()->name() + "-")
                                          .c_str()) {}
@@ -41,9 +41,9 @@ std::future<bool> sendFromThread(const QString& appId, const QString& message, i
   });
 }
 
-class SingleApp : public Isolated {};
+class WidgetsSingleApp : public WidgetsIsolated {};
 
-TEST_F(SingleApp, SecondProcessFindsTheFirstAndItsArgumentArrives) {
+TEST_F(WidgetsSingleApp, SecondProcessFindsTheFirstAndItsArgumentArrives) {
   SingleInstance primary(appId_);
   ASSERT_FALSE(primary.isRunning());
   ASSERT_TRUE(primary.isPrimary());
@@ -58,7 +58,7 @@ TEST_F(SingleApp, SecondProcessFindsTheFirstAndItsArgumentArrives) {
   EXPECT_EQ(second.readAllStandardOutput().trimmed(), "SENT ok");
 }
 
-TEST_F(SingleApp, SecondProcessWithoutArgumentSendsOpen) {
+TEST_F(WidgetsSingleApp, SecondProcessWithoutArgumentSendsOpen) {
   SingleInstance primary(appId_);
   ASSERT_FALSE(primary.isRunning());
   QSignalSpy received(&primary, &SingleInstance::messageReceived);
@@ -70,14 +70,14 @@ TEST_F(SingleApp, SecondProcessWithoutArgumentSendsOpen) {
   EXPECT_EQ(second.exitCode(), 0);
 }
 
-TEST_F(SingleApp, ProcessOfAnotherAppIdIsNotAnInstanceOfThisOne) {
+TEST_F(WidgetsSingleApp, ProcessOfAnotherAppIdIsNotAnInstanceOfThisOne) {
   SingleInstance primary(appId_);
   ASSERT_FALSE(primary.isRunning());
   SingleInstance other(QStringLiteral("some-other-app"));
   EXPECT_FALSE(other.isRunning());
 }
 
-TEST_F(SingleApp, InstanceThatIsExitingIsNotRunning) {
+TEST_F(WidgetsSingleApp, InstanceThatIsExitingIsNotRunning) {
   SingleInstance first(appId_);
   ASSERT_FALSE(first.isRunning());
   SingleInstance second(appId_);
@@ -93,7 +93,7 @@ TEST_F(SingleApp, InstanceThatIsExitingIsNotRunning) {
   EXPECT_TRUE(sent.get());
 }
 
-TEST_F(SingleApp, CrashedPrimaryLeavesNothingBehind) {
+TEST_F(WidgetsSingleApp, CrashedPrimaryLeavesNothingBehind) {
   QProcess primary;
   primary.start(helperPath(), {"primary", appId_});
   ASSERT_TRUE(primary.waitForReadyRead(10000));
@@ -110,7 +110,7 @@ TEST_F(SingleApp, CrashedPrimaryLeavesNothingBehind) {
   EXPECT_TRUE(sent.get());
 }
 
-TEST_F(SingleApp, MessagesToAPrimaryProcessArriveWhole) {
+TEST_F(WidgetsSingleApp, MessagesToAPrimaryProcessArriveWhole) {
   QProcess primary;
   primary.start(helperPath(), {"primary", appId_});
   ASSERT_TRUE(primary.waitForReadyRead(10000));
@@ -124,7 +124,7 @@ TEST_F(SingleApp, MessagesToAPrimaryProcessArriveWhole) {
   EXPECT_EQ(QString::fromUtf8(primary.readAllStandardOutput()).trimmed(), "MESSAGE " + text);
 }
 
-TEST_F(SingleApp, HostilePeersAreDroppedAndLaterMessagesStillArrive) {
+TEST_F(WidgetsSingleApp, HostilePeersAreDroppedAndLaterMessagesStillArrive) {
   SingleInstance primary(appId_);
   ASSERT_FALSE(primary.isRunning());
   QSignalSpy received(&primary, &SingleInstance::messageReceived);
@@ -155,17 +155,17 @@ TEST_F(SingleApp, HostilePeersAreDroppedAndLaterMessagesStillArrive) {
   EXPECT_NE(log.text().find("refused a message announcing"), std::string::npos);
 }
 
-TEST_F(SingleApp, NobodyListeningMeansTheMessageIsLost) {
+TEST_F(WidgetsSingleApp, NobodyListeningMeansTheMessageIsLost) {
   SingleInstance lonely(appId_);
   EXPECT_FALSE(lonely.sendMessage("open", 300));
 }
 
-class Lock : public Isolated {
+class WidgetsLock : public WidgetsIsolated {
  protected:
   std::string name_ = "nimbra-test-lock";
 };
 
-TEST_F(Lock, FirstAcquiresSameUserSeesItHeld) {
+TEST_F(WidgetsLock, FirstAcquiresSameUserSeesItHeld) {
   MachineLock first(name_);
   ASSERT_EQ(first.acquire(), MachineLock::Acquired);
   EXPECT_TRUE(first.held());
@@ -178,7 +178,7 @@ TEST_F(Lock, FirstAcquiresSameUserSeesItHeld) {
   EXPECT_EQ(second.acquire(), MachineLock::Acquired);
 }
 
-TEST_F(Lock, AnotherUsersHolderIsToldApart) {
+TEST_F(WidgetsLock, AnotherUsersHolderIsToldApart) {
   MachineLock holder(name_);
   ASSERT_EQ(holder.acquire(), MachineLock::Acquired);
   // We pretend to be a different user: the holder's uid no longer matches.
@@ -188,7 +188,7 @@ TEST_F(Lock, AnotherUsersHolderIsToldApart) {
   EXPECT_EQ(me.acquire(), MachineLock::HeldBySameUser);
 }
 
-TEST_F(Lock, ManyAskersNeverStall) {
+TEST_F(WidgetsLock, ManyAskersNeverStall) {
   MachineLock holder(name_);
   ASSERT_EQ(holder.acquire(), MachineLock::Acquired);
   for (int i = 0; i < 200; ++i) {
@@ -197,14 +197,14 @@ TEST_F(Lock, ManyAskersNeverStall) {
   }
 }
 
-TEST_F(Lock, NamesAreNamespaced) {
+TEST_F(WidgetsLock, NamesAreNamespaced) {
   MachineLock lock(name_);
   EXPECT_NE(lock.systemName(), name_);
   EXPECT_EQ(lock.systemName().substr(lock.systemName().size() - name_.size()), name_);
   EXPECT_STREQ(MachineLock::kName, "corvana-vantor-backup-agent");
 }
 
-TEST_F(Lock, LockVanishesWithItsProcess) {
+TEST_F(WidgetsLock, LockVanishesWithItsProcess) {
   QProcess holder;
   holder.start(helperPath(), {"hold-lock", QString::fromStdString(name_)});
   ASSERT_TRUE(holder.waitForReadyRead(10000));

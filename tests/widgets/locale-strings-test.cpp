@@ -20,7 +20,7 @@ void PrintTo(const LocaleCase& c, std::ostream* os) {
   *os << '"' << c.locale << '"';
 }
 
-class LocaleMapping : public ::testing::TestWithParam<LocaleCase> {
+class WidgetsLocaleMapping : public ::testing::TestWithParam<LocaleCase> {
  protected:
   void SetUp() override {
     VellLocale* l = VellLocale::getInstance();
@@ -34,13 +34,13 @@ class LocaleMapping : public ::testing::TestWithParam<LocaleCase> {
   void TearDown() override { VellLocale::getInstance()->reset(); }
 };
 
-TEST_P(LocaleMapping, GivesTheThreeLetterCode) {
+TEST_P(WidgetsLocaleMapping, GivesTheThreeLetterCode) {
   EXPECT_EQ(VellLocale::getInstance()->languageFor(QLocale(GetParam().locale)).toStdString(), GetParam().code)
       << GetParam().locale;
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Table, LocaleMapping,
+    WidgetsTable, WidgetsLocaleMapping,
     ::testing::Values(LocaleCase{"de_DE", "ger"}, LocaleCase{"de_AT", "ger"}, LocaleCase{"fr_FR", "fre"},
                       LocaleCase{"fr_CA", "fre"}, LocaleCase{"es_ES", "spn"}, LocaleCase{"es_MX", "spn"},
                       LocaleCase{"th_TH", "tha"}, LocaleCase{"zh_TW", "cht"}, LocaleCase{"zh_HK", "cht"},
@@ -50,7 +50,7 @@ INSTANTIATE_TEST_SUITE_P(
                       LocaleCase{"C", "enu"}),
     [](const ::testing::TestParamInfo<LocaleCase>& p) { return std::string(p.param.locale); });
 
-TEST(VellLocaleRegistry, UnregisteredLanguageFallsBackToEnglish) {
+TEST(WidgetsVellLocaleRegistry, UnregisteredLanguageFallsBackToEnglish) {
   VellLocale::getInstance()->reset();
   EXPECT_EQ(VellLocale::getInstance()->languageFor(QLocale("de_DE")), "enu");
   VellLocale::getInstance()->setLanguageMap("DE", "ger");
@@ -58,19 +58,19 @@ TEST(VellLocaleRegistry, UnregisteredLanguageFallsBackToEnglish) {
   VellLocale::getInstance()->reset();
 }
 
-TEST(VellLocaleRegistry, RegisteredPairOverridesBuiltIn) {
+TEST(WidgetsVellLocaleRegistry, RegisteredPairOverridesBuiltIn) {
   VellLocale::getInstance()->reset();
   VellLocale::getInstance()->setLanguageMap("ja", "jap");
   EXPECT_EQ(VellLocale::getInstance()->languageFor(QLocale("ja_JP")), "jap");
   VellLocale::getInstance()->reset();
 }
 
-TEST(VellLocaleRegistry, DefaultLanguageFollowsTheSystemLocale) {
+TEST(WidgetsVellLocaleRegistry, DefaultLanguageFollowsTheSystemLocale) {
   EXPECT_EQ(VellLocale::getInstance()->getDefaultLanguage(),
             VellLocale::getInstance()->languageFor(QLocale::system()));
 }
 
-TEST(ComponentStringsTable, InstalledTextsWinAndDefaultsRemain) {
+TEST(WidgetsComponentStringsTable, InstalledTextsWinAndDefaultsRemain) {
   ComponentStrings* s = ComponentStrings::getInstance();
   s->reset();
   EXPECT_EQ(s->string("ok"), "OK");
@@ -84,7 +84,7 @@ TEST(ComponentStringsTable, InstalledTextsWinAndDefaultsRemain) {
   EXPECT_EQ(s->string("ok"), "OK");
 }
 
-TEST(PathRegistry, StoresReplacesAndReportsMissingKeys) {
+TEST(WidgetsPathRegistry, StoresReplacesAndReportsMissingKeys) {
   UIPathManager* p = UIPathManager::getInstance();
   p->clear();
   widgets_test::LogCapture log;

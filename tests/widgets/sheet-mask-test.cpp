@@ -17,7 +17,7 @@
 
 namespace {
 
-class Sheets : public ::testing::Test {
+class WidgetsSheets : public ::testing::Test {
  protected:
   static void SetUpTestSuite() { widgets_test::loadProductLook(); }
   void SetUp() override {
@@ -29,7 +29,7 @@ class Sheets : public ::testing::Test {
   QWidget window_;
 };
 
-TEST_F(Sheets, ExecReturnsThePressedButton) {
+TEST_F(WidgetsSheets, ExecReturnsThePressedButton) {
   VellMessageSheet sheet(3, &window_, true);
   ASSERT_NE(sheet.button(QMessageBox::Apply), nullptr);
   ASSERT_NE(sheet.button(QMessageBox::Discard), nullptr);
@@ -46,7 +46,7 @@ TEST_F(Sheets, ExecReturnsThePressedButton) {
   EXPECT_EQ(sheet.exec(), QMessageBox::Discard);
 }
 
-TEST_F(Sheets, QuitEndsTheLoopWithNoButtonAndTheSheetCanRunAgain) {
+TEST_F(WidgetsSheets, QuitEndsTheLoopWithNoButtonAndTheSheetCanRunAgain) {
   VellMessageSheet sheet(1, &window_, true);
   QSignalSpy finished(&sheet, &VellMessageSheet::finished);
   whileUp([&] { sheet.quit(); });
@@ -60,7 +60,7 @@ TEST_F(Sheets, QuitEndsTheLoopWithNoButtonAndTheSheetCanRunAgain) {
   EXPECT_FALSE(sheet.isVisible());
 }
 
-TEST_F(Sheets, EscapePressesTheCancellingButton) {
+TEST_F(WidgetsSheets, EscapePressesTheCancellingButton) {
   VellMessageSheet sheet(3, &window_, true);
   whileUp([&] {
     QKeyEvent esc(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
@@ -69,7 +69,7 @@ TEST_F(Sheets, EscapePressesTheCancellingButton) {
   EXPECT_EQ(sheet.exec(), QMessageBox::Discard);
 }
 
-TEST_F(Sheets, SecondExecWhileRunningIsRefused) {
+TEST_F(WidgetsSheets, SecondExecWhileRunningIsRefused) {
   VellMessageSheet sheet(1, &window_, true);
   int inner = -2;
   whileUp([&] {
@@ -80,7 +80,7 @@ TEST_F(Sheets, SecondExecWhileRunningIsRefused) {
   EXPECT_EQ(inner, QMessageBox::NoButton);
 }
 
-TEST_F(Sheets, DestroyedWhileUpReturnsNoButton) {
+TEST_F(WidgetsSheets, DestroyedWhileUpReturnsNoButton) {
   auto* sheet = new VellMessageSheet(2, &window_, true);
   QPointer<VellMessageSheet> guard(sheet);
   whileUp([sheet] { delete sheet; });
@@ -89,7 +89,7 @@ TEST_F(Sheets, DestroyedWhileUpReturnsNoButton) {
   EXPECT_TRUE(VellMessageSheet::runningSheets().isEmpty());
 }
 
-TEST_F(Sheets, DefaultButtonsByTypeAndInstalledWords) {
+TEST_F(WidgetsSheets, DefaultButtonsByTypeAndInstalledWords) {
   ComponentStrings::getInstance()->reset();
   ComponentStrings::getInstance()->installStrings({{"ok", "Okay"}});
   VellMessageSheet notice(1, &window_, true), error(2, &window_, true), question(3, &window_, true);
@@ -103,7 +103,7 @@ TEST_F(Sheets, DefaultButtonsByTypeAndInstalledWords) {
   ComponentStrings::getInstance()->reset();
 }
 
-TEST_F(Sheets, ButtonsCanBeReplacedRelabelledAndTextsSet) {
+TEST_F(WidgetsSheets, ButtonsCanBeReplacedRelabelledAndTextsSet) {
   VellMessageSheet sheet(1, &window_, true);
   sheet.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
   sheet.button(QMessageBox::Ok)->setText("Sign in");
@@ -116,7 +116,7 @@ TEST_F(Sheets, ButtonsCanBeReplacedRelabelledAndTextsSet) {
   EXPECT_EQ(sheet.button(QMessageBox::Ok)->text(), "Sign in");
 }
 
-TEST_F(Sheets, SheetIsCentredOverItsParent) {
+TEST_F(WidgetsSheets, SheetIsCentredOverItsParent) {
   VellMessageSheet sheet(1, &window_, true);
   sheet.setFixedSize(480, 184);
   whileUp([&] {
@@ -131,7 +131,7 @@ TEST_F(Sheets, SheetIsCentredOverItsParent) {
   sheet.exec();
 }
 
-TEST_F(Sheets, WarningBoxIsAWindowOfItsOwnAndReturnsTheButton) {
+TEST_F(WidgetsSheets, WarningBoxIsAWindowOfItsOwnAndReturnsTheButton) {
   widgets_test::LogCapture log;
   whileUp([] {
     ASSERT_EQ(VellMessageSheet::runningSheets().size(), 1);
@@ -147,9 +147,9 @@ TEST_F(Sheets, WarningBoxIsAWindowOfItsOwnAndReturnsTheButton) {
   EXPECT_NE(log.text().find("warning shown: [Nimbra Backup]"), std::string::npos);
 }
 
-class Masks : public Sheets {};
+class WidgetsMasks : public WidgetsSheets {};
 
-TEST_F(Masks, CoversTheWidgetAndFollowsItsSize) {
+TEST_F(WidgetsMasks, CoversTheWidgetAndFollowsItsSize) {
   VellMessageSheet sheet(1, &window_, true);
   VellMask* mask = VellMask::createMask(&sheet, &window_, QColor(0, 0, 0, 20));
   ASSERT_NE(mask, nullptr);
@@ -170,7 +170,7 @@ TEST_F(Masks, CoversTheWidgetAndFollowsItsSize) {
   EXPECT_FALSE(mask->isVisible());
 }
 
-TEST_F(Masks, OneMaskPerSheetAndItGoesWithTheSheet) {
+TEST_F(WidgetsMasks, OneMaskPerSheetAndItGoesWithTheSheet) {
   auto* sheet = new VellMessageSheet(1, &window_, true);
   QPointer<VellMask> first = VellMask::createMask(sheet, &window_, QColor(0, 0, 0, 20));
   VellMask* again = VellMask::createMask(sheet, &window_, QColor(0, 0, 0, 60));
@@ -182,7 +182,7 @@ TEST_F(Masks, OneMaskPerSheetAndItGoesWithTheSheet) {
   EXPECT_TRUE(first.isNull());
 }
 
-TEST_F(Masks, SwallowsClicksMeantForWidgetsUnderIt) {
+TEST_F(WidgetsMasks, SwallowsClicksMeantForWidgetsUnderIt) {
   auto* button = new QPushButton("under", &window_);
   button->setGeometry(10, 10, 100, 30);
   button->show();
@@ -198,7 +198,7 @@ TEST_F(Masks, SwallowsClicksMeantForWidgetsUnderIt) {
   EXPECT_EQ(clicked.count(), 0);
 }
 
-TEST_F(Masks, NullArgumentsGiveNoMask) {
+TEST_F(WidgetsMasks, NullArgumentsGiveNoMask) {
   widgets_test::LogCapture log;
   VellMessageSheet sheet(1, &window_, true);
   EXPECT_EQ(VellMask::createMask(nullptr, &window_, Qt::black), nullptr);

@@ -31,7 +31,7 @@ using widgets_test::LogCapture;
 
 namespace {
 
-class StyleFormat : public ::testing::Test {
+class WidgetsStyleFormat : public ::testing::Test {
  protected:
   void SetUp() override {
     StyleManager::getInstance()->clear();
@@ -40,7 +40,7 @@ class StyleFormat : public ::testing::Test {
   void TearDown() override { StyleManager::getInstance()->clear(); }
 };
 
-TEST_F(StyleFormat, BlocksRunToTheNextHeaderAndThePrefaceIsIgnored) {
+TEST_F(WidgetsStyleFormat, BlocksRunToTheNextHeaderAndThePrefaceIsIgnored) {
   const int n = StyleManager::getInstance()->loadFromString(
       "/* preface mentioning @ signs */\nQLabel { color: red; }\n"
       "@@ first\nQLabel { color: #111111; }\n/* kept */\n"
@@ -53,20 +53,20 @@ TEST_F(StyleFormat, BlocksRunToTheNextHeaderAndThePrefaceIsIgnored) {
   EXPECT_FALSE(StyleManager::getInstance()->contains("preface"));
 }
 
-TEST_F(StyleFormat, EmptyBlockExistsAndIsEmpty) {
+TEST_F(WidgetsStyleFormat, EmptyBlockExistsAndIsEmpty) {
   StyleManager::getInstance()->loadFromString("@@ empty\n@@ next\nQLabel{}\n", "inline");
   EXPECT_TRUE(StyleManager::getInstance()->contains("empty"));
   EXPECT_EQ(StyleManager::getInstance()->styleSheet("empty"), "");
 }
 
-TEST_F(StyleFormat, ImagesTokenBecomesThePicturesFolder) {
+TEST_F(WidgetsStyleFormat, ImagesTokenBecomesThePicturesFolder) {
   StyleManager::getInstance()->loadFromString("@@ box\nQCheckBox::indicator { image: url($images/a.svg); }\n",
                                               "inline");
   EXPECT_EQ(StyleManager::getInstance()->styleSheet("box"),
             "QCheckBox::indicator { image: url(/opt/look/images/a.svg); }");
 }
 
-TEST_F(StyleFormat, LaterDefinitionReplacesEarlierOneWithALogLine) {
+TEST_F(WidgetsStyleFormat, LaterDefinitionReplacesEarlierOneWithALogLine) {
   LogCapture log;
   StyleManager::getInstance()->loadFromString("@@ a\nQLabel { color: red; }\n", "one");
   StyleManager::getInstance()->loadFromString("@@ a\nQLabel { color: blue; }\n", "two");
@@ -74,7 +74,7 @@ TEST_F(StyleFormat, LaterDefinitionReplacesEarlierOneWithALogLine) {
   EXPECT_NE(log.text().find("replaces an earlier one"), std::string::npos);
 }
 
-TEST_F(StyleFormat, MalformedHeaderIsSkippedNotTakenAsText) {
+TEST_F(WidgetsStyleFormat, MalformedHeaderIsSkippedNotTakenAsText) {
   LogCapture log;
   StyleManager::getInstance()->loadFromString("@@ ok\nQLabel { }\n@@ bad name!\nQFrame { }\n", "inline");
   EXPECT_FALSE(StyleManager::getInstance()->contains("bad"));
@@ -82,20 +82,20 @@ TEST_F(StyleFormat, MalformedHeaderIsSkippedNotTakenAsText) {
   EXPECT_NE(log.text().find("malformed block header"), std::string::npos);
 }
 
-TEST_F(StyleFormat, MissingFileIsLoggedAndSkipped) {
+TEST_F(WidgetsStyleFormat, MissingFileIsLoggedAndSkipped) {
   LogCapture log;
   EXPECT_EQ(StyleManager::getInstance()->initialize({"/nonexistent/agent.stylesheet"}), 0);
   EXPECT_NE(log.text().find("cannot open style sheet file"), std::string::npos);
 }
 
-TEST_F(StyleFormat, UnknownNameGivesEmptySheetAndLogLine) {
+TEST_F(WidgetsStyleFormat, UnknownNameGivesEmptySheetAndLogLine) {
   LogCapture log;
   EXPECT_TRUE(getStyleSheet("no_such_style").isEmpty());
   EXPECT_TRUE(getStyleSheet("no_such_style", false).isEmpty());
   EXPECT_NE(log.text().find("unknown style sheet [no_such_style]"), std::string::npos);
 }
 
-TEST_F(StyleFormat, ScaledFetchMultipliesPixelLengthsOnly) {
+TEST_F(WidgetsStyleFormat, ScaledFetchMultipliesPixelLengthsOnly) {
   nimbra_test::ScopedEnv scale("NIMBRA_UI_SCALE", "2");
   StyleManager::getInstance()->loadFromString("@@ s\nQLabel { font-size: 13px; line-height: 1.5em; }\n", "x");
   EXPECT_EQ(getStyleSheet("s"), "QLabel { font-size: 26px; line-height: 1.5em; }");
@@ -103,12 +103,12 @@ TEST_F(StyleFormat, ScaledFetchMultipliesPixelLengthsOnly) {
 }
 
 // Every name the agent uses resolves in the product's own files.
-class AgentStyleName : public ::testing::TestWithParam<QString> {
+class WidgetsAgentStyleName : public ::testing::TestWithParam<QString> {
  protected:
   static void SetUpTestSuite() { loadProductLook(); }
 };
 
-TEST_P(AgentStyleName, IsDefinedAndNotEmpty) {
+TEST_P(WidgetsAgentStyleName, IsDefinedAndNotEmpty) {
   EXPECT_TRUE(StyleManager::getInstance()->contains(GetParam())) << qPrintable(GetParam());
   EXPECT_FALSE(StyleManager::getInstance()->styleSheet(GetParam()).trimmed().isEmpty());
   EXPECT_FALSE(StyleManager::getInstance()->styleSheet(GetParam()).contains("$images"));
@@ -140,7 +140,7 @@ void collectWarnings(QtMsgType, const QMessageLogContext&, const QString& msg) {
   if (msg.contains("parse", Qt::CaseInsensitive)) g_parseWarnings << msg;
 }
 
-TEST_P(AgentStyleName, QtParsesIt) {
+TEST_P(WidgetsAgentStyleName, QtParsesIt) {
   g_parseWarnings.clear();
   auto previous = qInstallMessageHandler(collectWarnings);
   auto widget = widgetFor(GetParam());
@@ -153,14 +153,15 @@ TEST_P(AgentStyleName, QtParsesIt) {
       << qPrintable(GetParam()) << ": " << qPrintable(g_parseWarnings.join("; "));
 }
 
-INSTANTIATE_TEST_SUITE_P(Names, AgentStyleName, ::testing::ValuesIn(widgets_test::agentStyleNames()),
+INSTANTIATE_TEST_SUITE_P(WidgetsNames, WidgetsAgentStyleName,
+                         ::testing::ValuesIn(widgets_test::agentStyleNames()),
                          [](const ::testing::TestParamInfo<QString>& p) {
                            QString n = p.param;
                            return n.replace('.', '_').toStdString();
                          });
 
 // Both files come first in their own order, and nothing in them is defined twice.
-TEST(StyleFiles, NoNameIsDefinedTwice) {
+TEST(WidgetsStyleFiles, NoNameIsDefinedTwice) {
   LogCapture log;
   loadProductLook();
   EXPECT_EQ(log.text().find("defined twice"), std::string::npos);
@@ -168,7 +169,7 @@ TEST(StyleFiles, NoNameIsDefinedTwice) {
 }
 
 // The build tree holds the resource folder beside bin/, as installed.
-TEST(ResourceFolder, BuildTreeMirrorsTheSourceFolder) {
+TEST(WidgetsResourceFolder, BuildTreeMirrorsTheSourceFolder) {
   const QDir source(widgets_test::sourceResources());
   const QDir built(qEnvironmentVariable("NIMBRA_BUILD_DIR") + QStringLiteral("/resource"));
   ASSERT_TRUE(built.exists()) << qPrintable(built.path());
