@@ -89,6 +89,7 @@ VellMessageSheet::VellMessageSheet(int messageType, QWidget* parent, bool sheet,
   }
   setObjectName(QStringLiteral("VellMessageSheet"));
   setProperty("messageType", type_);
+  setProperty("sheetWindow", !sheet_);
   setStyleSheet(getStyleSheet(QStringLiteral("component.message_sheet")));
   if (sheet_) {
     setAttribute(Qt::WA_StyledBackground);

@@ -412,6 +412,18 @@ void renderSheets() {
                         QStringLiteral("Internet connection error. Check your Internet connection and "
                                        "try again."),
                         QString(), false)}});
+  {
+    VellMessageSheet box(VellMessageSheet::Error, nullptr, false);
+    box.setWindowTitle(QStringLiteral("Nimbra Backup"));
+    box.setText(QStringLiteral("This application is already opened by another user."));
+    QImage shot;
+    QTimer::singleShot(0, [&box, &shot]() {
+      shot = box.grab().toImage();
+      box.quit();
+    });
+    box.exec();
+    rows.push_back({{"showWarningMsg (a window of its own)", shot}});
+  }
   save(sheet(QStringLiteral("Message sheets over a masked window"), rows, QColor("#F3F5F8")),
        QStringLiteral("sheets.png"));
 }
