@@ -139,6 +139,7 @@ std::string DeviceModel::load_state() {
       jsonx::get_int32(state, "version") != kStateVersion) {
     std::error_code ec;
     std::filesystem::rename(path, path + ".bad", ec);
+    save_locked();
     return "state file " + path + " cannot be read (" + (error.empty() ? "wrong layout" : error) +
            "); kept as " + path + ".bad, starting from the scenario";
   }

@@ -150,12 +150,13 @@ void PipeService::serve_client() {
     delay += f.late_ms;
   }
   if (delay > 0 && !wait_interruptibly(delay)) return;
+  // Counted before the write, so a client that has its answer sees the count.
+  ++answered_;
   if (impl_->server.write(answer, &stop_) != 0) {
+    --answered_;
     if (!stop_.load())
       SIM_WARN("could not write the answer to request %llu", static_cast<unsigned long long>(n));
-    return;
   }
-  ++answered_;
 }
 
 }  // namespace sim

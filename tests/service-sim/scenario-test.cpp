@@ -1,0 +1,133 @@
+// Scenario files: every shipped file loads, and a bad file gets one clear
+// sentence naming the file and the member.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <set>
+
+#include "json-access.h"
+
+#include "scenario.h"
+#include "support/temp-dir.h"
+
+namespace {
+
+std::string scenario_dir() {
+  const char* src = std::getenv("NIMBRA_SOURCE_DIR");
+  return std::string(src != nullptr ? src : ".") + "/service-sim/scenarios";
+}
+
+TEST(SimScenarios, EveryShippedFileLoads) {
+  int count = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(scenario_dir())) {
+    if (entry.path().extension() != ".json") continue;
+    ++count;
+    sim::Scenario s;
+    std::string error;
+    EXPECT_TRUE(sim::load_scenario(entry.path().string(), s, error)) << error;
+    EXPECT_FALSE(s.description.empty()) << entry.path();
+    EXPECT_GT(s.sites.size(), 0u) << entry.path();
+  }
+  EXPECT_GE(count, 10);
+}
+
+TEST(SimScenarios, FirstRunWalksTheWholeStoryWithinThirtySeconds) {
+  sim::Scenario s;
+  std::string error;
+  ASSERT_TRUE(sim::load_scenario(scenario_dir() + "/first-run.json", s, error)) << error;
+  EXPECT_FALSE(s.linked);
+  EXPECT_GE(s.sites.size(), 3u);
+  EXPECT_EQ(s.backup.outcome, sim::BackupOutcome::kSuccess);
+  const double seconds =
+      s.backup.prepare_seconds + static_cast<double>(s.backup.total_bytes) / s.backup.rate_bytes_per_second;
+  EXPECT_LT(seconds, 30.0);
+  // Built-in region codes and at least one that is not.
+  std::set<std::string> codes;
+  for (const auto& site : s.sites)
+    codes.insert(jsonx::get_string(jsonx::get_object(jsonx::get_object(site, "billing"), "region"), "code"));
+  EXPECT_TRUE(codes.count("US") && codes.count("EU") && codes.count("TW"));
+  EXPECT_GT(codes.size(), 3u);
+}
+
+TEST(SimScenarios, MissingFileIsNamed) {
+  sim::Scenario s;
+  std::string error;
+  EXPECT_FALSE(sim::load_scenario("/nonexistent/x.json", s, error));
+  EXPECT_THAT(error, ::testing::HasSubstr("/nonexistent/x.json"));
+  EXPECT_THAT(error, ::testing::HasSubstr("cannot be opened"));
+}
+
+struct BadScenario {
+  const char* label;
+  const char* text;
+  const char* expected;  // in the error sentence
+};
+
+class SimBadScenarioTest : public ::testing::TestWithParam<BadScenario> {};
+
+TEST_P(SimBadScenarioTest, RefusedWithAClearError) {
+  sim::Scenario s;
+  s.name = "untouched";
+  std::string error;
+  EXPECT_FALSE(sim::parse_scenario(GetParam().text, "bad.json", s, error));
+  EXPECT_THAT(error, ::testing::HasSubstr("bad.json"));
+  EXPECT_THAT(error, ::testing::HasSubstr(GetParam().expected));
+  EXPECT_EQ(s.name, "untouched");  // nothing half-loaded
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, SimBadScenarioTest,
+    ::testing::Values(
+        BadScenario{"NotJson", "{\"name\": ", "not valid JSON"},
+        BadScenario{"TopLevelArray", "[]", "top level must be an object"},
+        BadScenario{"UnknownTopMember", "{\"sceanrio\": 1}", "'sceanrio' is not a known member"},
+        BadScenario{"UnknownNested", "{\"backup\": {\"rate\": 5}}", "'backup.rate' is not a known member"},
+        BadScenario{"BoolAsString", "{\"device\": {\"linked\": \"yes\"}}",
+                    "'device.linked' must be true or false"},
+        BadScenario{"NumberAsString", "{\"backup\": {\"total_bytes\": \"2GB\"}}",
+                    "'backup.total_bytes' must be a whole number"},
+        BadScenario{"Fraction", "{\"faults\": {\"drop_every\": 2.5}}",
+                    "'faults.drop_every' must be a whole number"},
+        BadScenario{"OutOfRange", "{\"backup\": {\"delta_ratio\": 1.5}}",
+                    "'backup.delta_ratio' must lie between 0 and 1"},
+        BadScenario{"BadOutcome", "{\"backup\": {\"outcome\": \"exploded\"}}",
+                    "'backup.outcome' must be one of"},
+        BadScenario{"NoSites", "{\"sites\": []}", "'sites' must list at least one site"},
+        BadScenario{"SiteWithoutCode", "{\"sites\": [{\"billing\": {\"region\": {}}}]}",
+                    "'sites[0].billing.region.code'"},
+        BadScenario{"SiteIndexPastEnd", "{\"device\": {\"site_index\": 9}}",
+                    "'device.site_index' points past"},
+        BadScenario{"ErrorWithoutCode", "{\"errors\": {\"get_token\": {\"times\": 1}}}",
+                    "'errors.get_token.code' is missing"},
+        BadScenario{"ErrorForUnknownAction", "{\"errors\": {\"reboot\": {\"code\": 4}}}",
+                    "'errors.reboot' is not a known"},
+        BadScenario{"VolumesNotStrings", "{\"backup\": {\"volumes\": [1]}}",
+                    "'backup.volumes' must hold strings"},
+        BadScenario{"UpgradeOutcome", "{\"upgrade\": {\"outcome\": \"maybe\"}}",
+                    "'upgrade.outcome' must be success or error"},
+        BadScenario{"LogWithoutType", "{\"initial_logs\": [{\"body\": {}}]}",
+                    "'initial_logs[0].type' is missing"}),
+    [](const auto& test_case) { return std::string(test_case.param.label); });
+
+TEST(SimScenarios, MembersOverrideTheDefaults) {
+  sim::Scenario s;
+  std::string error;
+  ASSERT_TRUE(sim::parse_scenario(
+      R"({"device":{"linked":true,"quota":5000,"used_bytes":10},"backup":{"outcome":"partial","volumes":["X:"]},
+          "faults":{"garbage_every":3},"hostile":true,"errors":{"get_auth":{"code":5,"times":2}}})",
+      "ok.json", s, error))
+      << error;
+  EXPECT_TRUE(s.linked);
+  EXPECT_EQ(s.quota, 5000u);
+  EXPECT_EQ(s.used_bytes, 10u);
+  EXPECT_EQ(s.backup.outcome, sim::BackupOutcome::kPartial);
+  EXPECT_EQ(s.backup.volumes, std::vector<std::string>{"X:"});
+  EXPECT_EQ(s.faults.garbage_every, 3);
+  EXPECT_TRUE(s.hostile);
+  EXPECT_EQ(s.errors["get_auth"].code, 5);
+  EXPECT_EQ(s.errors["get_auth"].times, 2);
+}
+
+}  // namespace
