@@ -14,6 +14,7 @@
 
 #include "agent-client.h"
 #include "device-model.h"
+#include "env.h"
 #include "json-access.h"
 #include "logger.h"
 #include "pipe-service.h"
@@ -94,14 +95,14 @@ std::string default_state_dir() {
 }  // namespace
 
 std::string working_space_folder() {
-  const char* ws = std::getenv("NIMBRA_WORKING_SPACE");
-  if (ws != nullptr && *ws != '\0') return ws;
-#ifdef _WIN32
-  const char* pd = std::getenv("ProgramData");
-  return std::string(pd != nullptr && *pd != '\0' ? pd : "C:\\ProgramData") + "\\NimbraBackupAgent";
-#else
-  return "/var/lib/NimbraBackupAgent";
-#endif
+  // The same folder the agent reads: $NIMBRA_WORKING_SPACE, else the
+  // machine-wide application-data folder + "/NimbraBackupAgent".
+  try {
+    return vantor::get_working_space_utf8();
+  } catch (const std::exception& e) {
+    SIM_ERROR("the working space cannot be found (%s); using the current folder", e.what());
+    return ".";
+  }
 }
 
 std::string help_text() {

@@ -196,8 +196,8 @@ class Served {
   }
   bool ok() const { return ok_; }
   // SIGTERM, then the exit code (-1 when it did not end cleanly in time).
-  int terminate() {
-    ::kill(static_cast<pid_t>(process_.processId()), SIGTERM);
+  int terminate(int signo = SIGTERM) {
+    ::kill(static_cast<pid_t>(process_.processId()), signo);
     if (!process_.waitForFinished(5000) || process_.exitStatus() != QProcess::NormalExit) return -1;
     return process_.exitCode();
   }
@@ -262,6 +262,33 @@ TEST_F(SimCliTest, ServeRunsTheScenarioPushesNotificationsAndResumesAfterRestart
     EXPECT_EQ(jsonx::get_uint64(jsonx::get_object(content, "billing"), "used_bytes"), 9000u);
     EXPECT_EQ(again.terminate(), 0);
   }
+}
+
+TEST_F(SimCliTest, InterruptEndsServingCleanlyAndFreesThePipe) {
+  const QStringList args{"--state", QString::fromStdString(dir_.file("state"))};
+  {
+    Served serve(args);
+    ASSERT_TRUE(serve.ok());
+    EXPECT_EQ(serve.terminate(SIGINT), 0);
+  }
+  // The name is free again: a second service can serve it at once.
+  Served again(args);
+  ASSERT_TRUE(again.ok());
+  EXPECT_TRUE(sim::exchange(WinIpc::kServicePipe, "{\"action\":\"get_connection_info\"}").ok);
+  EXPECT_EQ(again.terminate(), 0);
+}
+
+TEST_F(SimCliTest, SendReadsTheMessageFromStandardInput) {
+  AgentEnd agent("{\"success\":true}");
+  ASSERT_TRUE(agent.ok());
+  QProcess p;
+  p.start(sim_binary(), {"send", "--pipe", "agent", "-"});
+  ASSERT_TRUE(p.waitForStarted(5000));
+  p.write("{\"action\":\"notifications\",\"from\":\"stdin\"}");
+  p.closeWriteChannel();
+  ASSERT_TRUE(p.waitForFinished(10000));
+  EXPECT_EQ(p.exitCode(), 0);
+  EXPECT_THAT(agent.received(), ::testing::ElementsAre("{\"action\":\"notifications\",\"from\":\"stdin\"}"));
 }
 
 }  // namespace

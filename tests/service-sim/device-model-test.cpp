@@ -413,6 +413,69 @@ TEST_F(SimModelTest, PortalLinksAndTrayMenu) {
   EXPECT_EQ(jsonx::get_uint64(jsonx::get_object(tray, "billing"), "quota"), 100000u);
 }
 
+TEST_F(SimModelTest, DatedScheduleStartsBackupsAndMovesOn) {
+  sim::Scenario s = simtest::quick_scenario(true);
+  s.schedule = Json::Value(Json::objectValue);
+  s.schedule["next_backup_in_seconds"] = 10;
+  auto m = make(s);
+  const std::int64_t start_s = clock_.now / 1000;
+  const Json::Value before = get_status(*m);
+  EXPECT_EQ(jsonx::get_int64(jsonx::get_object(before, "content"), "next_backup_time"), start_s + 10);
+  EXPECT_FALSE(jsonx::has(jsonx::get_object(before, "content"), "schedule_type"));
+  run_for(*m, 9900);
+  EXPECT_FALSE(m->backup_running());
+  run_for(*m, 100);
+  EXPECT_TRUE(m->backup_running());
+  EXPECT_EQ(jsonx::get_int64(jsonx::get_object(get_status(*m), "content"), "next_backup_time"), start_s + 20);
+}
+
+TEST_F(SimModelTest, AutomaticBackupRunsOnceAfterItsDelay) {
+  sim::Scenario s = simtest::quick_scenario(true);
+  s.auto_backup_after_seconds = 2;
+  auto m = make(s);
+  run_for(*m, 1900);
+  EXPECT_FALSE(m->backup_running());
+  run_for(*m, 100);
+  EXPECT_TRUE(m->backup_running());
+  run_for(*m, 20000);
+  EXPECT_FALSE(m->backup_running());
+  EXPECT_EQ(m->take_notifications().size(), 1u);  // one backup only
+}
+
+struct IdleCase {
+  const char* label;
+  bool connected;
+  std::int64_t error_code;  // 0: none
+  int status;
+  int schedule_type;
+};
+
+class SimIdleStatusTest : public SimModelTest, public ::testing::WithParamInterface<IdleCase> {};
+
+TEST_P(SimIdleStatusTest, StatusAndContentMembers) {
+  sim::Scenario s = simtest::quick_scenario(true);
+  s.connected = GetParam().connected;
+  if (GetParam().error_code != 0) s.status_error["code"] = static_cast<Json::Int64>(GetParam().error_code);
+  s.schedule = Json::Value(Json::objectValue);
+  s.schedule["schedule_type"] = GetParam().schedule_type;
+  auto m = make(s);
+  const Json::Value v = get_status(*m);
+  EXPECT_EQ(jsonx::get_int32(v, "status"), GetParam().status);
+  const Json::Value& c = jsonx::get_object(v, "content");
+  EXPECT_EQ(jsonx::get_bool(c, "connected"), GetParam().connected);
+  EXPECT_EQ(jsonx::get_int64(jsonx::get_object(c, "error"), "code"), GetParam().error_code);
+  EXPECT_EQ(jsonx::has(c, "error"), GetParam().error_code != 0);
+  EXPECT_EQ(jsonx::get_int32(c, "schedule_type"), GetParam().schedule_type);
+  EXPECT_FALSE(jsonx::has(c, "next_backup_time"));
+  EXPECT_TRUE(jsonx::has(jsonx::get_object(c, "billing"), "used_bytes"));
+}
+
+INSTANTIATE_TEST_SUITE_P(States, SimIdleStatusTest,
+                         ::testing::Values(IdleCase{"Idle", true, 0, 0x2001, 4},
+                                           IdleCase{"Offline", false, 0, 0x2002, 3},
+                                           IdleCase{"ServiceError", true, 5, 0xF001, 1}),
+                         [](const auto& test_case) { return std::string(test_case.param.label); });
+
 TEST(SimHostileAnswers, EveryScalarChangesType) {
   const Json::Value in = simtest::parse(
       R"({"status":8193,"content":{"connected":true,"logs":[{"id":3,"body":{"volume_name":"C:"}}],"e":""}})");

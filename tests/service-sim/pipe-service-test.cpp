@@ -146,6 +146,16 @@ TEST_F(SimPipeTest, FaultsDropAndGarbleTheScheduledRequests) {
   EXPECT_EQ(service_->answered(), 6u);
 }
 
+TEST_F(SimPipeTest, FirstConnectionsRefusedThenServed) {
+  sim::PipeService::Options o;
+  o.faults.refuse_first = 2;
+  start(simtest::quick_scenario(true), o);
+  EXPECT_FALSE(send(jsonx::compact(request("get_status"))).ok);
+  EXPECT_FALSE(send(jsonx::compact(request("get_status"))).ok);
+  EXPECT_TRUE(send(jsonx::compact(request("get_status"))).ok);
+  EXPECT_EQ(service_->received(), 1u);
+}
+
 TEST_F(SimPipeTest, HostileModeChangesTypesButStillAnswers) {
   sim::PipeService::Options o;
   o.hostile = true;
