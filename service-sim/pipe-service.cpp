@@ -1,7 +1,8 @@
 #include "pipe-service.h"
 
+#include <QDateTime>
+
 #include <chrono>
-#include <ctime>
 
 #include "json-access.h"
 #include "sim-log.h"
@@ -10,18 +11,7 @@
 namespace sim {
 
 std::string iso_time(std::int64_t time_ms) {
-  const std::time_t secs = static_cast<std::time_t>(time_ms / 1000);
-  std::tm tm{};
-#ifdef _WIN32
-  gmtime_s(&tm, &secs);
-#else
-  gmtime_r(&secs, &tm);
-#endif
-  char buf[40];
-  std::strftime(buf, sizeof buf, "%Y-%m-%dT%H:%M:%S", &tm);
-  char out[64];
-  std::snprintf(out, sizeof out, "%s.%03dZ", buf, static_cast<int>(time_ms % 1000));
-  return out;
+  return QDateTime::fromMSecsSinceEpoch(time_ms, Qt::UTC).toString(Qt::ISODateWithMs).toStdString();
 }
 
 bool Recorder::open(const std::string& path) {

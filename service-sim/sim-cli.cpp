@@ -1,6 +1,7 @@
 #include "sim-cli.h"
 
 #include <QCoreApplication>
+#include <QStandardPaths>
 #include <QTimer>
 
 #include <algorithm>
@@ -89,7 +90,8 @@ std::string default_state_dir() {
   if (xdg != nullptr && *xdg != '\0') return std::string(xdg) + "/nimbra-service-sim";
   const char* home = std::getenv("HOME");
   if (home != nullptr && *home != '\0') return std::string(home) + "/.local/state/nimbra-service-sim";
-  return "nimbra-service-sim-state";
+  return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation).toStdString() +
+         "/nimbra-service-sim";
 }
 
 }  // namespace
