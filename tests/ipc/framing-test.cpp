@@ -48,7 +48,7 @@ class ScriptedSource : public WinIpc::framing::ChunkSource {
     Result r;
     if (steps_.empty()) {
       ADD_FAILURE() << "read past the end of the script";
-      r.status = Status::kOk;  // end of stream
+      r.error = 9999;  // ends the loop
       return r;
     }
     Step s = steps_.front();

@@ -42,7 +42,10 @@ LogCapture::~LogCapture() {
 }
 
 std::string LogCapture::text() const {
-  return nimbra_test::read_file(path_);
+  // The Windows log file starts with a byte order mark.
+  std::string t = nimbra_test::read_file(path_);
+  if (t.compare(0, 3, "\xEF\xBB\xBF") == 0) t.erase(0, 3);
+  return t;
 }
 
 int LogCapture::count(const std::string& needle) const {

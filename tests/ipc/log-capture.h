@@ -15,7 +15,7 @@ class LogCapture {
   LogCapture(const LogCapture&) = delete;
   LogCapture& operator=(const LogCapture&) = delete;
 
-  // Everything written so far.
+  // Everything written so far (without a byte order mark).
   std::string text() const;
   // Number of lines containing `needle`.
   int count(const std::string& needle) const;
