@@ -39,15 +39,17 @@ int elapsed_ms(Clock::time_point start) {
       std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start).count());
 }
 
-// Fills an abstract address; false when the name does not fit.
-bool make_address(const std::string& name, sockaddr_un& addr, socklen_t& length) {
+// Fills an abstract address; 0, or the errno value when the name is empty or
+// does not fit.
+int make_address(const std::string& name, sockaddr_un& addr, socklen_t& length) {
   const std::string native = native_name(name);
   std::memset(&addr, 0, sizeof addr);
   addr.sun_family = AF_UNIX;
-  if (native.empty() || native.size() > sizeof(addr.sun_path) - 1) return false;
+  if (native.empty()) return EINVAL;
+  if (native.size() > sizeof(addr.sun_path) - 1) return ENAMETOOLONG;
   std::memcpy(addr.sun_path + 1, native.data(), native.size());
   length = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1 + native.size());
-  return true;
+  return 0;
 }
 
 bool is_retry(int err) {
@@ -76,8 +78,8 @@ Result connect_client(const std::string& name, int wait_ms, Native& out) {
   close_handle(out);
   sockaddr_un addr;
   socklen_t length = 0;
-  if (!make_address(name, addr, length)) {
-    r.error = ENAMETOOLONG;
+  if (const int err = make_address(name, addr, length)) {
+    r.error = static_cast<unsigned>(err);
     return r;
   }
   // Without a budget left the attempt must not wait at all; otherwise the
@@ -126,8 +128,8 @@ CreateResult create_server(const std::string& name, ServerEnds& ends) {
   close_server(ends);
   sockaddr_un addr;
   socklen_t length = 0;
-  if (!make_address(name, addr, length)) {
-    r.error = ENAMETOOLONG;
+  if (const int err = make_address(name, addr, length)) {
+    r.error = static_cast<unsigned>(err);
     return r;
   }
   const int fd = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
