@@ -174,9 +174,6 @@ TEST(Stack, DeepRecursionIsCutAtOneHundredFrames) {
   deep(150, [&] { stack = rex::capture_stack(); });
   EXPECT_FALSE(stack.empty());
   EXPECT_LE(stack.size(), 100u);
-#ifndef _WIN32
-  EXPECT_EQ(100u, stack.size());
-#endif
   EXPECT_EQ(0, stack.back().rfind("0: ", 0));
   EXPECT_EQ(0, stack.front().rfind(std::to_string(stack.size() - 1) + ": ", 0));
 }
