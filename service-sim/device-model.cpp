@@ -30,12 +30,12 @@ constexpr int kTaskPartial = 1108;
 constexpr int kTaskStartByEvent = 1115;
 constexpr int kTaskSameBackupExists = 1137;
 constexpr int kSignedInEvent = 5001;
-constexpr int kCollectDeviceSpec = 7001;
+constexpr int kCollectDeviceInfo = 7001;
 constexpr int kSnapshotStart = 7002;
 constexpr int kSnapshotFinish = 7003;
 constexpr int kSnapshotError = 7004;
-constexpr int kUploadSpecStart = 7009;
-constexpr int kUploadSpecFinish = 7010;
+constexpr int kUploadDeviceInfoStart = 7009;
+constexpr int kUploadDeviceInfoFinish = 7010;
 constexpr int kUploadVolumeStart = 7012;
 constexpr int kUploadVolumeFinish = 7013;
 constexpr int kUploadVolumeError = 7014;
@@ -574,9 +574,9 @@ void DeviceModel::start_backup_locked(int trigger_type, const std::string& trigg
     ev.push_back({0, kTaskStartByEvent, body});
   }
   ev.push_back({0, kTaskStart, Json::Value(Json::objectValue)});
-  ev.push_back({0, kCollectDeviceSpec, Json::Value(Json::objectValue)});
-  ev.push_back({p * 25 / 100, kUploadSpecStart, Json::Value(Json::objectValue)});
-  ev.push_back({p * 45 / 100, kUploadSpecFinish, Json::Value(Json::objectValue)});
+  ev.push_back({0, kCollectDeviceInfo, Json::Value(Json::objectValue)});
+  ev.push_back({p * 25 / 100, kUploadDeviceInfoStart, Json::Value(Json::objectValue)});
+  ev.push_back({p * 45 / 100, kUploadDeviceInfoFinish, Json::Value(Json::objectValue)});
   ev.push_back({p / 2, kSnapshotsStartAll, Json::Value(Json::objectValue)});
   const std::size_t n = plan.volumes.size();
   for (std::size_t i = 0; i < n; ++i) {
