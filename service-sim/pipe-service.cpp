@@ -94,8 +94,14 @@ void PipeService::run() {
 std::string PipeService::answer_for(const std::string& request_text) {
   Json::Value request;
   std::string parse_error;
+  const bool is_json = jsonx::parse(request_text, request, &parse_error);
+  return answer_parsed(request_text, is_json, request, parse_error);
+}
+
+std::string PipeService::answer_parsed(const std::string& request_text, bool is_json,
+                                       const Json::Value& request, const std::string& parse_error) {
   Json::Value answer;
-  if (!jsonx::parse(request_text, request, &parse_error)) {
+  if (!is_json) {
     SIM_WARN("request is not JSON (%s): %.200s", parse_error.c_str(), request_text.c_str());
     answer["error"]["code"] = 4;
     answer["error"]["message"] = "the request is not JSON";
@@ -120,7 +126,8 @@ void PipeService::serve_client() {
   }
   const std::uint64_t n = ++received_;
   Json::Value parsed;
-  const bool is_json = jsonx::parse(text, parsed);
+  std::string parse_error;
+  const bool is_json = jsonx::parse(text, parsed, &parse_error);
   recorder_.record(system_clock_ms(), text, is_json ? &parsed : nullptr);
 
   if (f.drop_every > 0 && n % static_cast<std::uint64_t>(f.drop_every) == 0) {
@@ -132,7 +139,7 @@ void PipeService::serve_client() {
     SIM_INFO("fault: request %llu answered with garbage", static_cast<unsigned long long>(n));
     answer = "}{ this is not JSON \x01\x02 ]";
   } else {
-    answer = answer_for(text);
+    answer = answer_parsed(text, is_json, parsed, parse_error);
   }
   int delay = static_cast<int>(options_.answer_delay_ms);
   if (f.late_every > 0 && n % static_cast<std::uint64_t>(f.late_every) == 0) {

@@ -67,6 +67,8 @@ class PipeService {
   std::string answer_for(const std::string& request_text);
 
  private:
+  std::string answer_parsed(const std::string& request_text, bool is_json, const Json::Value& request,
+                            const std::string& parse_error);
   void run();
   void serve_client();
   bool wait_interruptibly(int ms);
