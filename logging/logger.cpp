@@ -24,7 +24,7 @@ struct SharedFile {
 };
 
 struct State {
-  bool enabled = false;
+  std::atomic<bool> enabled{false};  // read by log() before it takes the line mutex
   int output = 0;
   FILE* file = nullptr;
   std::wstring path;
