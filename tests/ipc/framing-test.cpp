@@ -194,15 +194,6 @@ TEST(ReadFramingCancel, FlagRaisedWhileWaitingStopsTheLoop) {
   EXPECT_EQ(source.waits, 1);
 }
 
-TEST(ReadFramingCancel, ClearFlagChangesNothing) {
-  std::atomic<bool> cancel{false};
-  ScriptedSource source({retry(), data("m" + kMarker)});
-  std::string out;
-  EXPECT_EQ(WinIpc::framing::read_message(source, out, &cancel), 0);
-  EXPECT_EQ(out, "m");
-  EXPECT_EQ(source.waits, 1);
-}
-
 // The reader as first written: search the whole text from its start after
 // every chunk. The linear reader must always agree with it.
 int reference_read(const std::vector<std::string>& chunks, std::string& out) {

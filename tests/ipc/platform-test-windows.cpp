@@ -23,10 +23,6 @@ bool under_wine() {
   return ntdll != nullptr && ::GetProcAddress(ntdll, "wine_get_version") != nullptr;
 }
 
-TEST(WindowsTransport, NameIsUsedAsGiven) {
-  EXPECT_EQ(WinIpc::platform_pipe_name(WinIpc::kServicePipe), WinIpc::kServicePipe);
-}
-
 TEST(WindowsTransport, PipeGrantsEveryoneReadAndWrite) {
   ipc_test::LogCapture log;
   const std::string name = ipc_test::unique_pipe("dacl");

@@ -322,10 +322,6 @@ TEST_F(Transport, AcceptWithoutBudgetReturnsAtOnce) {
   EXPECT_EQ(log_.text(), "");
 }
 
-TEST_F(Transport, DefaultAcceptBudgetIs3000) {
-  EXPECT_EQ(IpcServer().timeout_ms(), 3000);
-}
-
 TEST_F(Transport, CancelFlagSetBeforeReadLeavesTheMessageInThePipe) {
   IpcClient client;
   ASSERT_EQ(client.connect(name_, 3000), 0);
