@@ -209,11 +209,11 @@ double unframed_read_ms(const std::string& name) {
   const int listener = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
   if (::bind(listener, reinterpret_cast<const sockaddr*>(&addr), length) != 0 || ::listen(listener, 1) != 0)
     std::exit(2);
-  const std::string& text = big_text();
-  const std::size_t total = text.size() + kMarker.size();
+  const std::string framed = big_text() + kMarker;
+  const std::size_t total = framed.size();
   std::thread writer([&] {
     const int fd = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    if (::connect(fd, reinterpret_cast<const sockaddr*>(&addr), length) == 0) send_all(fd, text + kMarker);
+    if (::connect(fd, reinterpret_cast<const sockaddr*>(&addr), length) == 0) send_all(fd, framed);
     char c;
     (void)::recv(fd, &c, 1, 0);
     ::close(fd);
