@@ -1,6 +1,6 @@
 // The nimbra-service-sim executable: --help, send and notify against a real
-// agent-side pipe end, serve with a scenario, clean exit on SIGTERM, resume
-// after a restart, bad scenario files.
+// agent-side pipe end, failures and their exit codes, serve with a scenario,
+// clean exit on SIGINT/SIGTERM, resume after a restart.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <signal.h>
@@ -8,6 +8,7 @@
 #include <QProcess>
 #include <QTest>
 
+#include <memory>
 #include <mutex>
 #include <sstream>
 #include <thread>
@@ -17,6 +18,7 @@
 #include "support/temp-dir.h"
 #include "win-ipc.h"
 
+using simtest::num;
 using simtest::parse;
 
 namespace {
@@ -46,19 +48,18 @@ ProcessResult run(const QStringList& args) {
 // keeps what it received.
 class AgentEnd {
  public:
-  explicit AgentEnd(std::string reply) : reply_(std::move(reply)) {
+  explicit AgentEnd(std::string reply) {
     server_.set_timeout_ms(50);
     ok_ = server_.create(WinIpc::kAgentPipe) == 0;
-    thread_ = std::thread([this] {
+    thread_ = std::thread([this, reply] {
       while (!stop_) {
-        if (!server_.accept()) continue;
         std::string text;
-        if (server_.read(text, &stop_) == 0) {
+        if (server_.accept() && server_.read(text, &stop_) == 0) {
           {
             std::lock_guard<std::mutex> lock(mutex_);
             received_.push_back(text);
           }
-          server_.write(reply_);
+          server_.write(reply);
         }
         server_.disconnect();
       }
@@ -77,7 +78,6 @@ class AgentEnd {
 
  private:
   WinIpc::IpcServer server_;
-  std::string reply_;
   bool ok_ = false;
   std::atomic<bool> stop_{false};
   std::mutex mutex_;
@@ -87,9 +87,8 @@ class AgentEnd {
 
 class SimCliTest : public ::testing::Test {
  protected:
-  SimCliTest() : ns_("NIMBRA_PIPE_NAMESPACE", simtest::unique_namespace("cli").c_str()) {}
   nimbra_test::TempDir dir_;
-  nimbra_test::ScopedEnv ns_;
+  nimbra_test::ScopedEnv ns_{"NIMBRA_PIPE_NAMESPACE", simtest::unique_namespace("cli").c_str()};
 };
 
 TEST_F(SimCliTest, HelpExplainsEveryCommand) {
@@ -110,14 +109,15 @@ TEST_F(SimCliTest, SendDoesOneExchangeAndPrintsTheAnswer) {
       run({"send", "--pipe", "\\\\.\\pipe\\nimbrabackup-ui", QString::fromStdString(message)});
   EXPECT_EQ(r.code, 0) << r.err;
   EXPECT_EQ(r.out, "{\"success\":true}\n");
-  EXPECT_THAT(agent.received(), ::testing::ElementsAre(message));
-}
-
-TEST_F(SimCliTest, SendToAnAbsentPipeFailsWithTheReason) {
-  const ProcessResult r = run({"send", "--pipe", "service", "{\"action\":\"get_status\"}"});
-  EXPECT_EQ(r.code, 1);
-  EXPECT_THAT(r.err, ::testing::HasSubstr("cannot connect"));
-  EXPECT_TRUE(r.out.empty());
+  // "-" reads the message from standard input.
+  QProcess p;
+  p.start(sim_binary(), {"send", "--pipe", "agent", "-"});
+  ASSERT_TRUE(p.waitForStarted(5000));
+  p.write("{\"from\":\"stdin\"}");
+  p.closeWriteChannel();
+  ASSERT_TRUE(p.waitForFinished(10000));
+  EXPECT_EQ(p.exitCode(), 0);
+  EXPECT_THAT(agent.received(), ::testing::ElementsAre(message, "{\"from\":\"stdin\"}"));
 }
 
 TEST_F(SimCliTest, NotifyPushesOneNotificationRequest) {
@@ -132,56 +132,53 @@ TEST_F(SimCliTest, NotifyPushesOneNotificationRequest) {
   EXPECT_TRUE(jsonx::has(v, "site_path"));
   const Json::Value& list = jsonx::get_array(v, "notifications");
   ASSERT_EQ(list.size(), 1u);
-  EXPECT_EQ(jsonx::get_int64(list[0], "id"), 42);
-  EXPECT_EQ(jsonx::get_int32(list[0], "type"), 7);
-  EXPECT_EQ(jsonx::get_int32(jsonx::get_object(list[0], "data"), "status"), 4);
-  EXPECT_EQ(jsonx::get_int32(list[0], "action_type"), 1);
+  EXPECT_EQ(num(list[0], "id"), 42);
+  EXPECT_EQ(num(list[0], "type"), 7);
+  EXPECT_EQ(num(list[0], "data/status"), 4);
+  EXPECT_EQ(num(list[0], "action_type"), 1);
   EXPECT_FALSE(jsonx::get_bool(list[0], "noti_nimbrauser"));
 }
 
-TEST_F(SimCliTest, NotifyRefusedByTheAgentExitsThree) {
-  AgentEnd agent("{\"success\":false}");
-  ASSERT_TRUE(agent.ok());
-  EXPECT_EQ(run({"notify", "--type", "8", "--data", "{\"total_size\":1073741824}"}).code, 3);
-}
-
-struct Usage {
+struct Failure {
   const char* label;
   QStringList args;
-  const char* message;
+  int code;
+  const char* message;      // in standard error
+  const char* agent_reply;  // nullptr: no agent pipe
 };
 
-class SimUsageTest : public SimCliTest, public ::testing::WithParamInterface<Usage> {};
+class SimFailureTest : public SimCliTest, public ::testing::WithParamInterface<Failure> {};
 
-TEST_P(SimUsageTest, ExitsTwoWithAMessage) {
+TEST_P(SimFailureTest, ExitsNonZeroWithTheReason) {
+  std::unique_ptr<AgentEnd> agent;
+  if (GetParam().agent_reply != nullptr) agent = std::make_unique<AgentEnd>(GetParam().agent_reply);
   const ProcessResult r = run(GetParam().args);
-  EXPECT_EQ(r.code, 2);
+  EXPECT_EQ(r.code, GetParam().code);
   EXPECT_THAT(r.err, ::testing::HasSubstr(GetParam().message));
+  // Only an answer that came is printed.
+  EXPECT_EQ(r.out, GetParam().agent_reply != nullptr ? std::string(GetParam().agent_reply) + "\n" : "");
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Commands, SimUsageTest,
+    Commands, SimFailureTest,
     ::testing::Values(
-        Usage{"NotifyWithoutType", {"notify"}, "--type"},
-        Usage{"NotifyBadData", {"notify", "--type", "7", "--data", "{oops"}, "--data is not JSON"},
-        Usage{"SendWithoutPipe", {"send", "{}"}, "--pipe"},
-        Usage{"SendTwoMessages", {"send", "--pipe", "agent", "{}", "{}"}, "exactly one JSON"},
-        Usage{"UnknownCommand", {"explode"}, "unknown command"},
-        Usage{"UnknownOption", {"serve", "--colour", "red"}, "--colour"},
-        Usage{"BadPort", {"serve", "--port", "99999"}, "--port"}),
+        Failure{"NotifyWithoutType", {"notify"}, 2, "--type", nullptr},
+        Failure{
+            "NotifyBadData", {"notify", "--type", "7", "--data", "{oops"}, 2, "--data is not JSON", nullptr},
+        Failure{"SendWithoutPipe", {"send", "{}"}, 2, "--pipe", nullptr},
+        Failure{"SendTwoMessages", {"send", "--pipe", "agent", "{}", "{}"}, 2, "exactly one JSON", nullptr},
+        Failure{"UnknownCommand", {"explode"}, 2, "unknown command", nullptr},
+        Failure{"UnknownOption", {"serve", "--colour", "red"}, 2, "--colour", nullptr},
+        Failure{"BadPort", {"serve", "--port", "99999"}, 2, "--port", nullptr},
+        Failure{
+            "BadScenario", {"serve", "--scenario", "/nonexistent/x.json"}, 2, "/nonexistent/x.json", nullptr},
+        Failure{"SendToAbsentPipe", {"send", "--pipe", "service", "{}"}, 1, "cannot connect", nullptr},
+        Failure{"NotifyRefusedByAgent", {"notify", "--type", "8"}, 3, "", "{\"success\":false}"}),
     [](const auto& test_case) { return std::string(test_case.param.label); });
-
-TEST_F(SimCliTest, ServeRefusesABadScenarioNamingTheMember) {
-  nimbra_test::write_file(dir_.file("bad.json"), "{\"backup\":{\"outcome\":\"exploded\"}}");
-  const ProcessResult r = run({"serve", "--scenario", QString::fromStdString(dir_.file("bad.json")),
-                               "--state", QString::fromStdString(dir_.file("state"))});
-  EXPECT_EQ(r.code, 2);
-  EXPECT_THAT(r.err, ::testing::HasSubstr("backup.outcome"));
-}
 
 class Served {
  public:
-  Served(const QStringList& args) {
+  explicit Served(const QStringList& args) {
     process_.start(sim_binary(), QStringList{"serve"} + args);
     ok_ = process_.waitForStarted(5000) &&
           QTest::qWaitFor(
@@ -195,8 +192,8 @@ class Served {
     }
   }
   bool ok() const { return ok_; }
-  // SIGTERM, then the exit code (-1 when it did not end cleanly in time).
-  int terminate(int signo = SIGTERM) {
+  // Sends `signo`, then the exit code (-1 when it did not end cleanly in time).
+  int terminate(int signo) {
     ::kill(static_cast<pid_t>(process_.processId()), signo);
     if (!process_.waitForFinished(5000) || process_.exitStatus() != QProcess::NormalExit) return -1;
     return process_.exitCode();
@@ -206,6 +203,18 @@ class Served {
   QProcess process_;
   bool ok_ = false;
 };
+
+Json::Value get_status() {
+  const sim::Exchange ex = sim::exchange(WinIpc::kServicePipe, "{\"action\":\"get_status\",\"log_id\":0}");
+  EXPECT_TRUE(ex.ok) << ex.error;
+  return parse(ex.answer);
+}
+
+std::uint64_t last_log_id(const Json::Value& status) {
+  const Json::Value& logs = jsonx::get_array(simtest::at(status, "content"), "logs");
+  EXPECT_FALSE(logs.empty());
+  return logs.empty() ? 0 : jsonx::get_uint64(logs[logs.size() - 1], "id");
+}
 
 TEST_F(SimCliTest, ServeRunsTheScenarioPushesNotificationsAndResumesAfterRestart) {
   AgentEnd agent("{\"success\":true}");
@@ -229,19 +238,16 @@ TEST_F(SimCliTest, ServeRunsTheScenarioPushesNotificationsAndResumesAfterRestart
     // The backup ends within a second: type 7, and 80% -> 90% crosses 85%: type 8.
     ASSERT_TRUE(QTest::qWaitFor([&] { return agent.received().size() >= 2; }, 10000));
     const auto got = agent.received();
-    EXPECT_EQ(jsonx::get_int32(jsonx::get_array(parse(got[0]), "notifications")[0], "type"), 7);
-    EXPECT_EQ(jsonx::get_int32(jsonx::get_array(parse(got[1]), "notifications")[0], "type"), 8);
+    EXPECT_EQ(num(jsonx::get_array(parse(got[0]), "notifications")[0], "type"), 7);
+    EXPECT_EQ(num(jsonx::get_array(parse(got[1]), "notifications")[0], "type"), 8);
     ASSERT_TRUE(QTest::qWaitFor(
         [&] { return nimbra_test::read_file(dir_.file("ws") + "/service-status") == "update_error\n"; },
         10000));
-    const sim::Exchange ex = sim::exchange(WinIpc::kServicePipe, "{\"action\":\"get_status\",\"log_id\":0}");
-    ASSERT_TRUE(ex.ok) << ex.error;
-    const Json::Value status = parse(ex.answer);
-    EXPECT_EQ(jsonx::get_int32(status, "status"), 0x2001);
-    const Json::Value& logs = jsonx::get_array(jsonx::get_object(status, "content"), "logs");
-    ASSERT_FALSE(logs.empty());
-    log_id = jsonx::get_uint64(logs[logs.size() - 1], "id");
-    EXPECT_EQ(serve.terminate(), 0);
+    const Json::Value status = get_status();
+    EXPECT_EQ(num(status, "status"), 0x2001);
+    log_id = last_log_id(status);
+    // SIGINT ends serving cleanly and frees the pipe for the next run.
+    EXPECT_EQ(serve.terminate(SIGINT), 0);
   }
   // The record file holds the request with its time.
   EXPECT_THAT(nimbra_test::read_file(dir_.file("rec.jsonl")),
@@ -249,46 +255,12 @@ TEST_F(SimCliTest, ServeRunsTheScenarioPushesNotificationsAndResumesAfterRestart
   // The second run plays a scenario without the automatic backup, so the
   // figures it reports are those kept from the first run.
   nimbra_test::write_file(dir_.file("quick.json"), R"({"device": {"linked": false, "quota": 10000}})");
-  {
-    Served again(args);
-    ASSERT_TRUE(again.ok());
-    const sim::Exchange ex = sim::exchange(WinIpc::kServicePipe, "{\"action\":\"get_status\",\"log_id\":0}");
-    ASSERT_TRUE(ex.ok) << ex.error;
-    const Json::Value answer = parse(ex.answer);
-    const Json::Value& content = jsonx::get_object(answer, "content");
-    const Json::Value& logs = jsonx::get_array(content, "logs");
-    ASSERT_FALSE(logs.empty());
-    EXPECT_GE(jsonx::get_uint64(logs[logs.size() - 1], "id"), log_id);
-    EXPECT_EQ(jsonx::get_uint64(jsonx::get_object(content, "billing"), "used_bytes"), 9000u);
-    EXPECT_EQ(again.terminate(), 0);
-  }
-}
-
-TEST_F(SimCliTest, InterruptEndsServingCleanlyAndFreesThePipe) {
-  const QStringList args{"--state", QString::fromStdString(dir_.file("state"))};
-  {
-    Served serve(args);
-    ASSERT_TRUE(serve.ok());
-    EXPECT_EQ(serve.terminate(SIGINT), 0);
-  }
-  // The name is free again: a second service can serve it at once.
   Served again(args);
   ASSERT_TRUE(again.ok());
-  EXPECT_TRUE(sim::exchange(WinIpc::kServicePipe, "{\"action\":\"get_connection_info\"}").ok);
-  EXPECT_EQ(again.terminate(), 0);
-}
-
-TEST_F(SimCliTest, SendReadsTheMessageFromStandardInput) {
-  AgentEnd agent("{\"success\":true}");
-  ASSERT_TRUE(agent.ok());
-  QProcess p;
-  p.start(sim_binary(), {"send", "--pipe", "agent", "-"});
-  ASSERT_TRUE(p.waitForStarted(5000));
-  p.write("{\"action\":\"notifications\",\"from\":\"stdin\"}");
-  p.closeWriteChannel();
-  ASSERT_TRUE(p.waitForFinished(10000));
-  EXPECT_EQ(p.exitCode(), 0);
-  EXPECT_THAT(agent.received(), ::testing::ElementsAre("{\"action\":\"notifications\",\"from\":\"stdin\"}"));
+  const Json::Value status = get_status();
+  EXPECT_GE(last_log_id(status), log_id);
+  EXPECT_EQ(num(status, "content/billing/used_bytes"), 9000);
+  EXPECT_EQ(again.terminate(SIGTERM), 0);
 }
 
 }  // namespace

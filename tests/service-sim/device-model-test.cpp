@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <memory>
 #include <set>
@@ -12,18 +13,19 @@
 #include "support/temp-dir.h"
 
 using sim::DeviceModel;
+using simtest::at;
+using simtest::num;
 using simtest::request;
+using simtest::str;
+using ::testing::ElementsAre;
 namespace st = sim::status;
 
 namespace {
 
 class SimModelTest : public ::testing::Test {
  protected:
-  sim::Clock clock() {
-    return [this] { return clock_.now.load(); };
-  }
   std::unique_ptr<DeviceModel> make(const sim::Scenario& s, const std::string& state = std::string()) {
-    auto m = std::make_unique<DeviceModel>(s, state, dir_.file("ws"), clock());
+    auto m = std::make_unique<DeviceModel>(s, state, dir_.file("ws"), [this] { return clock_.now.load(); });
     m->load_state();
     return m;
   }
@@ -34,27 +36,39 @@ class SimModelTest : public ::testing::Test {
       m.advance();
     }
   }
+  static Json::Value create(const char* zid, const char* subscription) {
+    return request("create_device",
+                   {{"zid", zid}, {"subscription_id", subscription}, {"account_type", "vell"}});
+  }
   void link(DeviceModel& m) {
-    const std::string token = m.issue_token();
-    Json::Value r = request("get_token");
-    r["token"] = token;
-    ASSERT_TRUE(jsonx::get_bool(m.handle(r), "success"));
-    Json::Value c = request("create_device");
-    c["zid"] = "EU";
-    c["subscription_id"] = "sub-eu-0001";
-    c["account_type"] = "vell";
-    ASSERT_TRUE(jsonx::get_bool(m.handle(c), "success")) << jsonx::compact(m.handle(c));
+    ASSERT_TRUE(ok(m.handle(request("get_token", {{"token", m.issue_token()}}))));
+    ASSERT_TRUE(ok(m.handle(create("EU", "sub-eu-0001"))));
+  }
+  static bool ok(const Json::Value& answer) { return jsonx::get_bool(answer, "success"); }
+  static Json::Value get_status(DeviceModel& m, Json::Value log_id = 0) {
+    return m.handle(request("get_status", {{"log_id", log_id}}));
+  }
+  static const Json::Value& logs(const Json::Value& status) {
+    return jsonx::get_array(at(status, "content"), "logs");
   }
   static std::vector<int> log_types(const Json::Value& status) {
     std::vector<int> types;
-    for (const auto& e : jsonx::get_array(jsonx::get_object(status, "content"), "logs"))
-      types.push_back(jsonx::get_int32(e, "type"));
+    for (const auto& e : logs(status)) types.push_back(jsonx::get_int32(e, "type"));
     return types;
   }
-  static Json::Value get_status(DeviceModel& m, std::uint64_t log_id = 0) {
-    Json::Value r = request("get_status");
-    r["log_id"] = static_cast<Json::UInt64>(log_id);
-    return m.handle(r);
+  static std::int64_t last_result(const Json::Value& status) {
+    return num(status, "content/last_backup_result/last_backup_status");
+  }
+  // The type of each pushed notification request, and its data.
+  static std::vector<int> pushed_types(DeviceModel& m, std::vector<Json::Value>& data) {
+    std::vector<int> types;
+    for (const auto& pushed : m.take_notifications()) {
+      EXPECT_EQ(jsonx::get_string(pushed, "action"), "notifications");
+      const Json::Value& n = jsonx::get_array(pushed, "notifications")[0];
+      types.push_back(jsonx::get_int32(n, "type"));
+      data.push_back(at(n, "data"));
+    }
+    return types;
   }
 
   simtest::ManualClock clock_;
@@ -63,103 +77,82 @@ class SimModelTest : public ::testing::Test {
 
 TEST_F(SimModelTest, WholeStoryFromSignInToLogout) {
   auto m = make(simtest::quick_scenario(false));
-  EXPECT_EQ(jsonx::get_int32(get_status(*m), "status"), st::kNotLinked);
+  EXPECT_EQ(num(get_status(*m), "status"), st::kNotLinked);
   EXPECT_FALSE(jsonx::has(m->handle(request("get_connection_info")), "connection"));
   // No site list and no device before a token was accepted.
-  EXPECT_EQ(jsonx::get_int64(jsonx::get_object(m->handle(request("get_site_info")), "error"), "code"), 15);
+  EXPECT_EQ(num(m->handle(request("get_site_info")), "error/code"), 15);
   m->set_signin_url("http://127.0.0.1:1/signin");
-  EXPECT_EQ(jsonx::get_string(m->handle(request("get_auth")), "redirect_to"), "http://127.0.0.1:1/signin");
+  EXPECT_EQ(str(m->handle(request("get_auth")), "redirect_to"), "http://127.0.0.1:1/signin");
 
   link(*m);
   EXPECT_TRUE(m->linked());
   const Json::Value info = m->handle(request("get_connection_info"));
-  const Json::Value& conn = jsonx::get_object(info, "connection");
-  EXPECT_EQ(jsonx::get_string(conn, "email"), "alex@example.com");
-  EXPECT_EQ(jsonx::get_string(conn, "account_type"), "vell");
-  EXPECT_EQ(jsonx::get_int64(conn, "port"), 443);
-  EXPECT_TRUE(jsonx::is_object(jsonx::member(info, "proxy")));
+  EXPECT_EQ(str(info, "connection/account_type"), "vell");
+  EXPECT_TRUE(jsonx::is_object(at(info, "proxy")));
+  const Json::Value idle = get_status(*m);
+  EXPECT_EQ(num(idle, "status"), st::kIdle);
+  EXPECT_THAT(log_types(idle), ElementsAre(5001));
+  EXPECT_TRUE(jsonx::get_bool(at(idle, "content"), "connected"));
+  EXPECT_EQ(num(idle, "content/billing/quota"), 100000);
+  EXPECT_FALSE(jsonx::has(at(idle, "content"), "transfer"));
+  EXPECT_EQ(num(m->handle(request("update_tray_menu")), "billing/quota"), 100000);
+  for (const char* sub : {"help", "restore_portal", "web_console"})
+    EXPECT_EQ(str(m->handle(request("get_portal_link", {{"subaction", sub}})), "url").rfind("https://", 0),
+              0u);
 
-  Json::Value idle = get_status(*m);
-  EXPECT_EQ(jsonx::get_int32(idle, "status"), st::kIdle);
-  EXPECT_THAT(log_types(idle), ::testing::ElementsAre(5001));
-  const Json::Value& content = jsonx::get_object(idle, "content");
-  EXPECT_TRUE(jsonx::get_bool(content, "connected"));
-  EXPECT_EQ(jsonx::get_uint64(jsonx::get_object(content, "billing"), "quota"), 100000u);
-  EXPECT_FALSE(jsonx::has(content, "transfer"));
-
-  EXPECT_TRUE(jsonx::get_bool(m->handle(request("backup_now")), "success"));
-  EXPECT_EQ(jsonx::get_int32(get_status(*m), "status"), st::kPreparingDevice);
+  EXPECT_TRUE(ok(m->handle(request("backup_now"))));
+  EXPECT_EQ(num(get_status(*m), "status"), st::kPreparingDevice);
   run_for(*m, 600);
-  EXPECT_EQ(jsonx::get_int32(get_status(*m), "status"), st::kPreparingSnapshot);
+  EXPECT_EQ(num(get_status(*m), "status"), st::kPreparingSnapshot);
   run_for(*m, 1400);  // 1 s into the transfer: 250 of 1000 bytes
-  Json::Value running = get_status(*m);
-  EXPECT_EQ(jsonx::get_int32(running, "status"), st::kBackingUp);
-  const Json::Value& t = jsonx::get_object(jsonx::get_object(running, "content"), "transfer");
-  EXPECT_EQ(jsonx::get_uint64(t, "total"), 1000u);
-  EXPECT_EQ(jsonx::get_uint64(t, "transfer"), 250u);
-  EXPECT_EQ(jsonx::get_uint64(t, "delta_upload"), 125u);
-  EXPECT_EQ(jsonx::get_int64(t, "speed"), 250);
-
+  const Json::Value running = get_status(*m);
+  EXPECT_EQ(num(running, "status"), st::kBackingUp);
+  EXPECT_EQ(jsonx::compact(at(running, "content/transfer")),
+            R"({"delta_upload":125,"speed":250,"total":1000,"transfer":250})");
   // A second backup_now while one runs is refused with event 1137.
-  const std::uint64_t seen = m->last_log_id();
+  const Json::UInt64 seen = m->last_log_id();
   m->handle(request("backup_now"));
-  EXPECT_THAT(log_types(get_status(*m, seen)), ::testing::ElementsAre(1137));
+  EXPECT_THAT(log_types(get_status(*m, seen)), ElementsAre(1137));
 
   run_for(*m, 3500);
-  Json::Value done = get_status(*m);
-  EXPECT_EQ(jsonx::get_int32(done, "status"), st::kIdle);
-  const Json::Value& last = jsonx::get_object(jsonx::get_object(done, "content"), "last_backup_result");
-  EXPECT_EQ(jsonx::get_int32(last, "last_backup_status"), 2);
-  EXPECT_TRUE(jsonx::get_bool(last, "backed_up"));
-  EXPECT_GT(jsonx::get_int64(last, "last_backup_time"), 0);
+  const Json::Value done = get_status(*m);
+  EXPECT_EQ(num(done, "status"), st::kIdle);
+  EXPECT_EQ(last_result(done), 2);
+  EXPECT_TRUE(jsonx::get_bool(at(done, "content/last_backup_result"), "backed_up"));
+  EXPECT_GT(num(done, "content/last_backup_result/last_backup_time"), 0);
   EXPECT_EQ(m->used_bytes(), 500u);
-
   const auto pushed = m->take_notifications();
   ASSERT_EQ(pushed.size(), 1u);
-  EXPECT_EQ(jsonx::get_string(pushed[0], "action"), "notifications");
+  EXPECT_EQ(str(pushed[0], "site_path"), "https://eu.console.nimbrabackup.example");
   const Json::Value& n = jsonx::get_array(pushed[0], "notifications")[0];
-  EXPECT_EQ(jsonx::get_int32(n, "type"), 7);
-  EXPECT_EQ(jsonx::get_int32(jsonx::get_object(n, "data"), "status"), 2);
-  EXPECT_EQ(jsonx::get_string(pushed[0], "site_path"), "https://eu.console.nimbrabackup.example");
+  EXPECT_EQ(num(n, "type"), 7);
+  EXPECT_EQ(num(n, "data/status"), 2);
 
-  EXPECT_TRUE(jsonx::get_bool(m->handle(request("logout")), "success"));
-  EXPECT_EQ(jsonx::get_int32(get_status(*m), "status"), st::kNotLinked);
+  EXPECT_TRUE(ok(m->handle(request("logout"))));
+  EXPECT_EQ(num(get_status(*m), "status"), st::kNotLinked);
   EXPECT_FALSE(jsonx::has(m->handle(request("get_connection_info")), "connection"));
 }
 
 TEST_F(SimModelTest, TokensAreAcceptedOnlyWhenIssuedAndOnlyOnce) {
   auto m = make(simtest::quick_scenario(false));
-  Json::Value r = request("get_token");
-  r["token"] = "made-up";
-  EXPECT_EQ(jsonx::get_int64(jsonx::get_object(m->handle(r), "error"), "code"), 15);
-  r["token"] = 12345;  // wrong type
-  EXPECT_EQ(jsonx::get_int64(jsonx::get_object(m->handle(r), "error"), "code"), 15);
+  EXPECT_EQ(num(m->handle(request("get_token", {{"token", "made-up"}})), "error/code"), 15);
+  EXPECT_EQ(num(m->handle(request("get_token", {{"token", 12345}})), "error/code"), 15);
   const std::string a = m->issue_token();
-  const std::string b = m->issue_token();
-  EXPECT_NE(a, b);
-  r["token"] = b;
-  EXPECT_TRUE(jsonx::get_bool(m->handle(r), "success"));
-  EXPECT_EQ(jsonx::get_int64(jsonx::get_object(m->handle(r), "error"), "code"), 15);
+  const Json::Value b = request("get_token", {{"token", m->issue_token()}});
+  EXPECT_NE(a, str(b, "token"));
+  EXPECT_TRUE(ok(m->handle(b)));
+  EXPECT_EQ(num(m->handle(b), "error/code"), 15);
   EXPECT_TRUE(m->token_pending(a));
-  EXPECT_FALSE(m->token_pending(b));
-  EXPECT_EQ(jsonx::get_int32(get_status(*m), "status"), st::kSignedIn);
-}
+  EXPECT_FALSE(m->token_pending(str(b, "token")));
+  EXPECT_EQ(num(get_status(*m), "status"), st::kSignedIn);
 
-TEST_F(SimModelTest, CreateDeviceNeedsASiteOfTheAccount) {
-  auto m = make(simtest::quick_scenario(false));
-  Json::Value t = request("get_token");
-  t["token"] = m->issue_token();
-  m->handle(t);
-  Json::Value c = request("create_device");
-  c["zid"] = "EU";
-  c["subscription_id"] = "sub-us-0001";  // another site's subscription
-  EXPECT_EQ(jsonx::get_int64(jsonx::get_object(m->handle(c), "error"), "code"), 4);
-  c["zid"] = Json::Value(Json::arrayValue);  // hostile type
-  EXPECT_TRUE(jsonx::has(m->handle(c), "error"));
+  // create_device needs a site of the account, named with the right types.
+  EXPECT_EQ(num(m->handle(create("EU", "sub-us-0001")), "error/code"), 4);
+  Json::Value hostile = create("US", "sub-us-0001");
+  hostile["zid"] = Json::Value(Json::arrayValue);
+  EXPECT_TRUE(jsonx::has(m->handle(hostile), "error"));
   EXPECT_FALSE(m->linked());
-  c["zid"] = "US";
-  c["subscription_id"] = "sub-us-0001";
-  EXPECT_TRUE(jsonx::get_bool(m->handle(c), "success"));
+  EXPECT_TRUE(ok(m->handle(create("US", "sub-us-0001"))));
   EXPECT_TRUE(m->linked());
 }
 
@@ -180,8 +173,7 @@ TEST_P(SimOutcomeTest, ResultCodeEventsAndProgress) {
   m->handle(request("backup_now"));
   run_for(*m, 10000);
   const Json::Value status = get_status(*m);
-  const Json::Value& last = jsonx::get_object(jsonx::get_object(status, "content"), "last_backup_result");
-  EXPECT_EQ(jsonx::get_int32(last, "last_backup_status"), GetParam().status_code);
+  EXPECT_EQ(last_result(status), GetParam().status_code);
   const std::vector<int> types = log_types(status);
   ASSERT_FALSE(types.empty());
   EXPECT_EQ(types.front(), 1101);
@@ -191,11 +183,9 @@ TEST_P(SimOutcomeTest, ResultCodeEventsAndProgress) {
                             7009, 7010, 7012, 7013, 7014, 7096, 7097, 8014};
   for (int type : types) EXPECT_TRUE(known.count(type)) << type;
   EXPECT_EQ(m->used_bytes(), GetParam().bytes_read / 2);
-  const auto pushed = m->take_notifications();
-  ASSERT_EQ(pushed.size(), 1u);
-  EXPECT_EQ(
-      jsonx::get_int32(jsonx::get_object(jsonx::get_array(pushed[0], "notifications")[0], "data"), "status"),
-      GetParam().status_code);
+  std::vector<Json::Value> data;
+  EXPECT_THAT(pushed_types(*m, data), ElementsAre(7));
+  EXPECT_EQ(num(data[0], "status"), GetParam().status_code);
 }
 
 INSTANTIATE_TEST_SUITE_P(Outcomes, SimOutcomeTest,
@@ -207,131 +197,92 @@ INSTANTIATE_TEST_SUITE_P(Outcomes, SimOutcomeTest,
 struct QuotaCase {
   std::uint64_t used_before;  // of a 10,000-byte quota; the backup uploads 500
   std::vector<int> pushed_types;
+  int result;
+  std::uint64_t used_after;
 };
 
 class SimQuotaTest : public SimModelTest, public ::testing::WithParamInterface<QuotaCase> {};
 
-TEST_P(SimQuotaTest, CrossingEightyFiveAndNinetyFivePercentIsPushed) {
+TEST_P(SimQuotaTest, CrossingEightyFiveAndNinetyFivePercentIsPushedAFullQuotaStops) {
   sim::Scenario s = simtest::quick_scenario(true);
   s.quota = 10000;
   s.used_bytes = GetParam().used_before;
   auto m = make(s);
   m->handle(request("backup_now"));
   run_for(*m, 6000);
-  std::vector<int> types;
-  for (const auto& request_ : m->take_notifications()) {
-    const Json::Value& n = jsonx::get_array(request_, "notifications")[0];
-    types.push_back(jsonx::get_int32(n, "type"));
-    if (types.back() != 7) {
-      EXPECT_EQ(jsonx::get_uint64(jsonx::get_object(n, "data"), "total_size"), 10000u);
-    }
-  }
-  EXPECT_EQ(types, GetParam().pushed_types);
+  std::vector<Json::Value> data;
+  EXPECT_EQ(pushed_types(*m, data), GetParam().pushed_types);
+  for (std::size_t i = 1; i < data.size(); ++i) EXPECT_EQ(num(data[i], "total_size"), 10000);
+  const Json::Value status = get_status(*m);
+  EXPECT_EQ(last_result(status), GetParam().result);
+  EXPECT_EQ(m->used_bytes(), GetParam().used_after);
+  const std::vector<int> types = log_types(status);
+  EXPECT_EQ(std::count(types.begin(), types.end(), 8014) > 0, GetParam().result == 4);  // quota full
 }
 
 INSTANTIATE_TEST_SUITE_P(Thresholds, SimQuotaTest,
-                         ::testing::Values(QuotaCase{7000, {7}},     // 70% -> 75%
-                                           QuotaCase{8000, {7, 8}},  // 80% -> 85% exactly
-                                           QuotaCase{8500, {7}},     // already past 85%
-                                           QuotaCase{9100, {7, 9}},  // 91% -> 96%
-                                           QuotaCase{8499, {7, 8}},  // 84.99% -> 89.99%
-                                           QuotaCase{9500, {7}}));   // already full
-
-TEST_F(SimModelTest, BackupStopsWhenTheQuotaIsFull) {
-  sim::Scenario s = simtest::quick_scenario(true);
-  s.quota = 10000;
-  s.used_bytes = 9900;  // room for 100 uploaded bytes = 200 read
-  auto m = make(s);
-  m->handle(request("backup_now"));
-  run_for(*m, 6000);
-  const Json::Value status = get_status(*m);
-  EXPECT_EQ(jsonx::get_int32(jsonx::get_object(jsonx::get_object(status, "content"), "last_backup_result"),
-                             "last_backup_status"),
-            4);
-  EXPECT_THAT(log_types(status), ::testing::Contains(8014));
-  EXPECT_EQ(m->used_bytes(), 10000u);
-}
+                         ::testing::Values(QuotaCase{7000, {7}, 2, 7500},     // 70% -> 75%
+                                           QuotaCase{8000, {7, 8}, 2, 8500},  // 80% -> 85% exactly
+                                           QuotaCase{8500, {7}, 2, 9000},     // already past 85%
+                                           QuotaCase{9100, {7, 9}, 2, 9600},  // 91% -> 96%
+                                           QuotaCase{8499, {7, 8}, 2, 8999},  // 84.99% -> 89.99%
+                                           QuotaCase{9500, {7}, 2, 10000},    // already past 95%
+                                           QuotaCase{9900, {7}, 4, 10000}));  // room for 100 of 500
 
 TEST_F(SimModelTest, LogsAreOnlyThoseAboveLogIdAndAtMostHundred) {
   sim::Scenario s = simtest::quick_scenario(true);
   s.initial_logs = Json::Value(Json::arrayValue);
-  for (int i = 0; i < 150; ++i) {
-    Json::Value e(Json::objectValue);
-    e["type"] = 7002;
-    e["body"]["volume_name"] = "C:";
-    e["age_seconds"] = 1000 - i;
-    s.initial_logs.append(e);
-  }
+  for (int i = 0; i < 150; ++i)
+    s.initial_logs.append(simtest::parse(R"({"type":7002,"body":{"volume_name":"C:"},"age_seconds":)" +
+                                         std::to_string(1000 - i) + "}"));
   auto m = make(s);
-  const Json::Value first = get_status(*m, 0);
-  const Json::Value& all = jsonx::get_array(jsonx::get_object(first, "content"), "logs");
+  const Json::Value all = logs(get_status(*m, 0));
   ASSERT_EQ(all.size(), 100u);
-  EXPECT_EQ(jsonx::get_uint64(all[0], "id"), 51u);
-  EXPECT_EQ(jsonx::get_uint64(all[99], "id"), 150u);
-  const Json::Value later = get_status(*m, 147);
-  const Json::Value& tail = jsonx::get_array(jsonx::get_object(later, "content"), "logs");
+  EXPECT_EQ(num(all[0], "id"), 51);
+  EXPECT_EQ(num(all[99], "id"), 150);
+  const Json::Value tail = logs(get_status(*m, 147));
   ASSERT_EQ(tail.size(), 3u);
-  EXPECT_EQ(jsonx::get_uint64(tail[0], "id"), 148u);
-  EXPECT_TRUE(jsonx::get_array(jsonx::get_object(get_status(*m, 150), "content"), "logs").empty());
-  // A log_id of the wrong type reads as 0.
-  Json::Value r = request("get_status");
-  r["log_id"] = "147";
-  EXPECT_EQ(jsonx::get_array(jsonx::get_object(m->handle(r), "content"), "logs").size(), 100u);
+  EXPECT_EQ(num(tail[0], "id"), 148);
+  EXPECT_TRUE(logs(get_status(*m, 150)).empty());
+  EXPECT_EQ(logs(get_status(*m, "147")).size(), 100u);  // a log_id of the wrong type reads as 0
 }
 
-TEST_F(SimModelTest, StateSurvivesARestart) {
+TEST_F(SimModelTest, StateSurvivesARestartAndARestartCancelsARunningBackup) {
   const std::string state = dir_.file("state");
   std::uint64_t log_id = 0;
   {
     auto m = make(simtest::quick_scenario(false), state);
     link(*m);
-    Json::Value bw = request("set_bandwidth_control");
-    bw["bandwidth"]["bandwidth_type"] = 1;
-    bw["bandwidth"]["bandwidth_rate"] = 40;
-    bw["bandwidth"]["bandwidth_limit_range"] = true;
-    bw["bandwidth"]["bandwidth_start_time"] = "22:00";
-    bw["bandwidth"]["bandwidth_end_time"] = "05:00";
-    EXPECT_TRUE(jsonx::get_bool(m->handle(bw), "success"));
+    EXPECT_TRUE(ok(m->handle(request(
+        "set_bandwidth_control",
+        {{"bandwidth", simtest::parse(R"({"bandwidth_type":1,"bandwidth_rate":40,"bandwidth_limit_range":true,
+                                          "bandwidth_start_time":"22:00","bandwidth_end_time":"05:00"})")}}))));
     m->handle(request("backup_now"));
     run_for(*m, 6000);
     log_id = m->last_log_id();
   }
-  auto m = make(simtest::quick_scenario(false), state);
-  EXPECT_TRUE(m->linked());
-  EXPECT_EQ(m->last_log_id(), log_id);
-  EXPECT_EQ(m->used_bytes(), 500u);
-  const Json::Value bw = m->handle(request("get_bandwidth_control"));
-  const Json::Value& client = jsonx::get_object(bw, "client_config");
-  EXPECT_EQ(jsonx::get_int32(client, "bandwidth_rate"), 40);
-  EXPECT_EQ(jsonx::get_string(client, "bandwidth_end_time"), "05:00");
-  EXPECT_TRUE(jsonx::has(bw, "server_config"));
-  const Json::Value resumed = get_status(*m);
-  const Json::Value& content = jsonx::get_object(resumed, "content");
-  EXPECT_EQ(jsonx::get_int32(jsonx::get_object(content, "last_backup_result"), "last_backup_status"), 2);
-  // The log id counter goes on from where it was.
-  m->handle(request("backup_now"));
-  run_for(*m, 100);
-  EXPECT_GT(m->last_log_id(), log_id);
-  EXPECT_EQ(jsonx::get_uint64(
-                jsonx::get_array(jsonx::get_object(get_status(*m, log_id), "content"), "logs")[0], "id"),
-            log_id + 1);
-}
-
-TEST_F(SimModelTest, RestartDuringABackupRecordsItAsCancelled) {
-  const std::string state = dir_.file("state");
   {
-    auto m = make(simtest::quick_scenario(true), state);
+    auto m = make(simtest::quick_scenario(false), state);
+    EXPECT_TRUE(m->linked());
+    EXPECT_EQ(m->last_log_id(), log_id);
+    EXPECT_EQ(m->used_bytes(), 500u);
+    const Json::Value bw = m->handle(request("get_bandwidth_control"));
+    EXPECT_EQ(num(bw, "client_config/bandwidth_rate"), 40);
+    EXPECT_EQ(str(bw, "client_config/bandwidth_end_time"), "05:00");
+    EXPECT_TRUE(jsonx::has(bw, "server_config"));
+    EXPECT_EQ(last_result(get_status(*m)), 2);
+    // The log id counter goes on from where it was.
     m->handle(request("backup_now"));
     run_for(*m, 1500);
     ASSERT_TRUE(m->backup_running());
+    EXPECT_EQ(num(logs(get_status(*m, static_cast<Json::UInt64>(log_id)))[0], "id"),
+              static_cast<std::int64_t>(log_id + 1));
   }
-  auto m = make(simtest::quick_scenario(true), state);
+  auto m = make(simtest::quick_scenario(false), state);
   EXPECT_FALSE(m->backup_running());
   const Json::Value status = get_status(*m);
   EXPECT_EQ(log_types(status).back(), 7086);
-  EXPECT_EQ(jsonx::get_int32(jsonx::get_object(jsonx::get_object(status, "content"), "last_backup_result"),
-                             "last_backup_status"),
-            5);
+  EXPECT_EQ(last_result(status), 5);
 }
 
 TEST_F(SimModelTest, UnreadableStateFileIsSetAsideNotLost) {
@@ -355,7 +306,7 @@ TEST_P(SimHostileRequestTest, AnsweredWithAnErrorAndTheModelGoesOn) {
   auto m = make(simtest::quick_scenario(true));
   const Json::Value answer = m->handle(simtest::parse(GetParam().json));
   EXPECT_TRUE(jsonx::has(answer, "error")) << jsonx::compact(answer);
-  EXPECT_EQ(jsonx::get_int32(get_status(*m), "status"), st::kIdle);
+  EXPECT_EQ(num(get_status(*m), "status"), st::kIdle);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -379,9 +330,9 @@ TEST_F(SimModelTest, ScenarioErrorsApplyTheGivenNumberOfTimes) {
   auto m = make(s);
   m->set_signin_url("http://127.0.0.1:9/signin");
   const Json::Value first = m->handle(request("get_auth"));
-  EXPECT_EQ(jsonx::get_int64(jsonx::get_object(first, "error"), "code"), 17);
-  EXPECT_EQ(jsonx::get_string(jsonx::get_object(first, "error"), "base_url"), "https://console.example/key");
-  EXPECT_EQ(jsonx::get_string(m->handle(request("get_auth")), "redirect_to"), "http://127.0.0.1:9/signin");
+  EXPECT_EQ(num(first, "error/code"), 17);
+  EXPECT_EQ(str(first, "error/base_url"), "https://console.example/key");
+  EXPECT_EQ(str(m->handle(request("get_auth")), "redirect_to"), "http://127.0.0.1:9/signin");
 }
 
 TEST_F(SimModelTest, UpgradeWritesServiceStatus) {
@@ -392,7 +343,7 @@ TEST_F(SimModelTest, UpgradeWritesServiceStatus) {
     s.upgrade.start_after_seconds = 1;
     s.upgrade.duration_seconds = 2;
     s.upgrade.fails = fails;
-    DeviceModel m(s, std::string(), ws.path(), clock());
+    DeviceModel m(s, std::string(), ws.path(), [this] { return clock_.now.load(); });
     m.advance();
     EXPECT_FALSE(nimbra_test::file_exists(ws.file("service-status")));
     run_for(m, 1000);
@@ -402,44 +353,32 @@ TEST_F(SimModelTest, UpgradeWritesServiceStatus) {
   }
 }
 
-TEST_F(SimModelTest, PortalLinksAndTrayMenu) {
-  auto m = make(simtest::quick_scenario(true));
-  Json::Value r = request("get_portal_link");
-  for (const char* sub : {"help", "restore_portal", "web_console"}) {
-    r["subaction"] = sub;
-    EXPECT_EQ(jsonx::get_string(m->handle(r), "url").rfind("https://", 0), 0u) << sub;
-  }
-  const Json::Value tray = m->handle(request("update_tray_menu"));
-  EXPECT_EQ(jsonx::get_uint64(jsonx::get_object(tray, "billing"), "quota"), 100000u);
-}
-
-TEST_F(SimModelTest, DatedScheduleStartsBackupsAndMovesOn) {
+TEST_F(SimModelTest, DatedScheduleAndAutomaticBackupStartOnTime) {
   sim::Scenario s = simtest::quick_scenario(true);
   s.schedule = Json::Value(Json::objectValue);
   s.schedule["next_backup_in_seconds"] = 10;
   auto m = make(s);
   const std::int64_t start_s = clock_.now / 1000;
   const Json::Value before = get_status(*m);
-  EXPECT_EQ(jsonx::get_int64(jsonx::get_object(before, "content"), "next_backup_time"), start_s + 10);
-  EXPECT_FALSE(jsonx::has(jsonx::get_object(before, "content"), "schedule_type"));
+  EXPECT_EQ(num(before, "content/next_backup_time"), start_s + 10);
+  EXPECT_FALSE(jsonx::has(at(before, "content"), "schedule_type"));
   run_for(*m, 9900);
   EXPECT_FALSE(m->backup_running());
   run_for(*m, 100);
   EXPECT_TRUE(m->backup_running());
-  EXPECT_EQ(jsonx::get_int64(jsonx::get_object(get_status(*m), "content"), "next_backup_time"), start_s + 20);
-}
+  EXPECT_EQ(num(get_status(*m), "content/next_backup_time"), start_s + 20);
 
-TEST_F(SimModelTest, AutomaticBackupRunsOnceAfterItsDelay) {
-  sim::Scenario s = simtest::quick_scenario(true);
+  // The scenario's automatic backup runs once, after its delay.
+  s = simtest::quick_scenario(true);
   s.auto_backup_after_seconds = 2;
-  auto m = make(s);
+  m = make(s);
   run_for(*m, 1900);
   EXPECT_FALSE(m->backup_running());
   run_for(*m, 100);
   EXPECT_TRUE(m->backup_running());
   run_for(*m, 20000);
   EXPECT_FALSE(m->backup_running());
-  EXPECT_EQ(m->take_notifications().size(), 1u);  // one backup only
+  EXPECT_EQ(m->take_notifications().size(), 1u);
 }
 
 struct IdleCase {
@@ -460,14 +399,14 @@ TEST_P(SimIdleStatusTest, StatusAndContentMembers) {
   s.schedule["schedule_type"] = GetParam().schedule_type;
   auto m = make(s);
   const Json::Value v = get_status(*m);
-  EXPECT_EQ(jsonx::get_int32(v, "status"), GetParam().status);
-  const Json::Value& c = jsonx::get_object(v, "content");
+  const Json::Value& c = at(v, "content");
+  EXPECT_EQ(num(v, "status"), GetParam().status);
   EXPECT_EQ(jsonx::get_bool(c, "connected"), GetParam().connected);
-  EXPECT_EQ(jsonx::get_int64(jsonx::get_object(c, "error"), "code"), GetParam().error_code);
+  EXPECT_EQ(num(c, "error/code"), GetParam().error_code);
   EXPECT_EQ(jsonx::has(c, "error"), GetParam().error_code != 0);
-  EXPECT_EQ(jsonx::get_int32(c, "schedule_type"), GetParam().schedule_type);
+  EXPECT_EQ(num(c, "schedule_type"), GetParam().schedule_type);
   EXPECT_FALSE(jsonx::has(c, "next_backup_time"));
-  EXPECT_TRUE(jsonx::has(jsonx::get_object(c, "billing"), "used_bytes"));
+  EXPECT_TRUE(jsonx::has(at(c, "billing"), "used_bytes"));
 }
 
 INSTANTIATE_TEST_SUITE_P(States, SimIdleStatusTest,

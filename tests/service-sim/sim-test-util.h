@@ -6,7 +6,9 @@
 
 #include <atomic>
 #include <cstdint>
+#include <initializer_list>
 #include <string>
+#include <utility>
 
 #include "json-access.h"
 #include "scenario.h"
@@ -25,10 +27,32 @@ inline Json::Value parse(const std::string& text) {
   return v;
 }
 
-inline Json::Value request(const std::string& action) {
+// {"action": action, members...}
+inline Json::Value request(const std::string& action,
+                           std::initializer_list<std::pair<const char*, Json::Value>> members = {}) {
   Json::Value r(Json::objectValue);
   r["action"] = action;
+  for (const auto& m : members) r[m.first] = m.second;
   return r;
+}
+
+// Follows a '/'-separated path of object members ("content/billing"); a
+// missing or mistyped step reads as null.
+inline const Json::Value& at(const Json::Value& v, const std::string& path) {
+  const std::size_t slash = path.find('/');
+  const Json::Value& next = jsonx::member(v, path.substr(0, slash).c_str());
+  return slash == std::string::npos ? next : at(next, path.substr(slash + 1));
+}
+// The integer / string at such a path (0 / "" when absent or mistyped).
+inline std::int64_t num(const Json::Value& v, const std::string& path) {
+  const std::size_t slash = path.rfind('/');
+  if (slash == std::string::npos) return jsonx::get_int64(v, path.c_str());
+  return jsonx::get_int64(at(v, path.substr(0, slash)), path.substr(slash + 1).c_str());
+}
+inline std::string str(const Json::Value& v, const std::string& path) {
+  const std::size_t slash = path.rfind('/');
+  if (slash == std::string::npos) return jsonx::get_string(v, path.c_str());
+  return jsonx::get_string(at(v, path.substr(0, slash)), path.substr(slash + 1).c_str());
 }
 
 // A unique pipe namespace for one test, so parallel runs never meet.
@@ -37,8 +61,8 @@ inline std::string unique_namespace(const char* tag) {
   return std::string("simtest") + tag + std::to_string(::getpid()) + "x" + std::to_string(++counter);
 }
 
-// A small, fast scenario: linked, two sites, a 1 s preparation and 4 s of
-// transfer (1000 bytes at 250 B/s).
+// A small, fast scenario: two sites, a 1 s preparation and 4 s of transfer
+// (1000 bytes at 250 B/s, half of it uploaded).
 inline sim::Scenario quick_scenario(bool linked = true) {
   sim::Scenario s = sim::default_scenario();
   s.linked = linked;
