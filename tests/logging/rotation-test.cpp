@@ -10,7 +10,6 @@
 
 #include "log-test-util.h"
 #include "logger.h"
-#include "support/temp-dir.h"
 
 using logtest::read_log;
 using logtest::wide;
@@ -30,6 +29,9 @@ class RotationTest : public ::testing::Test {
   std::string path() const { return dir.file("ui.txt"); }
   std::string numbered(int i) const { return path() + "_" + std::to_string(i); }
   void start(int keep) { ASSERT_EQ(0, vlog::init(vlog::kRotatingFile, wide(path()), L"", "", keep, 1)); }
+  static void say(const char* text, const char* logger = vlog::kDefaultLogger) {
+    vlog::log(logger, vlog::kError, vlog::kDefaultComponent, "%s", text);
+  }
   // One line long enough to rotate on its own, tagged with `id`.
   static void huge_line(int id) {
     static const std::string padding(kRotateAt, 'p');
@@ -58,20 +60,16 @@ struct BoundaryCase {
   bool rotates;
 };
 
-void PrintTo(const BoundaryCase& c, std::ostream* os) {
-  *os << c.name;
-}
-
 class BoundaryTest : public RotationTest, public ::testing::WithParamInterface<BoundaryCase> {};
 
 TEST_P(BoundaryTest, RotatesOnceWrittenReachesTheLimit) {
   const BoundaryCase& c = GetParam();
-  // Measure one line (stamp and message) in a file of its own.
+  // Measure one line (stamp and message) in a file of its own; a new Windows
+  // text file may start with a byte-order mark.
   TempDir probe_dir;
   ASSERT_EQ(0, vlog::init(vlog::kRotatingFile, wide(probe_dir.file("probe.txt")), L"", "", 50, 1));
-  // (A new Windows text file may start with a byte-order mark.)
   const std::uint32_t empty = vlog::written();
-  vlog::log(vlog::kDefaultLogger, vlog::kError, vlog::kDefaultComponent, "ten chars\n");
+  say("ten chars");
   const std::uint32_t line = vlog::written() - empty;
   vlog::shutdown();
   ASSERT_GE(line, 10u);
@@ -81,7 +79,7 @@ TEST_P(BoundaryTest, RotatesOnceWrittenReachesTheLimit) {
   nimbra_test::write_file(path(), std::string(primed, 'o'));
   start(50);
   ASSERT_EQ(primed, vlog::written());
-  vlog::log(vlog::kDefaultLogger, vlog::kError, vlog::kDefaultComponent, "ten chars\n");
+  say("ten chars");
 
   if (c.rotates) {
     EXPECT_EQ(0u, vlog::written());
@@ -91,7 +89,7 @@ TEST_P(BoundaryTest, RotatesOnceWrittenReachesTheLimit) {
     EXPECT_THAT(rotated, ::testing::EndsWith("ten chars\n"));
     EXPECT_EQ("", read_log(path()));
     // The next line goes to the fresh file.
-    vlog::log(vlog::kDefaultLogger, vlog::kError, vlog::kDefaultComponent, "after\n");
+    say("after");
     EXPECT_THAT(read_log(path()), ::testing::EndsWith("after\n"));
     EXPECT_FALSE(file_exists(numbered(1)));
   } else {
@@ -110,32 +108,26 @@ INSTANTIATE_TEST_SUITE_P(
 
 // ---- numbered files ----
 
-TEST_F(RotationTest, FiftyOneRotationsWithKeepFiftyLeaveTheNewestFortyNine) {
-  start(50);
-  for (int id = 1; id <= 51; ++id) huge_line(id);
-  // P_0 is the newest; with the renames before the removal, P_49 is made and
-  // removed again on every rotation.
-  for (int i = 0; i <= 48; ++i) EXPECT_EQ(51 - i, id_in(numbered(i))) << "file _" << i;
-  EXPECT_FALSE(file_exists(numbered(49)));
-  EXPECT_FALSE(file_exists(numbered(50)));
+struct KeepCase {
+  int keep, lines, kept;
+};
+
+class KeepTest : public RotationTest, public ::testing::WithParamInterface<KeepCase> {};
+
+// P_0 is the newest; with the renames before the removal, P_(keep-1) is made
+// and removed again on every rotation (keep 1 renames P to P_0 only).
+TEST_P(KeepTest, RotationsLeaveTheNewestFilesInOrder) {
+  const KeepCase& c = GetParam();
+  start(c.keep);
+  for (int id = 1; id <= c.lines; ++id) huge_line(id);
+  for (int i = 0; i < c.kept; ++i) EXPECT_EQ(c.lines - i, id_in(numbered(i))) << "file _" << i;
+  EXPECT_FALSE(file_exists(numbered(c.kept)));
+  EXPECT_FALSE(file_exists(numbered(c.kept + 1)));
   EXPECT_EQ("", read_log(path()));
 }
 
-TEST_F(RotationTest, SmallKeepDropsTheOldestFiles) {
-  start(3);
-  for (int id = 1; id <= 5; ++id) huge_line(id);
-  EXPECT_EQ(5, id_in(numbered(0)));
-  EXPECT_EQ(4, id_in(numbered(1)));
-  EXPECT_FALSE(file_exists(numbered(2)));
-  EXPECT_FALSE(file_exists(numbered(3)));
-}
-
-TEST_F(RotationTest, KeepOneKeepsOnlyTheLastRotatedFile) {
-  start(1);
-  for (int id = 1; id <= 3; ++id) huge_line(id);
-  EXPECT_EQ(3, id_in(numbered(0)));
-  EXPECT_FALSE(file_exists(numbered(1)));
-}
+INSTANTIATE_TEST_SUITE_P(Counts, KeepTest,
+                         ::testing::Values(KeepCase{50, 51, 49}, KeepCase{3, 5, 2}, KeepCase{1, 3, 1}));
 
 TEST_F(RotationTest, RenamesNeverReplaceAndAFailedRotationDropsLaterLines) {
   nimbra_test::write_file(numbered(0), "old zero\n");
@@ -148,13 +140,13 @@ TEST_F(RotationTest, RenamesNeverReplaceAndAFailedRotationDropsLaterLines) {
   EXPECT_FALSE(file_exists(numbered(2)));  // the removal still ran
   EXPECT_EQ(1, id_in(path()));
   // The stream stays closed: later lines are dropped, quietly.
-  vlog::log(vlog::kDefaultLogger, vlog::kError, vlog::kDefaultComponent, "dropped\n");
+  say("dropped");
   EXPECT_THAT(read_log(path()), ::testing::Not(::testing::HasSubstr("dropped")));
   // A new init opens the file again; it is still over the limit, so the
   // next line rotates, and this time the names are free.
   vlog::shutdown();
   start(3);
-  vlog::log(vlog::kDefaultLogger, vlog::kError, vlog::kDefaultComponent, "back\n");
+  say("back");
   EXPECT_THAT(read_log(numbered(0)), ::testing::EndsWith("back\n"));
   EXPECT_EQ("old zero\n", read_log(numbered(1)));
   EXPECT_FALSE(file_exists(numbered(2)));
@@ -174,7 +166,7 @@ TEST_P(SharersTest, AStateThatShareTheFileFollowsTheRotationOnlyFromTwoSharers) 
   ASSERT_EQ(0, vlog::init(vlog::kRotatingFile, wide(path()), L"", "", 50, sharers, "SECOND"));
   huge_line(1);  // the first state rotates
   ASSERT_TRUE(file_exists(numbered(0)));
-  vlog::log("SECOND", vlog::kError, vlog::kDefaultComponent, "from second\n");
+  say("from second", "SECOND");
   if (sharers >= 2) {
     EXPECT_THAT(read_log(path()), ::testing::EndsWith("from second\n"));
     EXPECT_THAT(read_log(numbered(0)), ::testing::Not(::testing::HasSubstr("from second")));
@@ -189,8 +181,7 @@ INSTANTIATE_TEST_SUITE_P(Counts, SharersTest, ::testing::Values(1, 2));
 // ---- threads ----
 
 TEST_F(RotationTest, FourThreadsLoseAndInterleaveNoLine) {
-  constexpr int kThreads = 4;
-  constexpr int kLines = 50000;
+  constexpr int kThreads = 4, kLines = 50000;
   start(50);
   std::vector<std::thread> threads;
   for (int t = 0; t < kThreads; ++t)
@@ -199,31 +190,24 @@ TEST_F(RotationTest, FourThreadsLoseAndInterleaveNoLine) {
     });
   for (auto& th : threads) th.join();
   vlog::shutdown();
-
+  ASSERT_TRUE(file_exists(numbered(0))) << "200,000 lines should have rotated at least once";
   // Oldest file first, so that every thread's lines come in order.
-  std::vector<std::string> files;
-  for (int i = 49; i >= 0; --i)
-    if (file_exists(numbered(i))) files.push_back(numbered(i));
-  files.push_back(path());
-  ASSERT_GE(files.size(), 2u) << "200,000 lines should have rotated at least once";
-
+  std::string all;
+  for (int i = 49; i >= 0; --i) all += read_log(numbered(i));
   std::array<int, kThreads> next{};
   long total = 0;
-  for (const auto& f : files) {
-    for (const std::string& line : logtest::split_lines(read_log(f))) {
-      const auto brace = line.find("} thread ");
-      ASSERT_NE(std::string::npos, brace) << line;
-      int t = -1, n = -1;
-      char end[8] = {};
-      ASSERT_EQ(3, std::sscanf(line.c_str() + brace, "} thread %d line %d %7s", &t, &n, end)) << line;
-      ASSERT_TRUE(t >= 0 && t < kThreads) << line;
-      ASSERT_EQ(next[static_cast<std::size_t>(t)], n) << "thread " << t << ": " << line;
-      ASSERT_STREQ("end", end) << line;
-      // Exactly one header per line: a second one means two lines ran together.
-      ASSERT_EQ(line.find("[ERROR]"), line.rfind("[ERROR]")) << line;
-      ++next[static_cast<std::size_t>(t)];
-      ++total;
-    }
+  for (const std::string& line : logtest::split_lines(all + read_log(path()))) {
+    int t = -1, n = -1;
+    char end[8] = {};
+    const auto brace = line.find("} thread ");
+    ASSERT_NE(std::string::npos, brace) << line;
+    ASSERT_EQ(3, std::sscanf(line.c_str() + brace, "} thread %d line %d %7s", &t, &n, end)) << line;
+    ASSERT_TRUE(t >= 0 && t < kThreads) << line;
+    ASSERT_EQ(next[static_cast<std::size_t>(t)]++, n) << "thread " << t << ": " << line;
+    ASSERT_STREQ("end", end) << line;
+    // Exactly one header per line: a second one means two lines ran together.
+    ASSERT_EQ(line.find("[ERROR]"), line.rfind("[ERROR]")) << line;
+    ++total;
   }
   EXPECT_EQ(long{kThreads} * kLines, total);
 }

@@ -4,7 +4,6 @@
 #include <cerrno>
 #include <cstdint>
 
-#include "exception.h"
 #include "win-error.h"
 
 namespace rex = ravel::exception;
@@ -15,10 +14,6 @@ struct Row {
   std::uint32_t win;
   int err;
 };
-
-void PrintTo(const Row& r, std::ostream* os) {
-  *os << r.win << " -> " << r.err;
-}
 
 class TranslationTest : public ::testing::TestWithParam<Row> {};
 
@@ -45,16 +40,5 @@ INSTANTIATE_TEST_SUITE_P(UsualRows, TranslationTest,
 INSTANTIATE_TEST_SUITE_P(Unknown, TranslationTest,
                          ::testing::Values(Row{0, 40}, Row{35, 40}, Row{1000, 40}, Row{1325, 40},
                                            Row{1333, 40}, Row{0xFFFFFFFFu, 40}, Row{0x80070005u, 40}));
-
-TEST(TranslationThenRaise, PicksTheClassFromErrno) {
-  try {
-    rex::raise(rex::translate_win_error(33), "locked file");
-  } catch (const rex::Locked& e) {
-    EXPECT_EQ(140, e.code);
-    return;
-  } catch (...) {
-  }
-  FAIL() << "ERROR_LOCK_VIOLATION should raise Locked";
-}
 
 }  // namespace
