@@ -8,10 +8,8 @@
 #include <QProcess>
 #include <QTest>
 
+#include <functional>
 #include <memory>
-#include <mutex>
-#include <sstream>
-#include <thread>
 
 #include "agent-client.h"
 #include "sim-test-util.h"
@@ -33,56 +31,45 @@ struct ProcessResult {
   std::string err;
 };
 
-ProcessResult run(const QStringList& args) {
+// Runs the simulator with `args` and `input` on its standard input; `meanwhile`
+// runs while it does (the agent's end serving it).
+ProcessResult run(const QStringList& args, const std::function<void()>& meanwhile = {},
+                  const QByteArray& input = {}) {
   QProcess p;
   p.start(sim_binary(), args);
+  EXPECT_TRUE(p.waitForStarted(5000));
+  p.write(input);
+  EXPECT_TRUE(input.isEmpty() || p.waitForBytesWritten(5000));
+  p.closeWriteChannel();
+  if (meanwhile) meanwhile();
   EXPECT_TRUE(p.waitForFinished(15000)) << args.join(' ').toStdString();
-  ProcessResult r;
-  r.code = p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
-  r.out = p.readAllStandardOutput().toStdString();
-  r.err = p.readAllStandardError().toStdString();
-  return r;
+  return {p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1, p.readAllStandardOutput().toStdString(),
+          p.readAllStandardError().toStdString()};
 }
 
-// The agent's side of its own pipe: answers every request with `reply` and
-// keeps what it received.
+// The agent's end of its own pipe, served from the test's thread: take()
+// answers up to `count` requests with `reply`, waiting up to 10 s, and
+// returns what came.
 class AgentEnd {
  public:
-  explicit AgentEnd(std::string reply) {
+  AgentEnd() {
     server_.set_timeout_ms(50);
-    ok_ = server_.create(WinIpc::kAgentPipe) == 0;
-    thread_ = std::thread([this, reply] {
-      while (!stop_) {
-        std::string text;
-        if (server_.accept() && server_.read(text, &stop_) == 0) {
-          {
-            std::lock_guard<std::mutex> lock(mutex_);
-            received_.push_back(text);
-          }
-          server_.write(reply);
-        }
-        server_.disconnect();
-      }
-    });
+    EXPECT_EQ(server_.create(WinIpc::kAgentPipe), 0);
   }
-  ~AgentEnd() {
-    stop_ = true;
-    thread_.join();
-    server_.close();
-  }
-  bool ok() const { return ok_; }
-  std::vector<std::string> received() {
-    std::lock_guard<std::mutex> lock(mutex_);
-    return received_;
+  ~AgentEnd() { server_.close(); }
+  std::vector<std::string> take(std::size_t count, const std::string& reply = "{\"success\":true}") {
+    std::vector<std::string> got;
+    for (int round = 0; round < 200 && got.size() < count; ++round) {
+      if (!server_.accept()) continue;
+      std::string text;
+      if (server_.read(text) == 0 && server_.write(reply) == 0) got.push_back(text);
+      server_.disconnect();
+    }
+    return got;
   }
 
  private:
   WinIpc::IpcServer server_;
-  bool ok_ = false;
-  std::atomic<bool> stop_{false};
-  std::mutex mutex_;
-  std::vector<std::string> received_;
-  std::thread thread_;
 };
 
 class SimCliTest : public ::testing::Test {
@@ -102,30 +89,25 @@ TEST_F(SimCliTest, HelpExplainsEveryCommand) {
 }
 
 TEST_F(SimCliTest, SendDoesOneExchangeAndPrintsTheAnswer) {
-  AgentEnd agent("{\"success\":true}");
-  ASSERT_TRUE(agent.ok());
+  AgentEnd agent;
   const std::string message = "{\"action\":\"notifications\",\"x\":[1,2]}";
+  std::vector<std::string> got;
+  const auto serve_one = [&] { got.push_back(agent.take(1).at(0)); };
   const ProcessResult r =
-      run({"send", "--pipe", "\\\\.\\pipe\\nimbrabackup-ui", QString::fromStdString(message)});
+      run({"send", "--pipe", "\\\\.\\pipe\\nimbrabackup-ui", QString::fromStdString(message)}, serve_one);
   EXPECT_EQ(r.code, 0) << r.err;
   EXPECT_EQ(r.out, "{\"success\":true}\n");
   // "-" reads the message from standard input.
-  QProcess p;
-  p.start(sim_binary(), {"send", "--pipe", "agent", "-"});
-  ASSERT_TRUE(p.waitForStarted(5000));
-  p.write("{\"from\":\"stdin\"}");
-  p.closeWriteChannel();
-  ASSERT_TRUE(p.waitForFinished(10000));
-  EXPECT_EQ(p.exitCode(), 0);
-  EXPECT_THAT(agent.received(), ::testing::ElementsAre(message, "{\"from\":\"stdin\"}"));
+  EXPECT_EQ(run({"send", "--pipe", "agent", "-"}, serve_one, "{\"from\":\"stdin\"}").code, 0);
+  EXPECT_THAT(got, ::testing::ElementsAre(message, "{\"from\":\"stdin\"}"));
 }
 
 TEST_F(SimCliTest, NotifyPushesOneNotificationRequest) {
-  AgentEnd agent("{\"success\":true}");
-  ASSERT_TRUE(agent.ok());
-  const ProcessResult r = run({"notify", "--type", "7", "--data", "{\"status\":4}", "--id", "42"});
+  AgentEnd agent;
+  std::vector<std::string> got;
+  const ProcessResult r =
+      run({"notify", "--type", "7", "--data", "{\"status\":4}", "--id", "42"}, [&] { got = agent.take(1); });
   EXPECT_EQ(r.code, 0) << r.err;
-  const auto got = agent.received();
   ASSERT_EQ(got.size(), 1u);
   const Json::Value v = parse(got[0]);
   EXPECT_EQ(jsonx::get_string(v, "action"), "notifications");
@@ -150,9 +132,10 @@ struct Failure {
 class SimFailureTest : public SimCliTest, public ::testing::WithParamInterface<Failure> {};
 
 TEST_P(SimFailureTest, ExitsNonZeroWithTheReason) {
-  std::unique_ptr<AgentEnd> agent;
-  if (GetParam().agent_reply != nullptr) agent = std::make_unique<AgentEnd>(GetParam().agent_reply);
-  const ProcessResult r = run(GetParam().args);
+  const char* reply = GetParam().agent_reply;
+  std::unique_ptr<AgentEnd> agent(reply != nullptr ? new AgentEnd : nullptr);
+  const ProcessResult r =
+      run(GetParam().args, [&] { EXPECT_TRUE(agent == nullptr || agent->take(1, reply).size() == 1u); });
   EXPECT_EQ(r.code, GetParam().code);
   EXPECT_THAT(r.err, ::testing::HasSubstr(GetParam().message));
   // Only an answer that came is printed.
@@ -217,8 +200,7 @@ std::uint64_t last_log_id(const Json::Value& status) {
 }
 
 TEST_F(SimCliTest, ServeRunsTheScenarioPushesNotificationsAndResumesAfterRestart) {
-  AgentEnd agent("{\"success\":true}");
-  ASSERT_TRUE(agent.ok());
+  AgentEnd agent;
   nimbra_test::ScopedEnv ws("NIMBRA_WORKING_SPACE", dir_.file("ws").c_str());
   nimbra_test::write_file(dir_.file("quick.json"), R"({
     "description": "tiny",
@@ -236,8 +218,8 @@ TEST_F(SimCliTest, ServeRunsTheScenarioPushesNotificationsAndResumesAfterRestart
     Served serve(args);
     ASSERT_TRUE(serve.ok());
     // The backup ends within a second: type 7, and 80% -> 90% crosses 85%: type 8.
-    ASSERT_TRUE(QTest::qWaitFor([&] { return agent.received().size() >= 2; }, 10000));
-    const auto got = agent.received();
+    const auto got = agent.take(2);
+    ASSERT_EQ(got.size(), 2u);
     EXPECT_EQ(num(jsonx::get_array(parse(got[0]), "notifications")[0], "type"), 7);
     EXPECT_EQ(num(jsonx::get_array(parse(got[1]), "notifications")[0], "type"), 8);
     ASSERT_TRUE(QTest::qWaitFor(

@@ -309,16 +309,16 @@ TEST_P(SimHostileRequestTest, AnsweredWithAnErrorAndTheModelGoesOn) {
   EXPECT_EQ(num(get_status(*m), "status"), st::kIdle);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Requests, SimHostileRequestTest,
-    ::testing::Values(
-        BadRequest{"NotAnObject", "[1,2]"}, BadRequest{"NoAction", "{\"log_id\":1}"},
-        BadRequest{"ActionNumber", "{\"action\":7}"},
-        BadRequest{"UnknownAction", "{\"action\":\"format_disk\"}"},
-        BadRequest{"BandwidthString", "{\"action\":\"set_bandwidth_control\",\"bandwidth\":\"fast\"}"},
-        BadRequest{"PortalUnknown", "{\"action\":\"get_portal_link\",\"subaction\":\"admin\"}"},
-        BadRequest{"PortalWrongType", "{\"action\":\"get_portal_link\",\"subaction\":[\"help\"]}"}),
-    [](const auto& test_case) { return std::string(test_case.param.label); });
+INSTANTIATE_TEST_SUITE_P(Requests, SimHostileRequestTest,
+                         ::testing::ValuesIn(std::vector<BadRequest>{
+                             {"NotAnObject", "[1,2]"},
+                             {"NoAction", R"({"log_id":1})"},
+                             {"ActionNumber", R"({"action":7})"},
+                             {"UnknownAction", R"({"action":"format_disk"})"},
+                             {"BandwidthString", R"({"action":"set_bandwidth_control","bandwidth":"fast"})"},
+                             {"PortalUnknown", R"({"action":"get_portal_link","subaction":"admin"})"},
+                             {"PortalWrongType", R"({"action":"get_portal_link","subaction":["help"]})"}}),
+                         [](const auto& test_case) { return std::string(test_case.param.label); });
 
 TEST_F(SimModelTest, ScenarioErrorsApplyTheGivenNumberOfTimes) {
   sim::Scenario s = simtest::quick_scenario(false);

@@ -57,24 +57,16 @@ Played play(const std::string& file, Json::ArrayIndex site) {
   nimbra_test::TempDir dir;
   sim::DeviceModel m(p.scenario, std::string(), dir.path(), [&clock] { return clock.now.load(); });
   m.load_state();
-  const auto retried = [&m](const Json::Value& r) {
-    for (int attempt = 0; attempt < 3; ++attempt)
-      if (jsonx::get_bool(m.handle(r), "success")) return true;
-    return false;
-  };
+  const auto ok = [&m](const Json::Value& r) { return jsonx::get_bool(m.handle(r), "success"); };
   if (!m.linked()) {
-    Json::Value token = request("get_token");
-    const auto fresh_token = [&] {
-      token["token"] = m.issue_token();
-      return jsonx::get_bool(m.handle(token), "success");
-    };
-    EXPECT_TRUE(fresh_token() || fresh_token() || fresh_token()) << file;
+    const auto signed_in = [&] { return ok(request("get_token", {{"token", m.issue_token()}})); };
+    EXPECT_TRUE(signed_in() || signed_in() || signed_in()) << file;
     const Json::Value chosen = jsonx::get_array(m.handle(request("get_site_info")), "data")[site];
-    Json::Value create = request("create_device");
-    create["zid"] = str(chosen, "billing/region/code");
-    create["subscription_id"] = str(chosen, "billing/subscription_id");
-    create["account_type"] = str(chosen, "backup_policy/account_type");
-    EXPECT_TRUE(retried(create)) << file;
+    const Json::Value create =
+        request("create_device", {{"zid", str(chosen, "billing/region/code")},
+                                  {"subscription_id", str(chosen, "billing/subscription_id")},
+                                  {"account_type", str(chosen, "backup_policy/account_type")}});
+    EXPECT_TRUE(ok(create) || ok(create) || ok(create)) << file;
   }
   m.handle(request("backup_now"));
   int ticks = 0;
@@ -155,36 +147,28 @@ TEST_P(SimBadScenarioTest, RefusedWithAClearError) {
 
 INSTANTIATE_TEST_SUITE_P(
     Files, SimBadScenarioTest,
-    ::testing::Values(
-        BadScenario{"NotJson", "{\"name\": ", "not valid JSON"},
-        BadScenario{"TopLevelArray", "[]", "top level must be an object"},
-        BadScenario{"UnknownTopMember", "{\"sceanrio\": 1}", "'sceanrio' is not a known member"},
-        BadScenario{"UnknownNested", "{\"backup\": {\"rate\": 5}}", "'backup.rate' is not a known member"},
-        BadScenario{"BoolAsString", "{\"device\": {\"linked\": \"yes\"}}",
-                    "'device.linked' must be true or false"},
-        BadScenario{"NumberAsString", "{\"backup\": {\"total_bytes\": \"2GB\"}}",
-                    "'backup.total_bytes' must be a whole number"},
-        BadScenario{"Fraction", "{\"faults\": {\"drop_every\": 2.5}}",
-                    "'faults.drop_every' must be a whole number"},
-        BadScenario{"OutOfRange", "{\"backup\": {\"delta_ratio\": 1.5}}",
-                    "'backup.delta_ratio' must lie between 0 and 1"},
-        BadScenario{"BadOutcome", "{\"backup\": {\"outcome\": \"exploded\"}}",
-                    "'backup.outcome' must be one of"},
-        BadScenario{"NoSites", "{\"sites\": []}", "'sites' must list at least one site"},
-        BadScenario{"SiteWithoutCode", "{\"sites\": [{\"billing\": {\"region\": {}}}]}",
-                    "'sites[0].billing.region.code'"},
-        BadScenario{"SiteIndexPastEnd", "{\"device\": {\"site_index\": 9}}",
-                    "'device.site_index' points past"},
-        BadScenario{"ErrorWithoutCode", "{\"errors\": {\"get_token\": {\"times\": 1}}}",
-                    "'errors.get_token.code' is missing"},
-        BadScenario{"ErrorForUnknownAction", "{\"errors\": {\"reboot\": {\"code\": 4}}}",
-                    "'errors.reboot' is not a known"},
-        BadScenario{"VolumesNotStrings", "{\"backup\": {\"volumes\": [1]}}",
-                    "'backup.volumes' must hold strings"},
-        BadScenario{"UpgradeOutcome", "{\"upgrade\": {\"outcome\": \"maybe\"}}",
-                    "'upgrade.outcome' must be success or error"},
-        BadScenario{"LogWithoutType", "{\"initial_logs\": [{\"body\": {}}]}",
-                    "'initial_logs[0].type' is missing"}),
+    ::testing::ValuesIn(std::vector<BadScenario>{
+        {"NotJson", R"({"name": )", "not valid JSON"},
+        {"TopLevelArray", "[]", "top level must be an object"},
+        {"UnknownTopMember", R"({"sceanrio": 1})", "'sceanrio' is not a known member"},
+        {"UnknownNested", R"({"backup": {"rate": 5}})", "'backup.rate' is not a known member"},
+        {"BoolAsString", R"({"device": {"linked": "yes"}})", "'device.linked' must be true or false"},
+        {"NumberAsString", R"({"backup": {"total_bytes": "2GB"}})",
+         "'backup.total_bytes' must be a whole number"},
+        {"Fraction", R"({"faults": {"drop_every": 2.5}})", "'faults.drop_every' must be a whole number"},
+        {"OutOfRange", R"({"backup": {"delta_ratio": 1.5}})",
+         "'backup.delta_ratio' must lie between 0 and 1"},
+        {"BadOutcome", R"({"backup": {"outcome": "exploded"}})", "'backup.outcome' must be one of"},
+        {"NoSites", R"({"sites": []})", "'sites' must list at least one site"},
+        {"SiteWithoutCode", R"({"sites": [{"billing": {"region": {}}}]})", "'sites[0].billing.region.code'"},
+        {"SiteIndexPastEnd", R"({"device": {"site_index": 9}})", "'device.site_index' points past"},
+        {"ErrorWithoutCode", R"({"errors": {"get_token": {"times": 1}}})",
+         "'errors.get_token.code' is missing"},
+        {"ErrorForUnknownAction", R"({"errors": {"reboot": {"code": 4}}})", "'errors.reboot' is not a known"},
+        {"VolumesNotStrings", R"({"backup": {"volumes": [1]}})", "'backup.volumes' must hold strings"},
+        {"UpgradeOutcome", R"({"upgrade": {"outcome": "maybe"}})",
+         "'upgrade.outcome' must be success or error"},
+        {"LogWithoutType", R"({"initial_logs": [{"body": {}}]})", "'initial_logs[0].type' is missing"}}),
     [](const auto& test_case) { return std::string(test_case.param.label); });
 
 TEST(SimScenarios, MembersOverrideTheDefaults) {
