@@ -123,21 +123,17 @@ class WidgetsTrayShapes : public WidgetsPictures, public ::testing::WithParamInt
 
 TEST_P(WidgetsTrayShapes, EveryStateHasItsOwnShapeAt16px) {
   const QStringList states{"connect", "green", "blue", "red", "orange"};
-  QList<QVector<int>> shapes;
-  for (const QString& s : states) {
-    const QImage img = images_->pixmap("logo_tray_icn_" + s + GetParam(), QSize(16, 16), 1.0).toImage();
-    QVector<int> shape;
-    for (int y = 0; y < 16; ++y)
-      for (int x = 0; x < 16; ++x) {
-        const QRgb p = img.pixel(x, y);
-        shape << (qAlpha(p) < 128 ? 0 : (qGray(p) > 200 ? 2 : 1));
-      }
-    shapes << shape;
-  }
-  for (int i = 0; i < shapes.size(); ++i)
-    for (int j = i + 1; j < shapes.size(); ++j) {
+  QList<QImage> icons;
+  for (const QString& s : states)
+    icons << images_->pixmap("logo_tray_icn_" + s + GetParam(), QSize(16, 16), 1.0).toImage();
+  auto shape = [](const QImage& img, int k) {
+    const QRgb p = img.pixel(k % 16, k / 16);
+    return qAlpha(p) < 128 ? 0 : (qGray(p) > 200 ? 2 : 1);
+  };
+  for (int i = 0; i < icons.size(); ++i)
+    for (int j = i + 1; j < icons.size(); ++j) {
       int differing = 0;
-      for (int k = 0; k < 256; ++k) differing += shapes[i][k] != shapes[j][k];
+      for (int k = 0; k < 256; ++k) differing += shape(icons[i], k) != shape(icons[j], k);
       EXPECT_GE(differing, 4) << qPrintable(states[i]) << " vs " << qPrintable(states[j]);
     }
 }

@@ -25,13 +25,16 @@ class WidgetsStyleFormat : public ::testing::Test {
 };
 
 TEST_F(WidgetsStyleFormat, BlocksRunToTheNextHeaderAndThePrefaceIsIgnored) {
+  nimbra_test::ScopedEnv scale("NIMBRA_UI_SCALE", "2");
   EXPECT_EQ(sm_->loadFromString("/* preface mentioning @ signs */\nQLabel { color: red; }\n"
-                                "@@ first\nQLabel { color: #111111; }\n/* kept */\n"
+                                "@@ first\nQLabel { font-size: 13px; }\n/* kept */\n"
                                 "  @@   second.name-2  \nQFrame#X { image: url($images/a.svg); }\n"
                                 "@@ empty\n",
                                 "inline"),
             3);
-  EXPECT_EQ(sm_->styleSheet("first"), "QLabel { color: #111111; }\n/* kept */");
+  EXPECT_EQ(sm_->styleSheet("first"), "QLabel { font-size: 13px; }\n/* kept */");
+  EXPECT_EQ(getStyleSheet("first"), "QLabel { font-size: 26px; }\n/* kept */");  // scaled for the display
+  EXPECT_EQ(getStyleSheet("first", false), sm_->styleSheet("first"));
   EXPECT_EQ(sm_->styleSheet("second.name-2"), "QFrame#X { image: url(/opt/look/images/a.svg); }");
   EXPECT_TRUE(sm_->contains("empty"));
   EXPECT_EQ(sm_->styleSheet("empty"), "");
@@ -51,13 +54,6 @@ TEST_F(WidgetsStyleFormat, BadInputIsLoggedAndSkipped) {
   for (const char* line : {"replaces an earlier one", "malformed block header",
                            "cannot open style sheet file", "unknown style sheet [no_such_style]"})
     EXPECT_NE(text.find(line), std::string::npos) << line;
-}
-
-TEST_F(WidgetsStyleFormat, ScaledFetchMultipliesPixelLengthsOnly) {
-  nimbra_test::ScopedEnv scale("NIMBRA_UI_SCALE", "2");
-  sm_->loadFromString("@@ s\nQLabel { font-size: 13px; line-height: 1.5em; }\n", "x");
-  EXPECT_EQ(getStyleSheet("s"), "QLabel { font-size: 26px; line-height: 1.5em; }");
-  EXPECT_EQ(getStyleSheet("s", false), "QLabel { font-size: 13px; line-height: 1.5em; }");
 }
 
 // Every name the agent uses resolves in the product's own files, and Qt's
@@ -92,7 +88,9 @@ INSTANTIATE_TEST_SUITE_P(WidgetsNames, WidgetsAgentStyleName,
                            return QString(p.param).replace('.', '_').toStdString();
                          });
 
-TEST(WidgetsStyleFiles, NoNameIsDefinedTwice) {
+TEST(WidgetsStyleFiles, NamesFixtureIsReadAndNoNameIsDefinedTwice) {
+  EXPECT_GE(widgets_test::agentStyleNames().size(), 40);
+  EXPECT_GE(widgets_test::agentPictureNames().size(), 25);
   LogCapture log;
   widgets_test::loadProductLook();
   const std::string text = log.text();

@@ -1,38 +1,74 @@
 #pragma once
 // Shared set-up of the widget-layer tests: the resource folder of the source
-// tree registered and loaded, and a log file whose lines a test can read.
+// tree registered and loaded, the names the agent asks for, and a log file
+// whose lines a test can read.
 
 #include <gtest/gtest.h>
 
-#include <QString>
+#include <QDir>
+#include <QFile>
 #include <QStringList>
 
 #include <string>
 
+#include "image-manager.h"
+#include "logger.h"
+#include "style-manager.h"
 #include "support/temp-dir.h"
+#include "ui-path-manager.h"
 
 namespace widgets_test {
 
 // $NIMBRA_SOURCE_DIR/resource
-QString sourceResources();
-// Registers the resource folder and loads the pictures and both style sheets.
-void loadProductLook();
+inline QString sourceResources() {
+  return QDir::cleanPath(qEnvironmentVariable("NIMBRA_SOURCE_DIR", QStringLiteral(".")) + "/resource");
+}
 
-// Every style-sheet name and picture name the agent asks for.
-const QStringList& agentStyleNames();
-const QStringList& agentPictureNames();
+// Registers the resource folder and loads the pictures and both style sheets.
+inline void loadProductLook() {
+  const QString res = sourceResources();
+  UIPathManager::getInstance()->setPath(QStringLiteral("resource_path"), res);
+  ImageManager::getInstance()->initialize(0);
+  StyleManager::getInstance()->clear();
+  StyleManager::getInstance()->initialize(
+      {res + "/agent.stylesheet", res + "/component.business.stylesheet"});
+}
+
+// The names listed in a fixture file of this folder, one a line, '#' comments.
+inline QStringList namesIn(const char* file) {
+  QFile f(QStringLiteral(WIDGETS_TEST_DIR "/") + file);
+  QStringList names;
+  if (f.open(QIODevice::ReadOnly | QIODevice::Text))
+    for (const QByteArray& line : f.readAll().split('\n'))
+      if (!line.trimmed().isEmpty() && !line.startsWith('#')) names << QString::fromUtf8(line.trimmed());
+  return names;
+}
+inline const QStringList& agentStyleNames() {
+  static const QStringList names = namesIn("style-names.txt");
+  return names;
+}
+inline const QStringList& agentPictureNames() {
+  static const QStringList names = namesIn("picture-names.txt");
+  return names;
+}
 
 // Sends the log to a file for the test's lifetime.
 class LogCapture {
  public:
-  LogCapture();
-  ~LogCapture();
+  LogCapture() { open(); }
+  ~LogCapture() { vlog::shutdown(); }
   // Everything logged so far.
-  std::string text();
+  std::string text() {
+    vlog::shutdown();
+    const std::string content = nimbra_test::read_file(path_);
+    open();
+    return content;
+  }
 
  private:
+  void open() { vlog::init(vlog::kRotatingFile, std::wstring(path_.begin(), path_.end()), L"", "", 5, 1); }
   nimbra_test::TempDir dir_;
-  std::string path_;
+  std::string path_ = dir_.file("ui.txt");
 };
 
 }  // namespace widgets_test
