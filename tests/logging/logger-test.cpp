@@ -37,62 +37,46 @@ class LoggerTest : public ::testing::Test {
   nimbra_test::TempDir dir;
 };
 
-TEST_F(LoggerTest, HeaderCarriesPrefixBaseNameLineProcessThreadAndEmptyTrace) {
-  ScopedEnv trace("VANTOR_LOG_TRACE", nullptr);
-  start(nullptr, "svc| ");
-  const int line = __LINE__ + 1;
-  LOG_ERROR(vlog::kDefaultComponent, "value %d and %s", 42, "text");
-  LOG_WARN(vlog::kWinIpc, "careful");
+// The header, the prefix, the trace tag read afresh for every line, the
+// milliseconds of level 7 and the line feed added only when missing.
+TEST_F(LoggerTest, LinesHaveTheFixedForm) {
+  start("default_component = 7\n", "svc| ");
+  int line = 0;
+  {
+    ScopedEnv trace("VANTOR_LOG_TRACE", nullptr);
+    line = __LINE__ + 1;
+    LOG_ERROR(vlog::kDefaultComponent, "value %d and %s", 42, "text");
+  }
+  {
+    ScopedEnv trace("VANTOR_LOG_TRACE", "abc");
+    LOG_WARN(vlog::kWinIpc, "careful");
+  }
+  {
+    ScopedEnv trace("VANTOR_LOG_TRACE", "run-7");
+    LOG_DEBUG(vlog::kDefaultComponent, "fine detail");
+  }
+  vlog::log(vlog::kDefaultLogger, vlog::kError, vlog::kWinIpc, "no newline %d", 1);
+  vlog::log(vlog::kDefaultLogger, vlog::kError, vlog::kWinIpc, "one newline %d\n", 2);
   const auto lines = split_lines(text());
-  ASSERT_EQ(2u, lines.size());
-  const std::string expected = "svc| [ERROR][logger-test.cpp:" + std::to_string(line) + "](" +
-                               std::to_string(vlog::current_pid()) + "," +
-                               std::to_string(vlog::current_tid()) + "){} value 42 and text";
+  ASSERT_EQ(5u, lines.size()) << text();
+  EXPECT_THAT(lines[3], EndsWith(" svc| no newline 1"));
+  EXPECT_THAT(lines[4], EndsWith(" svc| one newline 2"));
   std::smatch m;
   ASSERT_TRUE(std::regex_match(lines[0], m, std::regex("(" + kStamp + ")(.*)"))) << lines[0];
-  EXPECT_EQ(expected, m[2].str());
-  EXPECT_THAT(lines[1], HasSubstr(" svc| [WARNIN][logger-test.cpp:"));
+  EXPECT_EQ("svc| [ERROR][logger-test.cpp:" + std::to_string(line) + "](" +
+                std::to_string(vlog::current_pid()) + "," + std::to_string(vlog::current_tid()) +
+                "){} value 42 and text",
+            m[2].str());
+  EXPECT_TRUE(std::regex_match(
+      lines[1], std::regex(kStamp + R"(svc\| \[WARNIN\]\[logger-test\.cpp:\d+\]\(\d+,\d+\)\{abc\} careful)")))
+      << lines[1];
+  ASSERT_TRUE(std::regex_match(
+      lines[2], m, std::regex("(" + kStamp + R"():(\d{1,3}) svc\| \[DEBUG\]\[.*\{run-7\} fine detail)")))
+      << lines[2];
+  EXPECT_LT(std::stoi(m[2].str()), 1000);
   // Windows paths in __FILE__ use backslashes.
   EXPECT_STREQ("win-ipc.cpp", vlog::base_name("C:\\src\\ipc/win-ipc.cpp"));
   EXPECT_STREQ("", vlog::base_name("folder/"));
-}
-
-TEST_F(LoggerTest, TraceTagIsReadAfreshForEveryLine) {
-  start();
-  for (const char* tag : {"abc", static_cast<const char*>(nullptr), "run-7"}) {
-    ScopedEnv trace("VANTOR_LOG_TRACE", tag);
-    LOG_ERROR(vlog::kDefaultComponent, "line");
-  }
-  const auto lines = split_lines(text());
-  ASSERT_EQ(3u, lines.size());
-  EXPECT_THAT(lines[0], EndsWith("){abc} line"));
-  EXPECT_THAT(lines[1], EndsWith("){} line"));
-  EXPECT_THAT(lines[2], EndsWith("){run-7} line"));
-}
-
-TEST_F(LoggerTest, DebugLinesCarryMillisecondsAfterTheStamp) {
-  start("default_component = 7\n");
-  LOG_DEBUG(vlog::kDefaultComponent, "fine detail");
-  LOG_INFO(vlog::kDefaultComponent, "plain detail");
-  const auto lines = split_lines(text());
-  ASSERT_EQ(2u, lines.size());
-  std::smatch m;
-  ASSERT_TRUE(
-      std::regex_match(lines[0], m, std::regex("(" + kStamp + R"():(\d{1,3}) \[DEBUG\]\[.*\} fine detail)")))
-      << lines[0];
-  EXPECT_LT(std::stoi(m[2].str()), 1000);
-  // Below level 7 the message follows the stamp directly.
-  EXPECT_TRUE(std::regex_match(lines[1], std::regex(kStamp + R"(\[INFO\]\[.*\} plain detail)"))) << lines[1];
-}
-
-TEST_F(LoggerTest, LineFeedIsAddedOnlyWhenMissing) {
-  start();
-  vlog::log(vlog::kDefaultLogger, vlog::kError, vlog::kDefaultComponent, "no newline %d", 1);
-  vlog::log(vlog::kDefaultLogger, vlog::kError, vlog::kDefaultComponent, "one newline %d\n", 2);
-  const std::string got = text();
-  EXPECT_THAT(got, HasSubstr("no newline 1\n"));
-  EXPECT_THAT(got, EndsWith("one newline 2\n"));
-  EXPECT_EQ(2u, split_lines(got).size());
 }
 
 TEST_F(LoggerTest, WrittenCountsUtf16UnitsAndStartsFromTheFileSize) {
@@ -140,6 +124,9 @@ class ThresholdTest : public LoggerTest, public ::testing::WithParamInterface<Th
 
 TEST_P(ThresholdTest, LinesUpToTheComponentsThresholdAreWrittenAndNoneAbove) {
   const ThresholdCase& c = GetParam();
+  // The thresholds of an earlier init must not linger.
+  start("default_component = 1\nwin_ipc = 7\nnot_listed = 7\nbogus = 7\n");
+  vlog::shutdown();
   start(c.with_settings ? kSettings : nullptr);
   EXPECT_EQ(c.threshold, vlog::threshold(c.component));
   for (const int level : {c.threshold, c.threshold + 1})
@@ -158,14 +145,6 @@ INSTANTIATE_TEST_SUITE_P(
                       ThresholdCase{"missing_component_gets_four", true, "not_listed", 4},
                       ThresholdCase{"no_file_gets_four", false, "default_component", 4}),
     [](const ::testing::TestParamInfo<ThresholdCase>& p) { return std::string(p.param.name); });
-
-TEST_F(LoggerTest, ThresholdsAreResetByTheNextInit) {
-  start("win_ipc = 7\n");
-  EXPECT_EQ(7, vlog::threshold("win_ipc"));
-  vlog::shutdown();
-  start();
-  EXPECT_EQ(4, vlog::threshold("win_ipc"));
-}
 
 TEST_F(LoggerTest, ShippedSettingsFileParsesAndRaisesNothingAboveTheDefaults) {
   // CTest names the source folder; run by hand, this file's path tells it.

@@ -34,9 +34,7 @@ class RotationTest : public ::testing::Test {
   }
   // One line long enough to rotate on its own, tagged with `id`.
   static void huge_line(int id) {
-    static const std::string padding(kRotateAt, 'p');
-    vlog::log(vlog::kDefaultLogger, vlog::kError, vlog::kDefaultComponent, "line %03d %s\n", id,
-              padding.c_str());
+    say(("line " + std::to_string(id) + " " + std::string(kRotateAt, 'p')).c_str());
   }
   // The id of the only line in the file, or -1.
   static int id_in(const std::string& file) {
@@ -81,21 +79,15 @@ TEST_P(BoundaryTest, RotatesOnceWrittenReachesTheLimit) {
   ASSERT_EQ(primed, vlog::written());
   say("ten chars");
 
-  if (c.rotates) {
-    EXPECT_EQ(0u, vlog::written());
-    ASSERT_TRUE(file_exists(numbered(0)));
-    const std::string rotated = read_log(numbered(0));
-    EXPECT_EQ(primed + line, vlog::utf16_length(rotated));
-    EXPECT_THAT(rotated, ::testing::EndsWith("ten chars\n"));
-    EXPECT_EQ("", read_log(path()));
-    // The next line goes to the fresh file.
-    say("after");
-    EXPECT_THAT(read_log(path()), ::testing::EndsWith("after\n"));
-    EXPECT_FALSE(file_exists(numbered(1)));
-  } else {
-    EXPECT_EQ(primed + line, vlog::written());
-    EXPECT_FALSE(file_exists(numbered(0)));
-  }
+  EXPECT_EQ(c.rotates ? 0u : primed + line, vlog::written());
+  ASSERT_EQ(c.rotates, file_exists(numbered(0)));
+  if (!c.rotates) return;
+  const std::string rotated = read_log(numbered(0));
+  EXPECT_EQ(primed + line, vlog::utf16_length(rotated));
+  EXPECT_THAT(rotated, ::testing::EndsWith("ten chars\n"));
+  say("after");  // goes to the fresh file
+  EXPECT_THAT(read_log(path()), ::testing::EndsWith("after\n"));
+  EXPECT_FALSE(file_exists(numbered(1)));
 }
 
 INSTANTIATE_TEST_SUITE_P(

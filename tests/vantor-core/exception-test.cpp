@@ -86,20 +86,13 @@ TEST(Stack, LinesAreNumberedDownToZeroInTheFixedFormatAndCutAtOneHundred) {
       ASSERT_TRUE(std::regex_match(stack[i], m, line)) << "[" << stack[i] << "]";
       EXPECT_EQ(stack.size() - 1 - i, std::stoul(m[1].str())) << stack[i];
     }
+#ifndef _WIN32  // (the Windows symbol handler reads no gcc debug information)
+    std::string all;
+    for (const auto& l : stack) all += l;
+    EXPECT_THAT(all, ::testing::HasSubstr("ravel::exception::"));
+    EXPECT_TRUE(depth > 5 || all.find("main") != std::string::npos) << all;
+#endif
   }
 }
-
-#ifndef _WIN32
-// Symbol names are only readable here: the Windows symbol handler reads no
-// gcc debug information.
-TEST(Stack, NamesTheFunctionsOnTheWay) {
-  std::string all;
-  deep(3, [&] {
-    for (const auto& l : rex::capture_stack()) all += l;
-  });
-  EXPECT_THAT(all, ::testing::HasSubstr("ravel::exception::capture_stack"));
-  EXPECT_THAT(all, ::testing::HasSubstr("main"));
-}
-#endif
 
 }  // namespace

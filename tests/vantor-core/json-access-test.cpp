@@ -6,6 +6,7 @@
 #include <limits>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "json-access.h"
 
@@ -85,43 +86,33 @@ TEST(JsonAccess, OnlyAJsonBoolIsABoolAndOnlyAJsonStringAString) {
   EXPECT_EQ("fb", jsonx::get_string(doc, "t", "fb"));
 }
 
-TEST(JsonAccess, WrongTypesGiveEmptyContainersOfTheAskedKind) {
-  const Json::Value doc = parsed(kDoc);
+TEST(JsonAccess, WrongTypesGiveEmptyContainersAndNonObjectsHaveNoMembers) {
+  Json::Value doc = parsed(kDoc);
   EXPECT_EQ(2u, jsonx::get_array(doc, "arr").size());
   EXPECT_EQ(1, jsonx::get_int64(jsonx::get_object(doc, "obj"), "a"));
-  for (const char* key : {"int", "str", "null", "missing"}) {
+  for (const char* key : {"int", "str", "null", "missing", "obj"})
     EXPECT_TRUE(jsonx::get_array(doc, key).isArray() && jsonx::get_array(doc, key).empty()) << key;
+  for (const char* key : {"int", "str", "null", "missing", "arr"})
     EXPECT_TRUE(jsonx::get_object(doc, key).isObject() && jsonx::get_object(doc, key).empty()) << key;
-  }
-  EXPECT_TRUE(jsonx::get_array(doc, "obj").isArray() && jsonx::get_array(doc, "obj").empty());
-  EXPECT_TRUE(jsonx::get_object(doc, "arr").isObject() && jsonx::get_object(doc, "arr").empty());
-}
-
-TEST(JsonAccess, MemberNeverInsertsAndToleratesNonObjects) {
-  Json::Value doc = parsed(kDoc);
-  const auto before = doc.size();
-  EXPECT_TRUE(jsonx::member(doc, "nothing").isNull());
-  EXPECT_FALSE(jsonx::has(doc, "nothing"));
-  EXPECT_EQ(before, doc.size());
   EXPECT_TRUE(jsonx::has(doc, "null"));  // present though null
+  EXPECT_FALSE(jsonx::has(doc, "nothing"));
+  EXPECT_TRUE(jsonx::member(doc, "nothing").isNull());
+  EXPECT_EQ(22u, doc.size());  // nothing was inserted
   for (const Json::Value& v :
        {Json::Value(3), Json::Value("s"), Json::Value(Json::arrayValue), Json::Value()}) {
-    EXPECT_TRUE(jsonx::member(v, "a").isNull());
     EXPECT_FALSE(jsonx::has(v, "a"));
     EXPECT_EQ(9, jsonx::get_int64(v, "a", 9));
   }
-  // Chained reads through missing levels stay safe.
-  EXPECT_EQ(-1, jsonx::get_int64(jsonx::get_object(jsonx::get_object(doc, "x"), "y"), "z", -1));
 }
 
 TEST(JsonParse, GarbageFailsWithoutThrowingAndResetsTheOutput) {
-  std::string nested_objects;
-  for (int i = 0; i < 50000; ++i) nested_objects += "{\"a\":";
-  nested_objects += "1" + std::string(50000, '}');
-  for (const std::string& text :
-       {std::string(), std::string("{"), std::string("{\"a\":}"), std::string("[1,,2]"), std::string("nul"),
-        std::string("{\"a\":1} trailing"), std::string("\xFF\xFE"), std::string("{'a':1}"),
-        std::string(100000, '[') + std::string(100000, ']'), nested_objects}) {
+  std::vector<std::string> texts = {"",         "{",      "{\"a\":}", "[1,,2]", "nul", "{\"a\":1} trailing",
+                                    "\xFF\xFE", "{'a':1}"};
+  texts.push_back(std::string(100000, '[') + std::string(100000, ']'));  // nesting far too deep
+  texts.emplace_back();
+  for (int i = 0; i < 50000; ++i) texts.back() += "{\"a\":";
+  texts.back() += "1" + std::string(50000, '}');
+  for (const std::string& text : texts) {
     Json::Value out(123);
     std::string error;
     EXPECT_FALSE(jsonx::parse(text, out, &error)) << text.substr(0, 20);
