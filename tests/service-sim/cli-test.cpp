@@ -125,8 +125,8 @@ struct Failure {
   const char* label;
   QStringList args;
   int code;
-  const char* message;      // in standard error
-  const char* agent_reply;  // nullptr: no agent pipe
+  const char* message;                // in standard error
+  const char* agent_reply = nullptr;  // nullptr: no agent pipe
 };
 
 class SimFailureTest : public SimCliTest, public ::testing::WithParamInterface<Failure> {};
@@ -139,61 +139,47 @@ TEST_P(SimFailureTest, ExitsNonZeroWithTheReason) {
   EXPECT_EQ(r.code, GetParam().code);
   EXPECT_THAT(r.err, ::testing::HasSubstr(GetParam().message));
   // Only an answer that came is printed.
-  EXPECT_EQ(r.out, GetParam().agent_reply != nullptr ? std::string(GetParam().agent_reply) + "\n" : "");
+  EXPECT_EQ(r.out, reply != nullptr ? std::string(reply) + "\n" : "");
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Commands, SimFailureTest,
-    ::testing::Values(
-        Failure{"NotifyWithoutType", {"notify"}, 2, "--type", nullptr},
-        Failure{
-            "NotifyBadData", {"notify", "--type", "7", "--data", "{oops"}, 2, "--data is not JSON", nullptr},
-        Failure{"SendWithoutPipe", {"send", "{}"}, 2, "--pipe", nullptr},
-        Failure{"SendTwoMessages", {"send", "--pipe", "agent", "{}", "{}"}, 2, "exactly one JSON", nullptr},
-        Failure{"UnknownCommand", {"explode"}, 2, "unknown command", nullptr},
-        Failure{"UnknownOption", {"serve", "--colour", "red"}, 2, "--colour", nullptr},
-        Failure{"BadPort", {"serve", "--port", "99999"}, 2, "--port", nullptr},
-        Failure{
-            "BadScenario", {"serve", "--scenario", "/nonexistent/x.json"}, 2, "/nonexistent/x.json", nullptr},
-        Failure{"SendToAbsentPipe", {"send", "--pipe", "service", "{}"}, 1, "cannot connect", nullptr},
-        Failure{"NotifyRefusedByAgent", {"notify", "--type", "8"}, 3, "", "{\"success\":false}"}),
+    ::testing::ValuesIn(std::vector<Failure>{
+        {"NotifyWithoutType", {"notify"}, 2, "--type"},
+        {"NotifyBadData", {"notify", "--type", "7", "--data", "{oops"}, 2, "--data is not JSON"},
+        {"SendWithoutPipe", {"send", "{}"}, 2, "--pipe"},
+        {"SendTwoMessages", {"send", "--pipe", "agent", "{}", "{}"}, 2, "exactly one JSON"},
+        {"UnknownCommand", {"explode"}, 2, "unknown command"},
+        {"UnknownOption", {"serve", "--colour", "red"}, 2, "--colour"},
+        {"BadPort", {"serve", "--port", "99999"}, 2, "--port"},
+        {"BadScenario",
+         {"serve", "--scenario", "/nonexistent/x.json"},
+         2,
+         "/nonexistent/x.json: cannot be opened"},
+        {"SendToAbsentPipe", {"send", "--pipe", "service", "{}"}, 1, "cannot connect"},
+        {"NotifyRefusedByAgent", {"notify", "--type", "8"}, 3, "", "{\"success\":false}"}}),
     [](const auto& test_case) { return std::string(test_case.param.label); });
 
-class Served {
- public:
-  explicit Served(const QStringList& args) {
-    process_.start(sim_binary(), QStringList{"serve"} + args);
-    ok_ = process_.waitForStarted(5000) &&
-          QTest::qWaitFor(
-              [this] { return process_.canReadLine() || process_.state() == QProcess::NotRunning; }, 10000) &&
-          process_.readLine().startsWith("ready pipe=");
-  }
-  ~Served() {
-    if (process_.state() != QProcess::NotRunning) {
-      process_.kill();
-      process_.waitForFinished(5000);
-    }
-  }
-  bool ok() const { return ok_; }
-  // Sends `signo`, then the exit code (-1 when it did not end cleanly in time).
-  int terminate(int signo) {
-    ::kill(static_cast<pid_t>(process_.processId()), signo);
-    if (!process_.waitForFinished(5000) || process_.exitStatus() != QProcess::NormalExit) return -1;
-    return process_.exitCode();
-  }
-
- private:
-  QProcess process_;
-  bool ok_ = false;
-};
-
-Json::Value get_status() {
-  const sim::Exchange ex = sim::exchange(WinIpc::kServicePipe, "{\"action\":\"get_status\",\"log_id\":0}");
-  EXPECT_TRUE(ex.ok) << ex.error;
-  return parse(ex.answer);
+// Starts `serve` with `args`; true once it printed its "ready" line.
+bool serve(QProcess& p, const QStringList& args) {
+  p.start(sim_binary(), QStringList{"serve"} + args);
+  return p.waitForStarted(5000) &&
+         QTest::qWaitFor([&] { return p.canReadLine() || p.state() == QProcess::NotRunning; }, 10000) &&
+         p.readLine().startsWith("ready pipe=");
 }
 
-std::uint64_t last_log_id(const Json::Value& status) {
+// Sends `signo`, then the exit code (-1 when it did not end cleanly in time).
+int terminate(QProcess& p, int signo) {
+  ::kill(static_cast<pid_t>(p.processId()), signo);
+  if (!p.waitForFinished(5000) || p.exitStatus() != QProcess::NormalExit) return -1;
+  return p.exitCode();
+}
+
+// get_status from the served pipe, and the id of its newest log entry.
+std::uint64_t last_log_id(Json::Value& status) {
+  const sim::Exchange ex = sim::exchange(WinIpc::kServicePipe, "{\"action\":\"get_status\",\"log_id\":0}");
+  EXPECT_TRUE(ex.ok) << ex.error;
+  status = parse(ex.answer);
   const Json::Value& logs = jsonx::get_array(simtest::at(status, "content"), "logs");
   EXPECT_FALSE(logs.empty());
   return logs.empty() ? 0 : jsonx::get_uint64(logs[logs.size() - 1], "id");
@@ -214,9 +200,10 @@ TEST_F(SimCliTest, ServeRunsTheScenarioPushesNotificationsAndResumesAfterRestart
                          "--record",   QString::fromStdString(dir_.file("rec.jsonl")),
                          "--tick-ms",  "20"};
   std::uint64_t log_id = 0;
+  Json::Value status;
   {
-    Served serve(args);
-    ASSERT_TRUE(serve.ok());
+    QProcess first;
+    ASSERT_TRUE(serve(first, args));
     // The backup ends within a second: type 7, and 80% -> 90% crosses 85%: type 8.
     const auto got = agent.take(2);
     ASSERT_EQ(got.size(), 2u);
@@ -225,11 +212,10 @@ TEST_F(SimCliTest, ServeRunsTheScenarioPushesNotificationsAndResumesAfterRestart
     ASSERT_TRUE(QTest::qWaitFor(
         [&] { return nimbra_test::read_file(dir_.file("ws") + "/service-status") == "update_error\n"; },
         10000));
-    const Json::Value status = get_status();
-    EXPECT_EQ(num(status, "status"), 0x2001);
     log_id = last_log_id(status);
+    EXPECT_EQ(num(status, "status"), 0x2001);
     // SIGINT ends serving cleanly and frees the pipe for the next run.
-    EXPECT_EQ(serve.terminate(SIGINT), 0);
+    EXPECT_EQ(terminate(first, SIGINT), 0);
   }
   // The record file holds the request with its time.
   EXPECT_THAT(nimbra_test::read_file(dir_.file("rec.jsonl")),
@@ -237,12 +223,11 @@ TEST_F(SimCliTest, ServeRunsTheScenarioPushesNotificationsAndResumesAfterRestart
   // The second run plays a scenario without the automatic backup, so the
   // figures it reports are those kept from the first run.
   nimbra_test::write_file(dir_.file("quick.json"), R"({"device": {"linked": false, "quota": 10000}})");
-  Served again(args);
-  ASSERT_TRUE(again.ok());
-  const Json::Value status = get_status();
+  QProcess again;
+  ASSERT_TRUE(serve(again, args));
   EXPECT_GE(last_log_id(status), log_id);
   EXPECT_EQ(num(status, "content/billing/used_bytes"), 9000);
-  EXPECT_EQ(again.terminate(SIGTERM), 0);
+  EXPECT_EQ(terminate(again, SIGTERM), 0);
 }
 
 }  // namespace

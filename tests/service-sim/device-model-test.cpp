@@ -156,78 +156,61 @@ TEST_F(SimModelTest, TokensAreAcceptedOnlyWhenIssuedAndOnlyOnce) {
   EXPECT_TRUE(m->linked());
 }
 
-struct OutcomeCase {
-  sim::BackupOutcome outcome;
-  int status_code;
+struct BackupCase {
+  const char* label;
+  sim::BackupOutcome outcome;  // stopping at 40% when it fails or is cancelled
+  std::uint64_t used_before;   // of a 10,000-byte quota; a whole backup uploads 500
+  int result;
   int result_event;
-  std::uint64_t bytes_read;  // of 1000
+  std::uint64_t used_after;
+  std::vector<int> pushed_types;
 };
 
-class SimOutcomeTest : public SimModelTest, public ::testing::WithParamInterface<OutcomeCase> {};
+class SimBackupTest : public SimModelTest, public ::testing::WithParamInterface<BackupCase> {};
 
-TEST_P(SimOutcomeTest, ResultCodeEventsAndProgress) {
+TEST_P(SimBackupTest, ResultEventsUsageAndNotifications) {
   sim::Scenario s = simtest::quick_scenario(true);
   s.backup.outcome = GetParam().outcome;
   s.backup.stop_at = 0.4;
-  auto m = make(s);
-  m->handle(request("backup_now"));
-  run_for(*m, 10000);
-  const Json::Value status = get_status(*m);
-  EXPECT_EQ(last_result(status), GetParam().status_code);
-  const std::vector<int> types = log_types(status);
-  ASSERT_FALSE(types.empty());
-  EXPECT_EQ(types.front(), 1101);
-  EXPECT_EQ(types.back(), GetParam().result_event);
-  // Every event is one the agent can render (no unknown types).
-  const std::set<int> known{1101, 1102, 1103, 1104, 1108, 7001, 7002, 7003, 7004,
-                            7009, 7010, 7012, 7013, 7014, 7096, 7097, 8014};
-  for (int type : types) EXPECT_TRUE(known.count(type)) << type;
-  EXPECT_EQ(m->used_bytes(), GetParam().bytes_read / 2);
-  std::vector<Json::Value> data;
-  EXPECT_THAT(pushed_types(*m, data), ElementsAre(7));
-  EXPECT_EQ(num(data[0], "status"), GetParam().status_code);
-}
-
-INSTANTIATE_TEST_SUITE_P(Outcomes, SimOutcomeTest,
-                         ::testing::Values(OutcomeCase{sim::BackupOutcome::kSuccess, 2, 1102, 1000},
-                                           OutcomeCase{sim::BackupOutcome::kPartial, 3, 1108, 1000},
-                                           OutcomeCase{sim::BackupOutcome::kFailed, 4, 1104, 400},
-                                           OutcomeCase{sim::BackupOutcome::kCancelled, 5, 1103, 400}));
-
-struct QuotaCase {
-  std::uint64_t used_before;  // of a 10,000-byte quota; the backup uploads 500
-  std::vector<int> pushed_types;
-  int result;
-  std::uint64_t used_after;
-};
-
-class SimQuotaTest : public SimModelTest, public ::testing::WithParamInterface<QuotaCase> {};
-
-TEST_P(SimQuotaTest, CrossingEightyFiveAndNinetyFivePercentIsPushedAFullQuotaStops) {
-  sim::Scenario s = simtest::quick_scenario(true);
   s.quota = 10000;
   s.used_bytes = GetParam().used_before;
   auto m = make(s);
   m->handle(request("backup_now"));
-  run_for(*m, 6000);
-  std::vector<Json::Value> data;
-  EXPECT_EQ(pushed_types(*m, data), GetParam().pushed_types);
-  for (std::size_t i = 1; i < data.size(); ++i) EXPECT_EQ(num(data[i], "total_size"), 10000);
+  run_for(*m, 10000);
   const Json::Value status = get_status(*m);
   EXPECT_EQ(last_result(status), GetParam().result);
   EXPECT_EQ(m->used_bytes(), GetParam().used_after);
   const std::vector<int> types = log_types(status);
-  EXPECT_EQ(std::count(types.begin(), types.end(), 8014) > 0, GetParam().result == 4);  // quota full
+  ASSERT_FALSE(types.empty());
+  EXPECT_EQ(types.front(), 1101);
+  EXPECT_EQ(types.back(), GetParam().result_event);
+  // Every event is one the agent can render (no unknown types); 8014 when the quota is full.
+  const std::set<int> known{1101, 1102, 1103, 1104, 1108, 7001, 7002, 7003, 7004,
+                            7009, 7010, 7012, 7013, 7014, 7096, 7097, 8014};
+  for (int type : types) EXPECT_TRUE(known.count(type)) << type;
+  EXPECT_EQ(std::count(types.begin(), types.end(), 8014) > 0,
+            GetParam().used_after == 10000 && GetParam().result == 4);
+  std::vector<Json::Value> data;
+  EXPECT_EQ(pushed_types(*m, data), GetParam().pushed_types);
+  EXPECT_EQ(num(data.at(0), "status"), GetParam().result);
+  for (std::size_t i = 1; i < data.size(); ++i) EXPECT_EQ(num(data[i], "total_size"), 10000);
 }
 
-INSTANTIATE_TEST_SUITE_P(Thresholds, SimQuotaTest,
-                         ::testing::Values(QuotaCase{7000, {7}, 2, 7500},     // 70% -> 75%
-                                           QuotaCase{8000, {7, 8}, 2, 8500},  // 80% -> 85% exactly
-                                           QuotaCase{8500, {7}, 2, 9000},     // already past 85%
-                                           QuotaCase{9100, {7, 9}, 2, 9600},  // 91% -> 96%
-                                           QuotaCase{8499, {7, 8}, 2, 8999},  // 84.99% -> 89.99%
-                                           QuotaCase{9500, {7}, 2, 10000},    // already past 95%
-                                           QuotaCase{9900, {7}, 4, 10000}));  // room for 100 of 500
+using sim::BackupOutcome;
+INSTANTIATE_TEST_SUITE_P(Cases, SimBackupTest,
+                         ::testing::ValuesIn(std::vector<BackupCase>{
+                             {"Success", BackupOutcome::kSuccess, 0, 2, 1102, 500, {7}},
+                             {"Partial", BackupOutcome::kPartial, 0, 3, 1108, 500, {7}},
+                             {"Failed", BackupOutcome::kFailed, 0, 4, 1104, 200, {7}},
+                             {"Cancelled", BackupOutcome::kCancelled, 0, 5, 1103, 200, {7}},
+                             {"Used70To75", BackupOutcome::kSuccess, 7000, 2, 1102, 7500, {7}},
+                             {"Used80To85Exactly", BackupOutcome::kSuccess, 8000, 2, 1102, 8500, {7, 8}},
+                             {"Used84_99To89_99", BackupOutcome::kSuccess, 8499, 2, 1102, 8999, {7, 8}},
+                             {"AlreadyPast85", BackupOutcome::kSuccess, 8500, 2, 1102, 9000, {7}},
+                             {"Used91To96", BackupOutcome::kSuccess, 9100, 2, 1102, 9600, {7, 9}},
+                             {"AlreadyPast95", BackupOutcome::kSuccess, 9500, 2, 1102, 10000, {7}},
+                             {"QuotaFull", BackupOutcome::kSuccess, 9900, 4, 1104, 10000, {7}}}),
+                         [](const auto& test_case) { return std::string(test_case.param.label); });
 
 TEST_F(SimModelTest, LogsAreOnlyThoseAboveLogIdAndAtMostHundred) {
   sim::Scenario s = simtest::quick_scenario(true);

@@ -119,14 +119,6 @@ INSTANTIATE_TEST_SUITE_P(Shipped, SimEveryScenarioTest, ::testing::ValuesIn(ship
                            return name;
                          });
 
-TEST(SimScenarios, MissingFileIsNamed) {
-  sim::Scenario s;
-  std::string error;
-  EXPECT_FALSE(sim::load_scenario("/nonexistent/x.json", s, error));
-  EXPECT_THAT(error, ::testing::HasSubstr("/nonexistent/x.json"));
-  EXPECT_THAT(error, ::testing::HasSubstr("cannot be opened"));
-}
-
 struct BadScenario {
   const char* label;
   const char* text;

@@ -45,14 +45,10 @@ inline const Json::Value& at(const Json::Value& v, const std::string& path) {
 }
 // The integer / string at such a path (0 / "" when absent or mistyped).
 inline std::int64_t num(const Json::Value& v, const std::string& path) {
-  const std::size_t slash = path.rfind('/');
-  if (slash == std::string::npos) return jsonx::get_int64(v, path.c_str());
-  return jsonx::get_int64(at(v, path.substr(0, slash)), path.substr(slash + 1).c_str());
+  return jsonx::to_int64(at(v, path));
 }
 inline std::string str(const Json::Value& v, const std::string& path) {
-  const std::size_t slash = path.rfind('/');
-  if (slash == std::string::npos) return jsonx::get_string(v, path.c_str());
-  return jsonx::get_string(at(v, path.substr(0, slash)), path.substr(slash + 1).c_str());
+  return jsonx::to_string(at(v, path));
 }
 
 // A unique pipe namespace for one test, so parallel runs never meet.
