@@ -69,7 +69,8 @@ INSTANTIATE_TEST_SUITE_P(
                       NumberRow{"str", no, no, no, no, no}, NumberRow{"empty", no, no, no, no, no},
                       NumberRow{"t", no, no, no, no, no}, NumberRow{"f", no, no, no, no, no},
                       NumberRow{"null", no, no, no, no, no}, NumberRow{"arr", no, no, no, no, no},
-                      NumberRow{"obj", no, no, no, no, no}, NumberRow{"missing", no, no, no, no, no}));
+                      NumberRow{"obj", no, no, no, no, no}, NumberRow{"missing", no, no, no, no, no}),
+    [](const ::testing::TestParamInfo<NumberRow>& p) { return std::string(p.param.key); });
 
 TEST(JsonAccess, OnlyAJsonBoolIsABoolAndOnlyAJsonStringAString) {
   const Json::Value doc = parsed(kDoc);
