@@ -12,10 +12,7 @@
 #include "single-application.h"
 
 int main(int argc, char** argv) {
-  if (argc < 3) {
-    std::fprintf(stderr, "usage: %s second|primary|hold-lock NAME [message]\n", argv[0]);
-    return 2;
-  }
+  if (argc < 3) return 2;
   const char* mode = argv[1];
   if (std::strcmp(mode, "hold-lock") == 0) {
     MachineLock lock(argv[2]);

@@ -90,20 +90,6 @@ TEST_F(WidgetsSheets, DefaultButtonsByTypeUseInstalledWordsAndCanBeReplaced) {
   EXPECT_EQ(notice.exec(), QMessageBox::Cancel);
 }
 
-TEST_F(WidgetsSheets, SheetIsCentredOverItsParent) {
-  VellMessageSheet sheet(1, &window_, true);
-  sheet.setFixedSize(480, 184);
-  whileUp([&] {
-    EXPECT_EQ(sheet.parentWidget(), &window_);
-    window_.resize(800, 500);
-    QApplication::processEvents();
-    EXPECT_NEAR(sheet.geometry().center().x(), window_.rect().center().x(), 1);
-    EXPECT_NEAR(sheet.geometry().center().y(), window_.rect().center().y(), 1);
-    sheet.quit();
-  });
-  sheet.exec();
-}
-
 TEST_F(WidgetsSheets, WarningBoxIsAWindowOfItsOwnAndReturnsTheButton) {
   widgets_test::LogCapture log;
   whileUp([] {
@@ -122,8 +108,9 @@ TEST_F(WidgetsSheets, WarningBoxIsAWindowOfItsOwnAndReturnsTheButton) {
 
 using WidgetsMasks = WidgetsSheets;
 
-TEST_F(WidgetsMasks, CoversTheWidgetAndFollowsItsSize) {
+TEST_F(WidgetsMasks, CoversTheWidgetAndBothFollowItsSize) {
   VellMessageSheet sheet(1, &window_, true);
+  sheet.setFixedSize(480, 184);
   VellMask* mask = VellMask::createMask(&sheet, &window_, QColor(0, 0, 0, 20));
   ASSERT_NE(mask, nullptr);
   EXPECT_FALSE(mask->isVisible());  // not before the sheet is up
@@ -133,6 +120,8 @@ TEST_F(WidgetsMasks, CoversTheWidgetAndFollowsItsSize) {
     window_.resize(777, 333);
     QApplication::processEvents();
     EXPECT_EQ(mask->geometry(), QRect(0, 0, 777, 333));
+    EXPECT_NEAR(sheet.geometry().center().x(), window_.rect().center().x(), 1);  // the sheet stays centred
+    EXPECT_NEAR(sheet.geometry().center().y(), window_.rect().center().y(), 1);
     // It takes the clicks meant for what lies under it, and the sheet stays above it.
     EXPECT_NE(qobject_cast<VellMask*>(window_.childAt(1, 1)), nullptr);
     const QObjectList& kids = window_.children();
@@ -143,8 +132,12 @@ TEST_F(WidgetsMasks, CoversTheWidgetAndFollowsItsSize) {
   EXPECT_FALSE(mask->isVisible());
 }
 
-TEST_F(WidgetsMasks, OneMaskPerSheetAndItGoesWithTheSheet) {
+TEST_F(WidgetsMasks, OneMaskPerSheetNoneWithoutBothAndItGoesWithTheSheet) {
   auto* sheet = new VellMessageSheet(1, &window_, true);
+  widgets_test::LogCapture log;
+  EXPECT_EQ(VellMask::createMask(nullptr, &window_, Qt::black), nullptr);
+  EXPECT_EQ(VellMask::createMask(sheet, nullptr, Qt::black), nullptr);
+  EXPECT_NE(log.text().find("cannot create a mask"), std::string::npos);
   QPointer<VellMask> first = VellMask::createMask(sheet, &window_, QColor(0, 0, 0, 20));
   VellMask* again = VellMask::createMask(sheet, &window_, QColor(0, 0, 0, 60));
   EXPECT_EQ(first.data(), again);
@@ -153,14 +146,6 @@ TEST_F(WidgetsMasks, OneMaskPerSheetAndItGoesWithTheSheet) {
   delete sheet;
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   EXPECT_TRUE(first.isNull());
-}
-
-TEST_F(WidgetsMasks, NullArgumentsGiveNoMask) {
-  widgets_test::LogCapture log;
-  VellMessageSheet sheet(1, &window_, true);
-  EXPECT_EQ(VellMask::createMask(nullptr, &window_, Qt::black), nullptr);
-  EXPECT_EQ(VellMask::createMask(&sheet, nullptr, Qt::black), nullptr);
-  EXPECT_NE(log.text().find("cannot create a mask"), std::string::npos);
 }
 
 }  // namespace
