@@ -79,17 +79,6 @@ TEST_F(LoggerTest, LinesHaveTheFixedForm) {
   EXPECT_STREQ("", vlog::base_name("folder/"));
 }
 
-TEST_F(LoggerTest, WrittenCountsUtf16UnitsAndStartsFromTheFileSize) {
-  nimbra_test::write_file(log_file(), std::string(1234, 'x'));
-  start();
-  EXPECT_EQ(1234u, vlog::written());
-  // Characters of two, three and four UTF-8 bytes; the last takes two UTF-16 units.
-  LOG_ERROR(vlog::kDefaultComponent, "%s", "\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80");
-  const std::string line = text().substr(1234);
-  EXPECT_EQ(line.size() - 9 + 4, vlog::utf16_length(line));
-  EXPECT_EQ(1234u + line.size() - 9 + 4, vlog::written());
-}
-
 TEST_F(LoggerTest, NothingIsWrittenBeforeInitOrAfterAFailedInit) {
   vlog::log("NEVER-INITIALISED", vlog::kError, vlog::kDefaultComponent, "dropped %d", 1);
   const std::string missing = dir.file("no/such/folder/ui.txt");

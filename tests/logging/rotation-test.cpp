@@ -58,33 +58,40 @@ struct BoundaryCase {
   bool rotates;
 };
 
+// Ten characters with the line feed, in UTF-16 units: "ten c", then three
+// characters of 2, 3 and 4 UTF-8 bytes (1, 1 and 2 units).
+constexpr const char* kText = "ten c\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80";
+
 class BoundaryTest : public RotationTest, public ::testing::WithParamInterface<BoundaryCase> {};
 
 TEST_P(BoundaryTest, RotatesOnceWrittenReachesTheLimit) {
   const BoundaryCase& c = GetParam();
-  // Measure one line (stamp and message) in a file of its own; a new Windows
-  // text file may start with a byte-order mark.
+  // Measure one line in a file of its own (a new Windows text file may start
+  // with a byte-order mark); `written` counts UTF-16 units, not bytes.
   TempDir probe_dir;
   ASSERT_EQ(0, vlog::init(vlog::kRotatingFile, wide(probe_dir.file("probe.txt")), L"", "", 50, 1));
   const std::uint32_t empty = vlog::written();
-  say("ten chars");
+  say(kText);
   const std::uint32_t line = vlog::written() - empty;
   vlog::shutdown();
+  const std::string probe = read_log(probe_dir.file("probe.txt"));
   ASSERT_GE(line, 10u);
+  EXPECT_EQ(probe.size() - 9 + 4, line);
+  EXPECT_EQ(line, vlog::utf16_length(probe));
 
   const std::uint32_t primed =
       c.absolute ? c.absolute : static_cast<std::uint32_t>(static_cast<long>(kRotateAt - line) + c.delta);
   nimbra_test::write_file(path(), std::string(primed, 'o'));
   start(50);
   ASSERT_EQ(primed, vlog::written());
-  say("ten chars");
+  say(kText);
 
   EXPECT_EQ(c.rotates ? 0u : primed + line, vlog::written());
   ASSERT_EQ(c.rotates, file_exists(numbered(0)));
   if (!c.rotates) return;
   const std::string rotated = read_log(numbered(0));
   EXPECT_EQ(primed + line, vlog::utf16_length(rotated));
-  EXPECT_THAT(rotated, ::testing::EndsWith("ten chars\n"));
+  EXPECT_THAT(rotated, ::testing::EndsWith(std::string(kText) + "\n"));
   say("after");  // goes to the fresh file
   EXPECT_THAT(read_log(path()), ::testing::EndsWith("after\n"));
   EXPECT_FALSE(file_exists(numbered(1)));
