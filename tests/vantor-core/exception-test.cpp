@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <functional>
 #include <regex>
 #include <string>
@@ -14,30 +15,41 @@ namespace rex = ravel::exception;
 
 namespace {
 
-class RaiseClassTest : public ::testing::TestWithParam<std::pair<int, std::type_index>> {};
+struct ClassRow {
+  int code;
+  std::type_index type;
+  const char* name;
+};
+
+class RaiseClassTest : public ::testing::TestWithParam<ClassRow> {};
 
 TEST_P(RaiseClassTest, CodeSelectsTheClass) {
-  const int code = GetParam().first;
+  const int code = GetParam().code;
   try {
     rex::raise(code, "code %d", code);
     FAIL() << "raise returned";
   } catch (const rex::Exception& e) {
-    EXPECT_EQ(GetParam().second, std::type_index(typeid(e))) << "got " << typeid(e).name();
+    EXPECT_EQ(GetParam().type, std::type_index(typeid(e))) << "got " << typeid(e).name();
     EXPECT_EQ(code, e.code);
     EXPECT_EQ("code " + std::to_string(code), e.what());
   }
 }
 
-#define ROW(code, cls) std::make_pair(code, std::type_index(typeid(rex::cls)))
-INSTANTIATE_TEST_SUITE_P(Table, RaiseClassTest,
-                         ::testing::Values(ROW(1, NoPerm), ROW(13, NoPerm), ROW(2, FileNotExist),
-                                           ROW(5, IOError), ROW(6, NoSuchAddress), ROW(10, NotFound),
-                                           ROW(16, ResourceBusy), ROW(17, FileExist), ROW(20, NotDir),
-                                           ROW(28, NoSpace), ROW(30, FsReadonly), ROW(32, Disconnect),
-                                           ROW(107, Disconnect), ROW(108, Disconnect), ROW(140, Locked),
-                                           ROW(0, Exception), ROW(99, Exception), ROW(-1, Exception),
-                                           ROW(3, Exception), ROW(11, Exception), ROW(40, Exception),
-                                           ROW(141, Exception)));
+#define ROW(code, cls)                            \
+  ClassRow {                                      \
+    code, std::type_index(typeid(rex::cls)), #cls \
+  }
+INSTANTIATE_TEST_SUITE_P(
+    Table, RaiseClassTest,
+    ::testing::Values(ROW(1, NoPerm), ROW(13, NoPerm), ROW(2, FileNotExist), ROW(5, IOError),
+                      ROW(6, NoSuchAddress), ROW(10, NotFound), ROW(16, ResourceBusy), ROW(17, FileExist),
+                      ROW(20, NotDir), ROW(28, NoSpace), ROW(30, FsReadonly), ROW(32, Disconnect),
+                      ROW(107, Disconnect), ROW(108, Disconnect), ROW(140, Locked), ROW(0, Exception),
+                      ROW(99, Exception), ROW(-1, Exception), ROW(3, Exception), ROW(11, Exception),
+                      ROW(40, Exception), ROW(141, Exception)),
+    [](const ::testing::TestParamInfo<ClassRow>& p) {
+      return (p.param.code < 0 ? "minus" : "") + std::to_string(std::abs(p.param.code)) + "_" + p.param.name;
+    });
 #undef ROW
 
 // Around any first buffer size and far beyond it; the arguments after the long
