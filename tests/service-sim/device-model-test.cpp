@@ -1,5 +1,6 @@
 // The device model: sign-in, linking, backups and their results, quota
-// notifications, the state file across restarts, hostile requests.
+// notifications, the state file across restarts. (Hostile requests go
+// through the pipe in pipe-service-test.cpp.)
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -277,31 +278,6 @@ TEST_F(SimModelTest, UnreadableStateFileIsSetAsideNotLost) {
   EXPECT_EQ(nimbra_test::read_file(state + "/sim-state.json.bad"), "{ broken");
   EXPECT_TRUE(nimbra_test::file_exists(state + "/sim-state.json"));
 }
-
-struct BadRequest {
-  const char* label;
-  const char* json;
-};
-
-class SimHostileRequestTest : public SimModelTest, public ::testing::WithParamInterface<BadRequest> {};
-
-TEST_P(SimHostileRequestTest, AnsweredWithAnErrorAndTheModelGoesOn) {
-  auto m = make(simtest::quick_scenario(true));
-  const Json::Value answer = m->handle(simtest::parse(GetParam().json));
-  EXPECT_TRUE(jsonx::has(answer, "error")) << jsonx::compact(answer);
-  EXPECT_EQ(num(get_status(*m), "status"), st::kIdle);
-}
-
-INSTANTIATE_TEST_SUITE_P(Requests, SimHostileRequestTest,
-                         ::testing::ValuesIn(std::vector<BadRequest>{
-                             {"NotAnObject", "[1,2]"},
-                             {"NoAction", R"({"log_id":1})"},
-                             {"ActionNumber", R"({"action":7})"},
-                             {"UnknownAction", R"({"action":"format_disk"})"},
-                             {"BandwidthString", R"({"action":"set_bandwidth_control","bandwidth":"fast"})"},
-                             {"PortalUnknown", R"({"action":"get_portal_link","subaction":"admin"})"},
-                             {"PortalWrongType", R"({"action":"get_portal_link","subaction":["help"]})"}}),
-                         [](const auto& test_case) { return std::string(test_case.param.label); });
 
 TEST_F(SimModelTest, ScenarioErrorsApplyTheGivenNumberOfTimes) {
   sim::Scenario s = simtest::quick_scenario(false);

@@ -49,7 +49,11 @@ class SimPipeTest : public ::testing::Test {
 
 TEST_F(SimPipeTest, GarbageAndUnknownActionsGetErrorsAndServingGoesOn) {
   start();
-  for (const char* bad : {"this is not json", "{\"action\":\"reboot\"}", "[]", "{\"action\":null}", ""}) {
+  for (const char* bad :
+       {"this is not json", "", "[1,2]", R"({"log_id":1})", R"({"action":null})", R"({"action":7})",
+        R"({"action":"reboot"})", R"({"action":"set_bandwidth_control","bandwidth":"fast"})",
+        R"({"action":"get_portal_link","subaction":"admin"})",
+        R"({"action":"get_portal_link","subaction":["help"]})"}) {
     const sim::Exchange ex = send(bad);
     ASSERT_TRUE(ex.ok) << bad << ": " << ex.error;
     EXPECT_EQ(simtest::num(parse(ex.answer), "error/code"), 4) << bad << " -> " << ex.answer;
