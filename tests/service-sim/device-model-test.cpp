@@ -281,11 +281,7 @@ TEST_F(SimModelTest, UnreadableStateFileIsSetAsideNotLost) {
 
 TEST_F(SimModelTest, ScenarioErrorsApplyTheGivenNumberOfTimes) {
   sim::Scenario s = simtest::quick_scenario(false);
-  sim::ErrorRule rule;
-  rule.code = 17;
-  rule.base_url = "https://console.example/key";
-  rule.times = 1;
-  s.errors["get_auth"] = rule;
+  s.errors["get_auth"] = sim::ErrorRule{17, "https://console.example/key", 1};  // code, base_url, times
   auto m = make(s);
   m->set_signin_url("http://127.0.0.1:9/signin");
   const Json::Value first = m->handle(request("get_auth"));
@@ -314,8 +310,7 @@ TEST_F(SimModelTest, UpgradeWritesServiceStatus) {
 
 TEST_F(SimModelTest, DatedScheduleAndAutomaticBackupStartOnTime) {
   sim::Scenario s = simtest::quick_scenario(true);
-  s.schedule = Json::Value(Json::objectValue);
-  s.schedule["next_backup_in_seconds"] = 10;
+  s.schedule = simtest::parse(R"({"next_backup_in_seconds":10})");
   auto m = make(s);
   const std::int64_t start_s = clock_.now / 1000;
   const Json::Value before = get_status(*m);
@@ -354,7 +349,7 @@ TEST_P(SimIdleStatusTest, StatusAndContentMembers) {
   sim::Scenario s = simtest::quick_scenario(true);
   s.connected = GetParam().connected;
   if (GetParam().error_code != 0) s.status_error["code"] = static_cast<Json::Int64>(GetParam().error_code);
-  s.schedule = Json::Value(Json::objectValue);
+  s.schedule = Json::Value(Json::objectValue);  // replaces the default schedule
   s.schedule["schedule_type"] = GetParam().schedule_type;
   auto m = make(s);
   const Json::Value v = get_status(*m);
