@@ -36,8 +36,8 @@ class SimPipeTest : public ::testing::Test {
   void TearDown() override {
     if (service_) service_->stop();
   }
-  static sim::Exchange send(const std::string& text = "{\"action\":\"get_status\"}") {
-    return sim::exchange(WinIpc::kServicePipe, text, 2000);
+  static sim::Exchange send(const std::string& text = R"({"action":"get_status"})", int timeout_ms = 2000) {
+    return sim::exchange(WinIpc::kServicePipe, text, timeout_ms);
   }
 
   nimbra_test::TempDir dir_;
@@ -122,15 +122,14 @@ TEST_F(SimPipeTest, LateAnswerIsAbandonedOnStop) {
   EXPECT_EQ(service_->answered(), 0u);
 }
 
-TEST_F(SimPipeTest, ManyClientsWhileTheModelMoves) {
+TEST_F(SimPipeTest, ManyClientsWhileTheModelMovesAndASecondServiceIsRefused) {
   start();
   model_->handle(request("backup_now"));
   std::atomic<bool> done{false};
   std::thread mover([&] {
-    while (!done) {
+    for (; !done; std::this_thread::yield()) {
       clock_.advance_ms(10);
       model_->advance();
-      std::this_thread::yield();
     }
   });
   std::atomic<int> good{0};
@@ -138,26 +137,20 @@ TEST_F(SimPipeTest, ManyClientsWhileTheModelMoves) {
   for (int c = 0; c < 4; ++c) {
     clients.emplace_back([&] {
       for (int i = 0; i < 40; ++i) {
-        const sim::Exchange ex =
-            sim::exchange(WinIpc::kServicePipe, jsonx::compact(request("get_status")), 5000);
-        Json::Value v;
-        if (ex.ok && jsonx::parse(ex.answer, v) && jsonx::has(v, "status")) ++good;
+        const sim::Exchange ex = send(R"({"action":"get_status"})", 5000);
+        good += ex.ok && jsonx::has(parse(ex.answer), "status") ? 1 : 0;
       }
     });
   }
+  // Meanwhile a second service on the same name is refused, naming the way out.
+  sim::PipeService second(*model_, {});
+  std::string error;
+  EXPECT_FALSE(second.start(error));
+  EXPECT_THAT(error, ::testing::HasSubstr("NIMBRA_PIPE_NAMESPACE"));
   for (auto& t : clients) t.join();
   done = true;
   mover.join();
   EXPECT_EQ(good.load(), 160);
-}
-
-TEST_F(SimPipeTest, SecondServiceOnTheSameNameIsRefused) {
-  start();
-  sim::DeviceModel other(simtest::quick_scenario(true), std::string(), std::string());
-  sim::PipeService second(other, {});
-  std::string error;
-  EXPECT_FALSE(second.start(error));
-  EXPECT_THAT(error, ::testing::HasSubstr("NIMBRA_PIPE_NAMESPACE"));
 }
 
 }  // namespace
