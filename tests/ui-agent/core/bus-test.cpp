@@ -1,8 +1,7 @@
-// The signal bus and the value types it carries.
+// The signal bus, the value types it carries, ConnectionInfo filling and the
+// status store.
 
 #include <gtest/gtest.h>
-
-#include <ostream>
 
 #include <QGuiApplication>
 #include <QMetaMethod>
@@ -13,108 +12,64 @@
 #include <thread>
 #include <vector>
 
+#include "agent-test.h"
+#include "core/connection-info.h"
 #include "core/global-connecter.h"
 #include "core/service-status.h"
+#include "core/status-store.h"
 #include "core/tray-status.h"
 #include "json-access.h"
 
+using agent_test::parse;
+
 namespace {
 
-// --- the signal table ---------------------------------------------------------
-
-struct SignalRow {
-  int index;
-  const char* signature;  // normalised
-};
-
-std::ostream& operator<<(std::ostream& os, const SignalRow& v) {
-  return os << v.signature;
-}
-
-class BusSignalTest : public ::testing::TestWithParam<SignalRow> {};
-
-TEST_P(BusSignalTest, SignalSitsAtItsPlaceWithItsSignature) {
+TEST(Bus, HoldsExactlyTheSignalTableInOrder) {
+  const QStringList table =
+      QStringLiteral(
+          "sigPositionClicked(QPoint)|sigShowAboutWindow()|sigRestorePortal()|sigWebConsole()|sigOpenHelp()|"
+          "sigUpdateQuota()|sigGetConnectionInfo()|sigConnectServer(ConnectionInfo)|"
+          "sigQueryService(const QObject*,Json::Value)|sigQueryServiceDone(const QObject*,Json::Value)|"
+          "sigQueryServiceFailed()|sigLogoutService()|sigExitApplication()|sigCancelCreateDevice()|"
+          "sigCreateDevice(QString,QString,QString)|sigGetAuthURL()|"
+          "sigNotifyStatusChange(ServiceStatus,ServiceStatus,Json::Value)|sigShowMessage(QString,QString)|"
+          "sigMessageReceived(QString)|sigOpenLogWindow()|sigHandleNotifications(Json::Value)|"
+          "sigTrayClickedWithoutConnection()|sigTrayClickedDuringSetup()|"
+          "sigApplicationStateChanged(Qt::ApplicationState)")
+          .split(QLatin1Char('|'));
   const QMetaObject& mo = GlobalConnecter::staticMetaObject;
-  const int at = mo.methodOffset() + GetParam().index;
-  ASSERT_LT(at, mo.methodCount());
-  const QMetaMethod m = mo.method(at);
-  EXPECT_EQ(m.methodType(), QMetaMethod::Signal);
-  EXPECT_EQ(m.methodSignature().toStdString(), GetParam().signature);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Table, BusSignalTest,
-    ::testing::Values(
-        SignalRow{0, "sigPositionClicked(QPoint)"}, SignalRow{1, "sigShowAboutWindow()"},
-        SignalRow{2, "sigRestorePortal()"}, SignalRow{3, "sigWebConsole()"}, SignalRow{4, "sigOpenHelp()"},
-        SignalRow{5, "sigUpdateQuota()"}, SignalRow{6, "sigGetConnectionInfo()"},
-        SignalRow{7, "sigConnectServer(ConnectionInfo)"},
-        SignalRow{8, "sigQueryService(const QObject*,Json::Value)"},
-        SignalRow{9, "sigQueryServiceDone(const QObject*,Json::Value)"},
-        SignalRow{10, "sigQueryServiceFailed()"}, SignalRow{11, "sigLogoutService()"},
-        SignalRow{12, "sigExitApplication()"}, SignalRow{13, "sigCancelCreateDevice()"},
-        SignalRow{14, "sigCreateDevice(QString,QString,QString)"}, SignalRow{15, "sigGetAuthURL()"},
-        SignalRow{16, "sigNotifyStatusChange(ServiceStatus,ServiceStatus,Json::Value)"},
-        SignalRow{17, "sigShowMessage(QString,QString)"}, SignalRow{18, "sigMessageReceived(QString)"},
-        SignalRow{19, "sigOpenLogWindow()"}, SignalRow{20, "sigHandleNotifications(Json::Value)"},
-        SignalRow{21, "sigTrayClickedWithoutConnection()"}, SignalRow{22, "sigTrayClickedDuringSetup()"},
-        SignalRow{23, "sigApplicationStateChanged(Qt::ApplicationState)"}));
-
-TEST(BusTest, OnlySignalsAndExactlyTheTable) {
-  const QMetaObject& mo = GlobalConnecter::staticMetaObject;
-  EXPECT_EQ(mo.methodCount() - mo.methodOffset(), 24);
-  for (int i = mo.methodOffset(); i < mo.methodCount(); ++i)
-    EXPECT_EQ(mo.method(i).methodType(), QMetaMethod::Signal) << mo.method(i).methodSignature().constData();
-}
-
-TEST(BusTest, StringConnectionsWithTheWrittenSignaturesResolve) {
+  ASSERT_EQ(table.size(), 24);
+  ASSERT_EQ(mo.methodCount() - mo.methodOffset(), 24);
+  for (int i = 0; i < 24; ++i) {
+    const QMetaMethod m = mo.method(mo.methodOffset() + i);
+    EXPECT_EQ(m.methodType(), QMetaMethod::Signal) << i;
+    EXPECT_EQ(QString::fromLatin1(m.methodSignature()), table[i]);
+  }
+  // String connections with the signatures as written in the code resolve.
   GlobalConnecter* bus = &GlobalConnecter::instance();
-  QObject target;
-  const char* written[] = {
-      SIGNAL(sigQueryService(const QObject*, Json::Value)),
-      SIGNAL(sigNotifyStatusChange(ServiceStatus, ServiceStatus, Json::Value)),
-      SIGNAL(sigHandleNotifications(const Json::Value&)),
-      SIGNAL(sigCreateDevice(const QString&, const QString&, const QString&)),
-      SIGNAL(sigShowMessage(QString, QString)),
-  };
-  for (const char* sig : written) {
-    // A signal-to-signal connection onto the bus itself checks the name.
+  for (const char* sig : {SIGNAL(sigHandleNotifications(const Json::Value&)),
+                          SIGNAL(sigCreateDevice(const QString&, const QString&, const QString&))}) {
     QMetaObject::Connection c = QObject::connect(bus, sig, bus, sig);
     EXPECT_TRUE(c) << sig;
     QObject::disconnect(c);
   }
+  // The constructor registers the carried types by name.
+  for (const char* name : {"uint64_t", "Json::Value", "ConnectionInfo", "ServiceStatus", "const QObject*"})
+    EXPECT_NE(QMetaType::type(name), QMetaType::UnknownType) << name;
 }
 
-// --- meta-types -------------------------------------------------------------
-
-TEST(BusTest, ConstructorRegistersTheCarriedTypes) {
-  GlobalConnecter::instance();
-  const char* names[] = {"uint64_t", "Json::Value", "ConnectionInfo", "ServiceStatus", "const QObject*"};
-  for (const char* name : names) EXPECT_NE(QMetaType::type(name), QMetaType::UnknownType) << name;
-  EXPECT_EQ(QMetaType::type("uint64_t"), qMetaTypeId<std::uint64_t>());
-  EXPECT_TRUE(QMetaType::typeFlags(QMetaType::type("ServiceStatus")) & QMetaType::IsEnumeration);
-  EXPECT_TRUE(QMetaType::typeFlags(QMetaType::type("ServiceStatus")) & QMetaType::MovableType);
-  // Registered in this order, each after the one before.
-  EXPECT_LT(QMetaType::type("Json::Value"), QMetaType::type("ConnectionInfo"));
-  EXPECT_LT(QMetaType::type("ConnectionInfo"), QMetaType::type("ServiceStatus"));
-}
-
-TEST(BusTest, QueuedDeliveryCopiesEveryPayloadAcrossThreads) {
+TEST(Bus, QueuedDeliveryCopiesEveryPayloadAcrossThreads) {
   GlobalConnecter* bus = &GlobalConnecter::instance();
   QSignalSpy status(bus, &GlobalConnecter::sigNotifyStatusChange);
   QSignalSpy connect_server(bus, &GlobalConnecter::sigConnectServer);
   QSignalSpy done(bus, &GlobalConnecter::sigQueryServiceDone);
   QObject sender;
-
-  // A worker-thread object forwarding to the bus, as the poller and the
-  // request client do.
+  // A worker-thread object forwarding to the bus, as the poller and the request client do.
   QThread thread;
   QObject emitter;
   emitter.moveToThread(&thread);
   thread.start();
-  Json::Value content(Json::objectValue);
-  content["logs"] = Json::Value(Json::arrayValue);
-  content["logs"].append("entry");
+  const Json::Value content = parse(R"({"logs": ["entry"]})");
   ConnectionInfo info;
   info.address = "a.example";
   info.proxy.proxy_port = 8080;
@@ -128,7 +83,6 @@ TEST(BusTest, QueuedDeliveryCopiesEveryPayloadAcrossThreads) {
       Qt::BlockingQueuedConnection);
   thread.quit();
   thread.wait();
-
   ASSERT_TRUE(done.size() == 1 || done.wait(2000));
   ASSERT_EQ(status.size(), 1);
   EXPECT_EQ(status.at(0).at(0).value<ServiceStatus>(), StatusIdle);
@@ -139,7 +93,7 @@ TEST(BusTest, QueuedDeliveryCopiesEveryPayloadAcrossThreads) {
   EXPECT_EQ(done.at(0).at(0).value<const QObject*>(), &sender);
 }
 
-TEST(BusTest, SingletonIsOneObjectOnTheMainThreadWhoeverAsksFirst) {
+TEST(Bus, SingletonIsOneObjectOnTheMainThreadWhoeverAsksFirstAndHearsTheApplicationState) {
   std::vector<GlobalConnecter*> seen(8, nullptr);
   std::vector<std::thread> threads;
   for (std::size_t i = 0; i < seen.size(); ++i)
@@ -147,91 +101,192 @@ TEST(BusTest, SingletonIsOneObjectOnTheMainThreadWhoeverAsksFirst) {
   for (auto& t : threads) t.join();
   for (GlobalConnecter* p : seen) EXPECT_EQ(p, &GlobalConnecter::instance());
   EXPECT_EQ(GlobalConnecter::instance().thread(), QCoreApplication::instance()->thread());
-}
-
-TEST(BusTest, ApplicationStateReachesTheBus) {
-  GlobalConnecter* bus = &GlobalConnecter::instance();
-  QSignalSpy spy(bus, &GlobalConnecter::sigApplicationStateChanged);
+  QSignalSpy spy(&GlobalConnecter::instance(), &GlobalConnecter::sigApplicationStateChanged);
   ASSERT_TRUE(QMetaObject::invokeMethod(qGuiApp, "applicationStateChanged", Qt::DirectConnection,
                                         Q_ARG(Qt::ApplicationState, Qt::ApplicationInactive)));
   ASSERT_EQ(spy.size(), 1);
   EXPECT_EQ(spy.at(0).at(0).value<Qt::ApplicationState>(), Qt::ApplicationInactive);
 }
 
-// --- ServiceStatus ----------------------------------------------------------
-
+// Categories by value: not linked, idle, running, preparing, error.
 struct StatusRow {
   std::int64_t value;
-  bool not_linked, idle, running, preparing, error;
+  const char* categories;  // one letter per category that holds: N I R P E
 };
-
-std::ostream& operator<<(std::ostream& os, const StatusRow& v) {
-  return os << v.value;
+void PrintTo(const StatusRow& r, std::ostream* os) {
+  *os << std::hex << r.value;
 }
 
 class ServiceStatusTest : public ::testing::TestWithParam<StatusRow> {};
 
 TEST_P(ServiceStatusTest, CategoriesFollowBits12To15) {
-  const StatusRow& r = GetParam();
-  const ServiceStatus s = service_status::from_int64(r.value);
-  EXPECT_EQ(service_status::is_not_linked(s), r.not_linked);
-  EXPECT_EQ(service_status::is_idle(s), r.idle);
-  EXPECT_EQ(service_status::is_running(s), r.running);
-  EXPECT_EQ(service_status::is_preparing(s), r.preparing);
-  EXPECT_EQ(service_status::is_error(s), r.error);
+  const ServiceStatus s = service_status::from_int64(GetParam().value);
+  std::string got;
+  if (service_status::is_not_linked(s)) got += 'N';
+  if (service_status::is_idle(s)) got += 'I';
+  if (service_status::is_running(s)) got += 'R';
+  if (service_status::is_preparing(s)) got += 'P';
+  if (service_status::is_error(s)) got += 'E';
+  EXPECT_EQ(got, GetParam().categories);
 }
 
 INSTANTIATE_TEST_SUITE_P(Values, ServiceStatusTest,
-                         ::testing::Values(StatusRow{0, false, false, false, false, false},
-                                           StatusRow{0x1000, true, false, false, false, false},
-                                           StatusRow{0x1005, true, false, false, false, false},
-                                           StatusRow{0x2000, false, true, false, false, false},
-                                           StatusRow{0x2FFF, false, true, false, false, false},
-                                           StatusRow{0x3000, false, false, true, false, false},
-                                           StatusRow{0x3001, false, false, true, true, false},
-                                           StatusRow{0x3002, false, false, true, true, false},
-                                           StatusRow{0x3003, false, false, true, false, false},
-                                           StatusRow{0x13001, false, false, true, false, false},
-                                           StatusRow{0xF001, false, false, false, false, true},
-                                           StatusRow{0x4000, false, false, false, false, false},
-                                           StatusRow{0x0FFF, false, false, false, false, false}));
+                         ::testing::Values(StatusRow{0, ""}, StatusRow{0x1000, "N"}, StatusRow{0x1005, "N"},
+                                           StatusRow{0x2000, "I"}, StatusRow{0x2FFF, "I"},
+                                           StatusRow{0x3000, "R"}, StatusRow{0x3001, "RP"},
+                                           StatusRow{0x3002, "RP"}, StatusRow{0x3003, "R"},
+                                           StatusRow{0x13001, "R"}, StatusRow{0xF001, "E"},
+                                           StatusRow{0x4000, ""}, StatusRow{0x0FFF, ""}));
 
 TEST(ServiceStatusValue, KeptUnchangedWithinThirtyTwoBits) {
   EXPECT_EQ(static_cast<std::int32_t>(service_status::from_int64(0x3001)), 0x3001);
   EXPECT_EQ(static_cast<std::int32_t>(service_status::from_int64(-1)), -1);
   EXPECT_EQ(static_cast<std::int32_t>(service_status::from_int64(0x100003000LL)), 0x3000);
   EXPECT_EQ(static_cast<std::uint32_t>(service_status::from_int64(0xF0000001LL)), 0xF0000001u);
-  EXPECT_EQ(sizeof(ServiceStatus), 4u);
 }
 
-// --- TrayStatus -------------------------------------------------------------
+TEST(TrayStatusValue, OutsideOneToFourShowsIdle) {
+  const char* const icons[] = {"logo_tray_icn_connect", "logo_tray_icn_green", "logo_tray_icn_blue",
+                               "logo_tray_icn_red", "logo_tray_icn_orange"};
+  for (int v : {-1, 0, 1, 2, 3, 4, 5, 7}) {
+    const int shown = v >= 1 && v <= 4 ? v : 0;
+    EXPECT_EQ(tray_status::from_int(v), static_cast<TrayStatus>(shown)) << v;
+    EXPECT_STREQ(tray_status::icon_name(static_cast<TrayStatus>(v)), icons[shown]) << v;
+  }
+}
 
-struct TrayRow {
-  int value;
-  TrayStatus shown;
-  const char* icon;
+// --- ConnectionInfo -------------------------------------------------------------
+
+const char* const kFull = R"({
+  "connection": {"address": "cloud.example", "port": 443, "username": "me@example.com",
+                 "ssl_allow_untrust": true, "account_type": "vell", "is_auth_fork": "1", "backup_role": 2},
+  "proxy": {"use_proxy": true, "use_sys_proxy": true, "proxy_ip": "10.0.0.1", "proxy_port": 3128,
+            "proxy_username": "pu", "proxy_password": "pp", "host": "h", "domain": "d", "active_auth": true}
+})";
+
+ConnectionInfo fill(const Json::Value& a, SslTrust ssl = SslTrust::Read) {
+  return fillConnectionInfo(a["connection"], a["proxy"], ssl);
+}
+
+TEST(ConnectionInfoTest, EveryFieldIsReadFromItsMemberSslOnlyForConnectionRecords) {
+  const ProxyInfo proxy{true, true, "10.0.0.1", 3128, "pu", "pp", "h", "d", true};
+  EXPECT_EQ(fill(parse(kFull)),
+            (ConnectionInfo{"cloud.example", 443, "me@example.com", proxy, true, true, true, 2}));
+  EXPECT_EQ(fill(parse(kFull), SslTrust::Ignore),
+            (ConnectionInfo{"cloud.example", 443, "me@example.com", proxy, false, true, true, 2}));
+  // Missing objects, or containers of another kind, give the defaults.
+  EXPECT_EQ(fillConnectionInfo(Json::Value(), Json::Value(), SslTrust::Read), ConnectionInfo());
+  EXPECT_EQ(fillConnectionInfo(parse("[1,2]"), parse("\"proxy\""), SslTrust::Read), ConnectionInfo());
+  EXPECT_EQ(fillConnectionInfo(parse("17"), parse("true"), SslTrust::Read), ConnectionInfo());
+}
+
+// One member replaced by a value of another kind (or an unrecognised text):
+// the record reads exactly as if that member were missing.
+struct Confused {
+  const char* object;
+  const char* member;
+  const char* value;  // JSON text
 };
-
-std::ostream& operator<<(std::ostream& os, const TrayRow& v) {
-  return os << v.value;
+void PrintTo(const Confused& c, std::ostream* os) {
+  *os << c.object << "." << c.member << " = " << c.value;
 }
 
-class TrayStatusTest : public ::testing::TestWithParam<TrayRow> {};
+class ConfusedMemberTest : public ::testing::TestWithParam<Confused> {};
 
-TEST_P(TrayStatusTest, OutsideOneToFourShowsIdle) {
-  const TrayStatus s = tray_status::from_int(GetParam().value);
-  EXPECT_EQ(s, GetParam().shown);
-  EXPECT_STREQ(tray_status::icon_name(static_cast<TrayStatus>(GetParam().value)), GetParam().icon);
+TEST_P(ConfusedMemberTest, ReadsAsMissing) {
+  const Confused& c = GetParam();
+  Json::Value confused = parse(kFull), missing = parse(kFull);
+  confused[c.object][c.member] = parse(c.value);
+  missing[c.object].removeMember(c.member);
+  EXPECT_NE(fill(missing), fill(parse(kFull))) << "the member is read";
+  EXPECT_EQ(fill(confused), fill(missing));
 }
 
-INSTANTIATE_TEST_SUITE_P(Values, TrayStatusTest,
-                         ::testing::Values(TrayRow{0, TrayIdle, "logo_tray_icn_connect"},
-                                           TrayRow{1, TraySuccess, "logo_tray_icn_green"},
-                                           TrayRow{2, TrayRunning, "logo_tray_icn_blue"},
-                                           TrayRow{3, TrayError, "logo_tray_icn_red"},
-                                           TrayRow{4, TrayWarning, "logo_tray_icn_orange"},
-                                           TrayRow{5, TrayIdle, "logo_tray_icn_connect"},
-                                           TrayRow{7, TrayIdle, "logo_tray_icn_connect"},
-                                           TrayRow{-1, TrayIdle, "logo_tray_icn_connect"}));
+INSTANTIATE_TEST_SUITE_P(
+    Members, ConfusedMemberTest,
+    ::testing::Values(
+        Confused{"connection", "address", "12"}, Confused{"connection", "address", "{}"},
+        Confused{"connection", "port", "\"443\""}, Confused{"connection", "port", "44.5"},
+        Confused{"connection", "port", "[443]"}, Confused{"connection", "username", "true"},
+        Confused{"connection", "ssl_allow_untrust", "\"true\""},
+        Confused{"connection", "ssl_allow_untrust", "1"}, Confused{"connection", "account_type", "\"Vell\""},
+        Confused{"connection", "account_type", "[\"vell\"]"},
+        Confused{"connection", "is_auth_fork", "\"01\""}, Confused{"connection", "is_auth_fork", "\"true\""},
+        Confused{"connection", "is_auth_fork", "1"}, Confused{"connection", "is_auth_fork", "true"},
+        Confused{"connection", "backup_role", "\"2\""}, Confused{"connection", "backup_role", "4294967298"},
+        Confused{"proxy", "use_proxy", "1"}, Confused{"proxy", "use_sys_proxy", "\"yes\""},
+        Confused{"proxy", "proxy_ip", "10"}, Confused{"proxy", "proxy_port", "\"3128\""},
+        Confused{"proxy", "proxy_username", "null"}, Confused{"proxy", "proxy_password", "{\"a\":1}"},
+        Confused{"proxy", "host", "[]"}, Confused{"proxy", "domain", "false"},
+        Confused{"proxy", "active_auth", "\"true\""}));
+
+// --- StatusStore ----------------------------------------------------------------
+
+TEST(StatusStoreTest, HoldsCopiesAndTheConnectionUntilCleared) {
+  StatusStore store;
+  ServiceStatus s = StatusError;
+  Json::Value content = "x";
+  store.getStatus(s, content);
+  EXPECT_EQ(s, StatusUnknown);
+  EXPECT_TRUE(content.isNull());
+  ConnectionInfo out;
+  EXPECT_EQ(store.getConnectionInfo(out), -1);
+  // Status and content are copies, not shared.
+  content = parse(R"({"a": 1})");
+  store.setStatus(StatusIdle, content);
+  content["a"] = 2;
+  store.getStatus(s, content);
+  EXPECT_EQ(s, StatusIdle);
+  EXPECT_EQ(jsonx::get_int64(content, "a"), 1);
+  ConnectionInfo stored;
+  stored.address = "cloud.example";
+  store.setConnectionInfo(stored);
+  store.setLastLogId(18446744073709551615ULL);
+  ASSERT_EQ(store.getConnectionInfo(out), 0);
+  EXPECT_EQ(out, stored);
+  EXPECT_EQ(store.getLastLogId(), 18446744073709551615ULL);
+  // Cleared: log id 0 and a failed read that leaves the output alone.
+  store.clearConnection();
+  EXPECT_EQ(store.getLastLogId(), 0u);
+  ConnectionInfo untouched;
+  untouched.username = "keep";
+  EXPECT_EQ(store.getConnectionInfo(untouched), -1);
+  EXPECT_EQ(untouched.username, "keep");
+  store.setConnectionInfo(stored);
+  EXPECT_EQ(store.getConnectionInfo(out), 0);
+}
+
+TEST(StatusStoreTest, ReadersNeverSeeAHalfWrittenPair) {
+  // The writer keeps status and content (and address and port) in step; a
+  // reader that sees them disagree has seen a write not guarded as a whole.
+  StatusStore store;
+  std::atomic<bool> done{false};
+  std::atomic<int> torn{0};
+  std::thread writer([&] {
+    for (int i = 0; i < 20000; ++i) {
+      Json::Value content(Json::objectValue);
+      content["n"] = i;
+      store.setStatus(static_cast<ServiceStatus>(i), content);
+      ConnectionInfo info;
+      info.port = i;
+      info.address = std::to_string(i);
+      store.setConnectionInfo(info);
+    }
+    done = true;
+  });
+  std::thread reader([&] {
+    while (!done) {
+      ServiceStatus s;
+      Json::Value content;
+      store.getStatus(s, content);
+      if (!content.isNull() && jsonx::get_int64(content, "n") != static_cast<std::int32_t>(s)) ++torn;
+      ConnectionInfo info;
+      if (store.getConnectionInfo(info) == 0 && std::to_string(info.port) != info.address) ++torn;
+    }
+  });
+  writer.join();
+  reader.join();
+  EXPECT_EQ(torn.load(), 0);
+}
 
 }  // namespace

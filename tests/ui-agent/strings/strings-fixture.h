@@ -2,10 +2,12 @@
 // The two text files beside these tests: every catalogue key named for the
 // agent with its English text, and the table of activity event types.
 
+#include <QFile>
 #include <QString>
 #include <QStringList>
 
 #include <ostream>
+#include <stdexcept>
 #include <vector>
 
 namespace strings_fixture {
@@ -15,7 +17,6 @@ struct KeyRow {
   QChar check;  // '=', '^', 'L', '*' or '+' (see catalogue-keys.txt)
   QString text;
 };
-std::vector<KeyRow> key_rows();
 inline void PrintTo(const KeyRow& row, std::ostream* os) {
   *os << row.key.toStdString();
 }
@@ -26,9 +27,38 @@ struct EventRow {
   QString key;
   QStringList values;  // named kind: members in the order they are supplied; "-" a fixed value
 };
-std::vector<EventRow> event_rows(const QString& kind = QString());
 inline void PrintTo(const EventRow& row, std::ostream* os) {
   *os << row.type << " " << row.key.toStdString();
+}
+
+// The tab-separated columns of every data line of a fixture file.
+inline std::vector<QStringList> columns(const char* name, int count) {
+  QFile file(QStringLiteral(NIMBRA_STRINGS_FIXTURE_DIR "/") + QLatin1String(name));
+  if (!file.open(QIODevice::ReadOnly)) throw std::runtime_error(std::string("missing fixture ") + name);
+  std::vector<QStringList> rows;
+  for (const QString& line : QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'))) {
+    if (line.isEmpty() || line.startsWith(QLatin1Char('#'))) continue;
+    rows.push_back(line.split(QLatin1Char('\t')));
+    if (rows.back().size() != count) throw std::runtime_error(std::string("bad line in ") + name);
+  }
+  return rows;
+}
+
+inline std::vector<KeyRow> key_rows() {
+  std::vector<KeyRow> rows;
+  for (const QStringList& c : columns("catalogue-keys.txt", 3))
+    rows.push_back({c[0], c[1].at(0), QString(c[2]).replace(QLatin1String("\\u00a0"), QChar(0x00a0))});
+  return rows;
+}
+
+inline std::vector<EventRow> event_rows(const QString& kind) {
+  std::vector<EventRow> rows;
+  for (const QStringList& c : columns("event-types.txt", 4)) {
+    if (c[1] != kind) continue;
+    rows.push_back(
+        {c[0].toUInt(), c[1], c[2], c[3].isEmpty() ? QStringList() : c[3].split(QLatin1Char(','))});
+  }
+  return rows;
 }
 
 }  // namespace strings_fixture

@@ -1,0 +1,62 @@
+#include "agent-test.h"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QThread>
+
+#include <atomic>
+
+#include "json-access.h"
+#include "logger.h"
+
+namespace agent_test {
+
+Json::Value parse(const std::string& text) {
+  Json::Value v;
+  EXPECT_TRUE(jsonx::parse(text, v)) << text;
+  return v;
+}
+
+LogCapture::LogCapture() : path_(dir_.file("ui.txt")) {
+  const std::string settings = dir_.file("agent.debug");
+  nimbra_test::write_file(settings, "default_component = 7\nwin_ipc = 7\n");
+  EXPECT_EQ(vlog::init(vlog::kRotatingFile, std::wstring(path_.begin(), path_.end()),
+                       std::wstring(settings.begin(), settings.end()), "", 5, 1),
+            0);
+}
+
+LogCapture::~LogCapture() {
+  vlog::shutdown();
+}
+
+void LogCapture::mark() {
+  offset_ = nimbra_test::read_file(path_).size();
+}
+
+std::string LogCapture::text() const {
+  const std::string all = nimbra_test::read_file(path_);
+  return all.size() > offset_ ? all.substr(offset_) : std::string();
+}
+
+bool LogCapture::waitFor(const std::string& needle, int timeout_ms) const {
+  QDeadlineTimer deadline(timeout_ms);
+  while (text().find(needle) == std::string::npos) {
+    if (deadline.hasExpired()) return false;
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+    QThread::msleep(5);
+  }
+  return true;
+}
+
+Isolation::Isolation() {
+  static std::atomic<int> counter{0};
+  const std::string ns =
+      "nimbra-agent-test-" + std::to_string(::getpid()) + "-" + std::to_string(++counter) + "-";
+  pipe_ns_ = std::make_unique<nimbra_test::ScopedEnv>("NIMBRA_PIPE_NAMESPACE", ns.c_str());
+  working_space_ = std::make_unique<nimbra_test::ScopedEnv>("NIMBRA_WORKING_SPACE", dir_.path().c_str());
+}
+
+}  // namespace agent_test

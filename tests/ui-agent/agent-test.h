@@ -1,0 +1,46 @@
+#pragma once
+// Helpers shared by the agent's test suites: JSON from text, a log file the
+// test reads back, and per-process pipe / working-space isolation.
+
+#include <json/value.h>
+
+#include <memory>
+#include <string>
+
+#include "support/temp-dir.h"
+
+namespace agent_test {
+
+// Parses `text`, failing the current test when it is not JSON.
+Json::Value parse(const std::string& text);
+
+// The default logger writing to a scratch file with every component at debug
+// level; text() returns what was written since mark().
+class LogCapture {
+ public:
+  LogCapture();
+  ~LogCapture();
+  void mark();
+  std::string text() const;
+  // Pumps Qt events until `needle` shows up in text(); false after `timeout_ms`.
+  bool waitFor(const std::string& needle, int timeout_ms = 5000) const;
+
+ private:
+  nimbra_test::TempDir dir_;
+  std::string path_;
+  std::size_t offset_ = 0;
+};
+
+// NIMBRA_PIPE_NAMESPACE unique to this process and object, NIMBRA_WORKING_SPACE
+// a fresh scratch folder.
+class Isolation {
+ public:
+  Isolation();
+  const std::string& workingSpace() const { return dir_.path(); }
+
+ private:
+  nimbra_test::TempDir dir_;
+  std::unique_ptr<nimbra_test::ScopedEnv> pipe_ns_, working_space_;
+};
+
+}  // namespace agent_test
