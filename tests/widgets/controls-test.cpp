@@ -10,6 +10,7 @@
 
 #include "dpi-info.h"
 #include "style-manager.h"
+#include "support/qt-print.h"
 #include "vell-button.h"
 #include "vell-check.h"
 #include "vell-label.h"

@@ -4,6 +4,7 @@
 
 #include "dpi-info.h"
 #include "image-manager.h"
+#include "support/qt-print.h"
 #include "ui-path-manager.h"
 #include "widgets-fixture.h"
 

@@ -3,6 +3,7 @@
 #include <QLocale>
 
 #include "component-strings.h"
+#include "support/qt-print.h"
 #include "ui-path-manager.h"
 #include "vell-locale.h"
 #include "widgets-fixture.h"

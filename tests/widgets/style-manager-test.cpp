@@ -7,6 +7,7 @@
 #include <QLabel>
 
 #include "style-manager.h"
+#include "support/qt-print.h"
 #include "ui-path-manager.h"
 #include "widgets-fixture.h"
 
