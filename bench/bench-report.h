@@ -18,14 +18,17 @@ inline int& failures() {
 }
 
 // higher_is_better: the figure must be >= target; otherwise <= target.
-inline void report(const std::string& what, double figure, const char* unit, double target, bool higher_is_better) {
+inline void report(const std::string& what, double figure, const char* unit, double target,
+                   bool higher_is_better) {
   const bool met = higher_is_better ? figure >= target : figure <= target;
   if (!met) ++failures();
-  std::printf("TARGET  %-52s %14.2f %-6s %s %12.2f  %s\n", what.c_str(), figure, unit, higher_is_better ? ">=" : "<=",
-              target, met ? "met" : "MISSED");
+  std::printf("TARGET  %-52s %14.2f %-6s %s %12.2f  %s\n", what.c_str(), figure, unit,
+              higher_is_better ? ">=" : "<=", target, met ? "met" : "MISSED");
   std::fflush(stdout);
 }
 
-inline int report_summary() { return failures() == 0 ? 0 : 1; }
+inline int report_summary() {
+  return failures() == 0 ? 0 : 1;
+}
 
 }  // namespace bench_report
