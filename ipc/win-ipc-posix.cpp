@@ -207,9 +207,11 @@ void close_handle(Native& handle) {
   }
 }
 
-Result read_some(Native handle, char* buffer, std::size_t size) {
+namespace {
+
+// The outcome of one non-blocking recv() or send() that returned `n`.
+Result transfer_result(ssize_t n) {
   Result r;
-  const ssize_t n = ::recv(static_cast<int>(handle), buffer, size, MSG_DONTWAIT);
   if (n >= 0) {
     r.status = Status::kOk;
     r.count = static_cast<std::size_t>(n);
@@ -221,18 +223,14 @@ Result read_some(Native handle, char* buffer, std::size_t size) {
   return r;
 }
 
+}  // namespace
+
+Result read_some(Native handle, char* buffer, std::size_t size) {
+  return transfer_result(::recv(static_cast<int>(handle), buffer, size, MSG_DONTWAIT));
+}
+
 Result write_some(Native handle, const char* data, std::size_t size) {
-  Result r;
-  const ssize_t n = ::send(static_cast<int>(handle), data, size, MSG_DONTWAIT | MSG_NOSIGNAL);
-  if (n >= 0) {
-    r.status = Status::kOk;
-    r.count = static_cast<std::size_t>(n);
-  } else if (is_retry(errno)) {
-    r.status = Status::kRetry;
-  } else {
-    r.error = static_cast<unsigned>(errno);
-  }
-  return r;
+  return transfer_result(::send(static_cast<int>(handle), data, size, MSG_DONTWAIT | MSG_NOSIGNAL));
 }
 
 void wait_readable(Native handle) {
