@@ -66,6 +66,10 @@ SettingsWidget::SettingsWidget(QWidget* parent) : QWidget(parent) {
 
   connect(this, &SettingsWidget::sigQueryService, &GlobalConnecter::instance(), &GlobalConnecter::sigQueryService);
   connect(m_limitRadio, &QRadioButton::toggled, this, &SettingsWidget::slotEnableBandWidthBtnClicked);
+  // The two radios are one Tab stop, the checked one; arrows move between them.
+  for (QRadioButton* radio : {static_cast<QRadioButton*>(m_noLimitRadio), static_cast<QRadioButton*>(m_limitRadio)})
+    connect(radio, &QRadioButton::toggled, this,
+            [radio](bool checked) { radio->setFocusPolicy(checked ? Qt::StrongFocus : Qt::ClickFocus); });
   connect(m_rateEdit, &QLineEdit::textChanged, this, &SettingsWidget::slotCheckInputBandWidthVaild);
   connect(m_rangeCheckBox, &QCheckBox::stateChanged, this, &SettingsWidget::slotChangeRangeStatus);
   connect(m_startCombo, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
@@ -97,6 +101,8 @@ void SettingsWidget::buildUi() {
   m_scrollArea = new VellVerticalScrollArea(this);
   m_scrollArea->setObjectName(QStringLiteral("SettingsScrollArea"));
   m_scrollArea->setFixedHeight(px(382));
+  // The controls take the focus, not the area around them.
+  m_scrollArea->setFocusPolicy(Qt::NoFocus);
   m_content = buildContent();
   m_scrollArea->setWidget(m_content);
   outer->addWidget(m_scrollArea);
