@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QDesktopServices>
+#include <QFrame>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -107,8 +108,16 @@ void SettingsWidget::buildUi() {
   m_scrollArea->setWidget(m_content);
   outer->addWidget(m_scrollArea);
 
+  // A hairline keeps the buttons apart from content scrolled under them.
+  auto* divider = new QFrame(this);
+  divider->setObjectName(QStringLiteral("SettingsDivider"));
+  divider->setFrameShape(QFrame::HLine);
+  divider->setFixedHeight(1);
+  divider->setStyleSheet(getStyleSheet(QStringLiteral("hline_divider")));
+  outer->addWidget(divider);
+
   auto* buttons = new QHBoxLayout();
-  buttons->setContentsMargins(px(40), px(14), px(40), px(14));
+  buttons->setContentsMargins(px(40), px(13), px(40), px(14));
   buttons->setSpacing(px(12));
   buttons->addStretch();
   m_cancelButton = new VellButton(text(Str::btn_cancel), VellButton::Secondary, this);
@@ -126,7 +135,7 @@ QWidget* SettingsWidget::buildContent() {
   auto* content = new QWidget();
   content->setObjectName(QStringLiteral("SettingsContent"));
   auto* layout = new QVBoxLayout(content);
-  layout->setContentsMargins(px(40), px(24), px(40), px(16));
+  layout->setContentsMargins(px(40), px(20), px(40), px(12));
   layout->setSpacing(0);
 
   m_titleLabel = new VellLabel(withLineHeight(text(Str::bandwidth_control).toHtmlEscaped(), 24), content);
@@ -147,14 +156,16 @@ QWidget* SettingsWidget::buildContent() {
   m_learnMoreLink->setObjectName(QStringLiteral("SettingsLearnMore"));
   m_learnMoreLink->setAccessibleName(text(Str::label_learn_more));
   m_learnMoreLink->setToolTip(QString::fromLatin1(kLearnMoreUrl));
+  // Its focus frame would otherwise push the text off the description's edge.
+  m_learnMoreLink->setIndent(0);
   layout->addWidget(m_learnMoreLink, 0, Qt::AlignLeft);
-  layout->addSpacing(px(16));
+  layout->addSpacing(px(12));
 
   // The organisation's note, with the gap below it, shows only when set.
   m_noteBox = new QWidget(content);
   m_noteBox->setObjectName(QStringLiteral("SettingsServerNoteBox"));
   auto* noteLayout = new QVBoxLayout(m_noteBox);
-  noteLayout->setContentsMargins(0, 0, 0, px(16));
+  noteLayout->setContentsMargins(0, 0, 0, px(12));
   m_noteLabel = new QLabel(m_noteBox);
   m_noteLabel->setObjectName(QStringLiteral("SettingsServerNote"));
   m_noteLabel->setTextFormat(Qt::RichText);
