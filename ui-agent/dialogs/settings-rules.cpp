@@ -53,8 +53,8 @@ bool isValidConfig(const Json::Value& config) {
   // Only a JSON bool false switches the range off; anything else asks for
   // valid times.
   if (range.isBool() && !jsonx::to_bool(range)) return true;
-  return jsonx::has(config, kStart) && isValidTime(jsonx::get_string(config, kStart)) && jsonx::has(config, kEnd) &&
-         isValidTime(jsonx::get_string(config, kEnd));
+  return jsonx::has(config, kStart) && isValidTime(jsonx::get_string(config, kStart)) &&
+         jsonx::has(config, kEnd) && isValidTime(jsonx::get_string(config, kEnd));
 }
 
 Json::Value defaultConfig() {
@@ -126,8 +126,8 @@ LoadedSettings loadSettings(const Json::Value& config) {
     out.rate = QString::number(value);
     if (value < kMinRate || value > kMaxRate) {
       out.rate = clampRate(out.rate);
-      LOG_WARN(vlog::kDefaultComponent, "bandwidth rate %lld out of range, showing %s", static_cast<long long>(value),
-               out.rate.toUtf8().constData());
+      LOG_WARN(vlog::kDefaultComponent, "bandwidth rate %lld out of range, showing %s",
+               static_cast<long long>(value), out.rate.toUtf8().constData());
     }
   }
 

@@ -65,10 +65,12 @@ SettingsWidget::SettingsWidget(QWidget* parent) : QWidget(parent) {
 
   buildUi();
 
-  connect(this, &SettingsWidget::sigQueryService, &GlobalConnecter::instance(), &GlobalConnecter::sigQueryService);
+  connect(this, &SettingsWidget::sigQueryService, &GlobalConnecter::instance(),
+          &GlobalConnecter::sigQueryService);
   connect(m_limitRadio, &QRadioButton::toggled, this, &SettingsWidget::slotEnableBandWidthBtnClicked);
   // The two radios are one Tab stop, the checked one; arrows move between them.
-  for (QRadioButton* radio : {static_cast<QRadioButton*>(m_noLimitRadio), static_cast<QRadioButton*>(m_limitRadio)})
+  for (QRadioButton* radio :
+       {static_cast<QRadioButton*>(m_noLimitRadio), static_cast<QRadioButton*>(m_limitRadio)})
     connect(radio, &QRadioButton::toggled, this,
             [radio](bool checked) { radio->setFocusPolicy(checked ? Qt::StrongFocus : Qt::ClickFocus); });
   connect(m_rateEdit, &QLineEdit::textChanged, this, &SettingsWidget::slotCheckInputBandWidthVaild);
@@ -175,7 +177,8 @@ QWidget* SettingsWidget::buildContent() {
   m_noteBox->hide();
   layout->addWidget(m_noteBox);
 
-  const QString radioSheet = getStyleSheet(QStringLiteral("component.radio_button")) + extraSheet(kRadioExtra);
+  const QString radioSheet =
+      getStyleSheet(QStringLiteral("component.radio_button")) + extraSheet(kRadioExtra);
   m_noLimitRadio = new VellRadioButton(text(Str::bandwidth_no_limit), content);
   m_noLimitRadio->setObjectName(QStringLiteral("SettingsNoLimitRadio"));
   m_noLimitRadio->setStyleSheet(radioSheet);
@@ -229,7 +232,8 @@ QWidget* SettingsWidget::buildContent() {
   const int indent = px(24);
   m_rangeCheckBox = new VellCheckBox(text(Str::retention_bandwidth_enable_range), content);
   m_rangeCheckBox->setObjectName(QStringLiteral("SettingsRangeCheckBox"));
-  m_rangeCheckBox->setStyleSheet(getStyleSheet(QStringLiteral("component.checkbox")) + extraSheet(kCheckExtra));
+  m_rangeCheckBox->setStyleSheet(getStyleSheet(QStringLiteral("component.checkbox")) +
+                                 extraSheet(kCheckExtra));
   auto* checkRow = new QHBoxLayout();
   checkRow->setContentsMargins(indent, 0, 0, 0);
   checkRow->addWidget(m_rangeCheckBox);
@@ -255,7 +259,8 @@ void SettingsWidget::buildTimeRows(QWidget* container) {
   rows->setSpacing(px(12));
   const QString labelSheet = extraSheet(kTimeLabelSheet);
 
-  auto makeRow = [&](VellLabel*& label, VellTimeComboBox*& combo, Str key, const char* name, const char* sheet) {
+  auto makeRow = [&](VellLabel*& label, VellTimeComboBox*& combo, Str key, const char* name,
+                     const char* sheet) {
     auto* row = new QHBoxLayout();
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
@@ -427,8 +432,9 @@ void SettingsWidget::applyEnabledStates() {
 }
 
 void SettingsWidget::setReadingTabOrder() {
-  QWidget* order[] = {m_learnMoreLink, m_noLimitRadio, m_limitRadio, m_rateEdit, m_rangeCheckBox,
+  QWidget* order[] = {m_learnMoreLink, m_noLimitRadio, m_limitRadio,   m_rateEdit,  m_rangeCheckBox,
                       m_startCombo,    m_endCombo,     m_cancelButton, m_saveButton};
-  for (std::size_t i = 0; i + 1 < sizeof(order) / sizeof(order[0]); ++i) QWidget::setTabOrder(order[i], order[i + 1]);
+  for (std::size_t i = 0; i + 1 < sizeof(order) / sizeof(order[0]); ++i)
+    QWidget::setTabOrder(order[i], order[i + 1]);
   m_estimateIcon->setFocusPolicy(Qt::NoFocus);
 }

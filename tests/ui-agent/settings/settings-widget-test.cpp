@@ -18,8 +18,8 @@
 
 #include "agent-test.h"
 #include "core/global-connecter.h"
-#include "dpi-info.h"
 #include "dialogs/settings-widget.h"
+#include "dpi-info.h"
 #include "image-manager.h"
 #include "json-access.h"
 #include "string-display.h"
@@ -33,7 +33,8 @@ using agent_test::parse;
 
 namespace {
 
-const char* const kLimited0700To2300 = R"({"bandwidth_type":1,"bandwidth_rate":100,"bandwidth_limit_range":true,
+const char* const kLimited0700To2300 =
+    R"({"bandwidth_type":1,"bandwidth_rate":100,"bandwidth_limit_range":true,
                                            "bandwidth_start_time":"07:00","bandwidth_end_time":"23:00"})";
 
 class SettingsWidgetTest : public ::testing::Test {
@@ -43,7 +44,8 @@ class SettingsWidgetTest : public ::testing::Test {
         QDir::cleanPath(qEnvironmentVariable("NIMBRA_SOURCE_DIR", QStringLiteral(".")) + "/resource");
     UIPathManager::getInstance()->setPath(QStringLiteral("resource_path"), res);
     ImageManager::getInstance()->initialize(0);
-    StyleManager::getInstance()->initialize({res + "/agent.stylesheet", res + "/component.business.stylesheet"});
+    StyleManager::getInstance()->initialize(
+        {res + "/agent.stylesheet", res + "/component.business.stylesheet"});
   }
 
   void SetUp() override {
@@ -75,7 +77,8 @@ class SettingsWidgetTest : public ::testing::Test {
     const Json::Value& server = jsonx::get_object(answer, "server_config");
     const Json::Value& client = jsonx::get_object(answer, "client_config");
     if (SettingsWidget::isValidConfig(server)) widget->applyServerConfig(server);
-    widget->loadClientConfig(SettingsWidget::isValidConfig(client) ? client : SettingsWidget::defaultClientConfig());
+    widget->loadClientConfig(SettingsWidget::isValidConfig(client) ? client
+                                                                   : SettingsWidget::defaultClientConfig());
     widget->show();
     widget->raise();
     widget->activateWindow();
@@ -146,7 +149,8 @@ TEST_F(SettingsWidgetTest, LimitedConfigEnablesTheControls) {
   EXPECT_TRUE(rangeCheck()->isEnabled());
   EXPECT_TRUE(rangeContainer()->isEnabled());
   EXPECT_EQ(unitLabel()->text(), QStringLiteral("Mbps (12.5 MB/s)"));
-  EXPECT_EQ(estimateIcon()->toolTip(), QStringLiteral("Attention: Uploading 100 GB of data can take up to 2.3 hours"));
+  EXPECT_EQ(estimateIcon()->toolTip(),
+            QStringLiteral("Attention: Uploading 100 GB of data can take up to 2.3 hours"));
 
   rangeCheck()->setChecked(false);
   EXPECT_FALSE(rangeContainer()->isEnabled());
@@ -160,7 +164,8 @@ TEST_F(SettingsWidgetTest, LimitedConfigEnablesTheControls) {
 
   rateEdit()->setText(QString());
   EXPECT_EQ(unitLabel()->text(), QStringLiteral("Mbps (-- MB/s)"));
-  EXPECT_EQ(estimateIcon()->toolTip(), QStringLiteral("Attention: Uploading 100 GB of data can take up to -- hours"));
+  EXPECT_EQ(estimateIcon()->toolTip(),
+            QStringLiteral("Attention: Uploading 100 GB of data can take up to -- hours"));
 }
 
 TEST_F(SettingsWidgetTest, ServerNoteShowsHidesAndSurvivesAnInvalidConfig) {
@@ -187,9 +192,10 @@ TEST_F(SettingsWidgetTest, Rate3IsSavedAs5) {
   rateEdit()->setText(QStringLiteral("3"));
   QTest::mouseClick(saveButton(), Qt::LeftButton);
   const Json::Value request = sentRequest();
-  EXPECT_EQ(jsonx::compact(request),
-            R"({"action":"set_bandwidth_control","bandwidth":{"bandwidth_end_time":"23:00",)"
-            R"("bandwidth_limit_range":true,"bandwidth_rate":5,"bandwidth_start_time":"07:00","bandwidth_type":1}})");
+  EXPECT_EQ(
+      jsonx::compact(request),
+      R"({"action":"set_bandwidth_control","bandwidth":{"bandwidth_end_time":"23:00",)"
+      R"("bandwidth_limit_range":true,"bandwidth_rate":5,"bandwidth_start_time":"07:00","bandwidth_type":1}})");
   EXPECT_EQ(rateEdit()->text(), QStringLiteral("5"));
   EXPECT_EQ(unitLabel()->text(), QStringLiteral("Mbps (0.6 MB/s)"));
   EXPECT_FALSE(widget->isVisible());
@@ -301,6 +307,21 @@ TEST_F(SettingsWidgetTest, ReturnInTheRateEditOnlyClearsTheFocusAndClamps) {
   EXPECT_EQ(spy->count(), 0);
 }
 
+TEST_F(SettingsWidgetTest, ReturnPressesTheFocusedButton) {
+  widget->loadClientConfig(parse(kLimited0700To2300));
+  showActive();
+  cancelButton()->setFocus();
+  QTest::keyClick(cancelButton(), Qt::Key_Return);
+  EXPECT_FALSE(widget->isVisible());
+  EXPECT_EQ(spy->count(), 0);
+
+  showActive();
+  saveButton()->setFocus();
+  QTest::keyClick(saveButton(), Qt::Key_Return);
+  EXPECT_FALSE(widget->isVisible());
+  EXPECT_EQ(sentRequest()["bandwidth"]["bandwidth_rate"], Json::Value(100));
+}
+
 TEST_F(SettingsWidgetTest, LeavingTheRateEditClamps) {
   widget->loadClientConfig(parse(kLimited0700To2300));
   showActive();
@@ -325,14 +346,17 @@ TEST_F(SettingsWidgetTest, AccessibleNames) {
   EXPECT_EQ(nameOf(rateEdit()), QStringLiteral("Limit to"));
   EXPECT_EQ(QAccessible::queryAccessibleInterface(rateEdit())->text(QAccessible::Description),
             QStringLiteral("Minimum: 5; Maximum: 9,999"));
-  EXPECT_EQ(nameOf(estimateIcon()), QStringLiteral("Attention: Uploading 100 GB of data can take up to 2.3 hours"));
-  EXPECT_EQ(nameOf(rangeCheck()), QStringLiteral("Limit upload speed within a specific time range every day"));
+  EXPECT_EQ(nameOf(estimateIcon()),
+            QStringLiteral("Attention: Uploading 100 GB of data can take up to 2.3 hours"));
+  EXPECT_EQ(nameOf(rangeCheck()),
+            QStringLiteral("Limit upload speed within a specific time range every day"));
   // A combo's name is its value on this platform; its label comes as the
   // "labelled by" relation.
   auto labelOf = [](QObject* object) {
     QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(object);
     QStringList labels;
-    for (const auto& relation : iface->relations(QAccessible::Label)) labels << relation.first->text(QAccessible::Name);
+    for (const auto& relation : iface->relations(QAccessible::Label))
+      labels << relation.first->text(QAccessible::Name);
     return labels;
   };
   EXPECT_EQ(labelOf(startCombo()), QStringList{QStringLiteral("Start at")});
@@ -366,9 +390,10 @@ TEST_F(SettingsWidgetTest, TabWalksInReadingOrder) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
   }
   // The radios are one stop: the checked one.
-  EXPECT_EQ(walked, QStringList({"SettingsLearnMore", "SettingsLimitRadio", "SettingsRateEdit", "SettingsRangeCheckBox", "SettingsStartCombo",
-                                 "SettingsEndCombo", "SettingsCancelButton", "SettingsSaveButton",
-                                 "SettingsLearnMore", "SettingsLimitRadio"}));
+  EXPECT_EQ(walked, QStringList({"SettingsLearnMore", "SettingsLimitRadio", "SettingsRateEdit",
+                                 "SettingsRangeCheckBox", "SettingsStartCombo", "SettingsEndCombo",
+                                 "SettingsCancelButton", "SettingsSaveButton", "SettingsLearnMore",
+                                 "SettingsLimitRadio"}));
 
   // Up moves to "Maximum" and checks it; the disabled controls drop out.
   limitRadio()->setFocus();
