@@ -16,12 +16,23 @@ QString escape_markup(const QString& text) {
   out.reserve(text.size() + text.size() / 8);
   for (const QChar c : text) {
     switch (c.unicode()) {
-      case '&': out += QLatin1String("&amp;"); break;
-      case '<': out += QLatin1String("&lt;"); break;
-      case '>': out += QLatin1String("&gt;"); break;
-      case '"': out += QLatin1String("&quot;"); break;
-      case '\'': out += QLatin1String("&apos;"); break;
-      default: out += c;
+      case '&':
+        out += QLatin1String("&amp;");
+        break;
+      case '<':
+        out += QLatin1String("&lt;");
+        break;
+      case '>':
+        out += QLatin1String("&gt;");
+        break;
+      case '"':
+        out += QLatin1String("&quot;");
+        break;
+      case '\'':
+        out += QLatin1String("&apos;");
+        break;
+      default:
+        out += c;
     }
   }
   return out;

@@ -57,8 +57,8 @@ bool NotificationSession::subscribe() {
                               "ActionInvoked", this, SLOT(slotActionInvoked(uint, QString)));
   const bool c = bus_.connect(kNotificationsService, kNotificationsPath, kNotificationsInterface,
                               "NotificationClosed", this, SLOT(slotNotificationClosed(uint, uint)));
-  auto* watcher = new QDBusServiceWatcher(kNotificationsService, bus_,
-                                          QDBusServiceWatcher::WatchForUnregistration, this);
+  auto* watcher =
+      new QDBusServiceWatcher(kNotificationsService, bus_, QDBusServiceWatcher::WatchForUnregistration, this);
   connect(watcher, &QDBusServiceWatcher::serviceUnregistered, this, &NotificationSession::slotServiceGone);
   return a && c;
 }
@@ -106,8 +106,7 @@ void NotificationSession::slotActionInvoked(uint id, const QString& key) {
     return;
   }
   const bool started = QProcess::startDetached(agent_, {kAgentOpenArgument});
-  if (!started)
-    LOG_ERROR(vlog::kDefaultComponent, "cannot start the agent %s", agent_.toUtf8().constData());
+  if (!started) LOG_ERROR(vlog::kDefaultComponent, "cannot start the agent %s", agent_.toUtf8().constData());
   emit agentStarted(started);
   // Servers close a notification once its action is chosen; make sure of it,
   // and forget it either way so that the run ends.

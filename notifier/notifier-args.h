@@ -18,10 +18,10 @@ inline constexpr const char* kArgumentsVersion = "1";
 
 // Exit codes of nimbra-backup-notifier.
 enum ExitCode : int {
-  kExitShown = 0,        // every notification is on screen (or there was none)
-  kExitFailure = 1,      // the program could not run (fork, pipe)
-  kExitBadArguments = 2, // the command line does not have the layout above
-  kExitNoService = 3,    // no session bus or no notification service: use balloons
+  kExitShown = 0,         // every notification is on screen (or there was none)
+  kExitFailure = 1,       // the program could not run (fork, pipe)
+  kExitBadArguments = 2,  // the command line does not have the layout above
+  kExitNoService = 3,     // no session bus or no notification service: use balloons
 };
 
 struct NotificationElement {

@@ -25,7 +25,8 @@ void init_log(const QString& app_dir) {
   const QString folder = QString::fromStdWString(vlog::log_path());
   if (folder.isEmpty() || !QDir().mkpath(folder)) return;
   const QString settings = QDir::cleanPath(app_dir + "/../resource/agent.debug");
-  vlog::init(vlog::kRotatingFile, (folder + "/notifier.txt").toStdWString(), settings.toStdWString(), "", 5, 1);
+  vlog::init(vlog::kRotatingFile, (folder + "/notifier.txt").toStdWString(), settings.toStdWString(), "", 5,
+             1);
 }
 
 int linger_ms() {
@@ -83,8 +84,8 @@ int notifier_main(int argc, char** argv) {
     return kExitBadArguments;
   }
   if (!has_something_to_say(parsed.request)) return kExitShown;
-  return run_detached(
-      [&](const Report& report) { return show_and_stay(argc, argv, parsed.request, report); }, kReportWaitMs);
+  return run_detached([&](const Report& report) { return show_and_stay(argc, argv, parsed.request, report); },
+                      kReportWaitMs);
 }
 
 }  // namespace notifier

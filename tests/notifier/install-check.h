@@ -22,6 +22,7 @@ struct Ran {
   QString err;
 };
 Ran run_program(const QString& program, const QStringList& args,
-                const QProcessEnvironment& env = QProcessEnvironment::systemEnvironment(), int timeout_ms = 60000);
+                const QProcessEnvironment& env = QProcessEnvironment::systemEnvironment(),
+                int timeout_ms = 60000);
 
 }  // namespace notifier_test

@@ -21,7 +21,9 @@ using ::testing::HasSubstr;
 
 namespace {
 
-QString build_dir() { return QString::fromLocal8Bit(qgetenv("NIMBRA_BUILD_DIR")); }
+QString build_dir() {
+  return QString::fromLocal8Bit(qgetenv("NIMBRA_BUILD_DIR"));
+}
 
 QString read_text(const QString& path) {
   QFile f(path);
@@ -70,7 +72,8 @@ TEST_F(InstallTree, HoldsTheBuildTreeAndTheDesktopFiles) {
   for (const char* exe : {"bin/nimbra-backup-notifier", "bin/nimbra-service-sim"})
     EXPECT_TRUE(QFileInfo(prefix_ + "/" + exe).isExecutable()) << exe;
   // The notifier finds the icon beside its folder.
-  EXPECT_TRUE(QFileInfo::exists(prefix_ + "/bin/../share/icons/hicolor/128x128/apps/nimbra-backup-agent.png"));
+  EXPECT_TRUE(
+      QFileInfo::exists(prefix_ + "/bin/../share/icons/hicolor/128x128/apps/nimbra-backup-agent.png"));
 }
 
 TEST_F(InstallTree, IconsAreRenderedAtTheirSize) {
@@ -93,18 +96,21 @@ TEST_F(InstallTree, DesktopFilesAreValidAndStartTheInstalledAgent) {
   EXPECT_EQ(v.out + v.err, "");
 
   const QString entry = read_text(app);
-  EXPECT_THAT(entry.toStdString(), HasSubstr(("\nExec=" + prefix_ + "/bin/nimbra-backup-agent %u\n").toStdString()));
+  EXPECT_THAT(entry.toStdString(),
+              HasSubstr(("\nExec=" + prefix_ + "/bin/nimbra-backup-agent %u\n").toStdString()));
   EXPECT_THAT(entry.toStdString(), HasSubstr("\nMimeType=x-scheme-handler/nimbrabackup;\n"));
   EXPECT_THAT(entry.toStdString(), HasSubstr("\nIcon=nimbra-backup-agent\n"));
   const QString login = read_text(autostart);
-  EXPECT_THAT(login.toStdString(), HasSubstr(("\nExec=" + prefix_ + "/bin/nimbra-backup-agent\n").toStdString()));
+  EXPECT_THAT(login.toStdString(),
+              HasSubstr(("\nExec=" + prefix_ + "/bin/nimbra-backup-agent\n").toStdString()));
 }
 
 TEST_F(InstallTree, TheAgentHandlesNimbrabackupAddresses) {
   const QString applications = prefix_ + "/share/applications";
   const Ran db = run_program("update-desktop-database", {applications});
   ASSERT_EQ(db.code, 0) << db.err.toStdString();
-  const Ran query = run_program("xdg-mime", {"query", "default", "x-scheme-handler/nimbrabackup"}, xdg_environment());
+  const Ran query =
+      run_program("xdg-mime", {"query", "default", "x-scheme-handler/nimbrabackup"}, xdg_environment());
   EXPECT_EQ(query.code, 0) << query.err.toStdString();
   EXPECT_EQ(query.out.trimmed(), "nimbra-backup-agent.desktop");
 

@@ -19,8 +19,8 @@ QStringList args_of(std::initializer_list<const char*> list) {
 }
 
 TEST(NotifierArgs, ReadsEveryElementInOrder) {
-  const ParseResult r = parse_notifier_args(args_of({"1", "/site/path", "2",                        //
-                                                     "Backup successful", "Done.", "Open", "7",     //
+  const ParseResult r = parse_notifier_args(args_of({"1", "/site/path", "2",                     //
+                                                     "Backup successful", "Done.", "Open", "7",  //
                                                      "Storage is full", "95 % (1 GB)", "Settings", "-1"}));
   ASSERT_TRUE(r.ok) << r.error.toStdString();
   EXPECT_EQ(r.request.site_path, "/site/path");
@@ -44,7 +44,9 @@ struct BadArgs {
   QStringList args;
   const char* says;  // a word of the one error line
 };
-void PrintTo(const BadArgs& b, std::ostream* os) { *os << b.name; }
+void PrintTo(const BadArgs& b, std::ostream* os) {
+  *os << b.name;
+}
 
 class NotifierBadArgs : public ::testing::TestWithParam<BadArgs> {};
 
@@ -126,7 +128,8 @@ TEST(NotifyCalls, NoButtonsForAServerWithoutActionsAndNoButtonWithoutALabel) {
 
 TEST(NotifyCalls, ElementsWithoutWordsAreLeftOutAndTheOrderKept) {
   const auto calls = build_notify_calls(
-      request_of({{"", "", "Open", 0}, {"First", "", "Open", 6}, {"", "", "Open", 13}, {"", "Second", "Open", 8}}),
+      request_of(
+          {{"", "", "Open", 0}, {"First", "", "Open", 6}, {"", "", "Open", 13}, {"", "Second", "Open", 8}}),
       {true, true}, "App", "i");
   ASSERT_EQ(calls.size(), 2u);
   EXPECT_EQ(calls[0].summary, "First");

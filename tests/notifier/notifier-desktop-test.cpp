@@ -136,7 +136,9 @@ struct ButtonRow {
   const char* label;
   int action_type;
 };
-void PrintTo(const ButtonRow& r, std::ostream* os) { *os << r.name; }
+void PrintTo(const ButtonRow& r, std::ostream* os) {
+  *os << r.name;
+}
 
 class NotifierButtons : public NotifierOnDesktop, public ::testing::WithParamInterface<ButtonRow> {};
 
@@ -149,8 +151,10 @@ TEST_P(NotifierButtons, ShowTitleTextAndButtonAndTheButtonOpensTheAgent) {
   const QString key = QString(",%1]").arg(row.action_type);
   const QStringList menu = desktop_.contextMenu(key);
   ASSERT_EQ(menu.size(), 2) << menu.join('\n').toStdString();
-  EXPECT_THAT(menu[0].toStdString(), HasSubstr(QString("#%1 (%2) [").arg(row.label, row.title).toStdString()));
-  EXPECT_TRUE(menu.filter(key).size() == 1 && menu.filter(",default]").size() == 1) << menu.join('\n').toStdString();
+  EXPECT_THAT(menu[0].toStdString(),
+              HasSubstr(QString("#%1 (%2) [").arg(row.label, row.title).toStdString()));
+  EXPECT_TRUE(menu.filter(key).size() == 1 && menu.filter(",default]").size() == 1)
+      << menu.join('\n').toStdString();
 
   ASSERT_TRUE(wait_until([&] { return !app_.agentArgs().isEmpty(); }, 5000)) << "the agent was not started";
   EXPECT_EQ(app_.agentArgs(), "open\n");
@@ -166,13 +170,15 @@ TEST_P(NotifierButtons, ShowTitleTextAndButtonAndTheButtonOpensTheAgent) {
   EXPECT_EQ(shown.value("default_action_name").toString(), "default");
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, NotifierButtons,
-                         ::testing::Values(ButtonRow{"OpenButton", "Backup successful", "Open Nimbra Backup", 1},
-                                           ButtonRow{"SettingsButton", "Full Disk Access required", "Settings", 11}),
-                         [](const auto& p) { return std::string(p.param.name); });
+INSTANTIATE_TEST_SUITE_P(
+    Rows, NotifierButtons,
+    ::testing::Values(ButtonRow{"OpenButton", "Backup successful", "Open Nimbra Backup", 1},
+                      ButtonRow{"SettingsButton", "Full Disk Access required", "Settings", 11}),
+    [](const auto& p) { return std::string(p.param.name); });
 
 TEST_F(NotifierOnDesktop, AClickOnTheNotificationOpensTheAgent) {
-  show({element("Storage is full", "You have used 95% of your total storage (1 GB).", "Open Nimbra Backup", 2)});
+  show({element("Storage is full", "You have used 95% of your total storage (1 GB).", "Open Nimbra Backup",
+                2)});
   desktop_.run("dunstctl", {"action", "0"});
   ASSERT_TRUE(wait_until([&] { return !app_.agentArgs().isEmpty(); }, 5000));
   EXPECT_EQ(app_.agentArgs(), "open\n");
@@ -200,7 +206,8 @@ TEST_F(NotifierOnDesktop, MarkupInTitleAndTextIsShownAsText) {
   ASSERT_EQ(history.size(), 1);
   const QJsonObject shown = history[0].toObject();
   EXPECT_EQ(shown.value("summary").toString(), "<b>Nimbra</b> & co");
-  EXPECT_EQ(shown.value("body").toString(), "Tom &amp; &lt;i&gt;Jerry&lt;/i&gt; &lt;a href=&quot;x&quot;&gt;y&lt;/a&gt;");
+  EXPECT_EQ(shown.value("body").toString(),
+            "Tom &amp; &lt;i&gt;Jerry&lt;/i&gt; &lt;a href=&quot;x&quot;&gt;y&lt;/a&gt;");
   // What dunst renders: its own bold title, our words as text.
   const QString message = shown.value("message").toString();
   EXPECT_FALSE(message.contains("<i>") || message.contains("<a ") || message.contains("<b>Nimbra"))
@@ -231,7 +238,7 @@ TEST(NotifierWithoutService, NoServiceOnTheBusExits3) {
   PrivateDesktop desktop(scratch);
   ASSERT_EQ(desktop.startBus(), "");
   const RunResult r = app.run(notifier_args({element("Backup successful", "x", "Open Nimbra Backup", 1)}),
-                        desktop.environment());
+                              desktop.environment());
   EXPECT_EQ(r.code, 3);
   EXPECT_THAT(r.err.toStdString(), HasSubstr("no notification service"));
   EXPECT_EQ(r.err.count('\n'), 1) << r.err.toStdString();
@@ -246,7 +253,8 @@ TEST(NotifierWithoutService, NoSessionBusExits3) {
   QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
   env.insert("DBUS_SESSION_BUS_ADDRESS", "unix:path=" + scratch + "/no-bus");
   env.insert("XDG_STATE_HOME", scratch + "/state");
-  const RunResult r = app.run(notifier_args({element("Backup successful", "x", "Open Nimbra Backup", 1)}), env);
+  const RunResult r =
+      app.run(notifier_args({element("Backup successful", "x", "Open Nimbra Backup", 1)}), env);
   EXPECT_EQ(r.code, 3) << r.err.toStdString();
   EXPECT_TRUE(app.ended(5000));
 }
@@ -255,7 +263,9 @@ struct BadRun {
   const char* name;
   QStringList args;
 };
-void PrintTo(const BadRun& b, std::ostream* os) { *os << b.name; }
+void PrintTo(const BadRun& b, std::ostream* os) {
+  *os << b.name;
+}
 class NotifierBadRun : public ::testing::TestWithParam<BadRun> {};
 
 TEST_P(NotifierBadRun, MalformedArgumentsExit2WithOneLine) {

@@ -23,8 +23,9 @@ TEST(DebianPackage, BuildsWithTheTreeTheDependenciesAndTheHandler) {
   nimbra_test::TempDir tmp;
   const QString out = QString::fromStdString(tmp.path());
   const QString build = QString::fromLocal8Bit(qgetenv("NIMBRA_BUILD_DIR"));
-  const Ran pack = run_program(NIMBRA_CPACK_COMMAND, {"-G", "DEB", "-B", out, "--config", build + "/CPackConfig.cmake"},
-                               QProcessEnvironment::systemEnvironment(), 500000);
+  const Ran pack =
+      run_program(NIMBRA_CPACK_COMMAND, {"-G", "DEB", "-B", out, "--config", build + "/CPackConfig.cmake"},
+                  QProcessEnvironment::systemEnvironment(), 500000);
   ASSERT_EQ(pack.code, 0) << pack.out.toStdString() << pack.err.toStdString();
   const QStringList debs = QDir(out).entryList({"nimbra-backup-agent_*_*.deb"}, QDir::Files);
   ASSERT_EQ(debs.size(), 1) << pack.out.toStdString();
@@ -35,7 +36,8 @@ TEST(DebianPackage, BuildsWithTheTreeTheDependenciesAndTheHandler) {
   QStringList paths;
   for (const QString& line : list.out.split('\n', Qt::SkipEmptyParts))
     paths << line.section(' ', -1).mid(1);  // "./opt/..." -> "/opt/..."
-  for (const QString& f : expected_app_files(build)) EXPECT_TRUE(paths.contains(kAppDir + f)) << f.toStdString();
+  for (const QString& f : expected_app_files(build))
+    EXPECT_TRUE(paths.contains(kAppDir + f)) << f.toStdString();
   for (const QString& f : expected_desktop_files()) {
     const QString system = f.startsWith("etc/") ? "/" + f : "/usr/" + f;
     EXPECT_TRUE(paths.contains(system)) << system.toStdString();
@@ -56,7 +58,8 @@ TEST(DebianPackage, BuildsWithTheTreeTheDependenciesAndTheHandler) {
   const QString root = out + "/root";
   ASSERT_EQ(run_program("dpkg-deb", {"--extract", deb, root}).code, 0);
   const QString entry = root + "/usr/share/applications/nimbra-backup-agent.desktop";
-  const Ran v = run_program("desktop-file-validate", {entry, root + "/etc/xdg/autostart/nimbra-backup-agent.desktop"});
+  const Ran v =
+      run_program("desktop-file-validate", {entry, root + "/etc/xdg/autostart/nimbra-backup-agent.desktop"});
   EXPECT_EQ(v.code, 0) << v.out.toStdString();
   QFile f(entry);
   ASSERT_TRUE(f.open(QIODevice::ReadOnly));

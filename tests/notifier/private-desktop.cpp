@@ -69,12 +69,13 @@ QString PrivateDesktop::startBus() {
   // A session bus with no service folders: nothing is started on demand,
   // so a missing service stays missing.
   const QString config = scratch_ + "/bus.conf";
-  write_text(config, QString("<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN\"\n"
-                             " \"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">\n"
-                             "<busconfig><type>session</type><listen>unix:dir=%1</listen><auth>EXTERNAL</auth>\n"
-                             "<policy context=\"default\"><allow send_destination=\"*\" eavesdrop=\"true\"/>\n"
-                             "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>\n")
-                         .arg(scratch_));
+  write_text(config,
+             QString("<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN\"\n"
+                     " \"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">\n"
+                     "<busconfig><type>session</type><listen>unix:dir=%1</listen><auth>EXTERNAL</auth>\n"
+                     "<policy context=\"default\"><allow send_destination=\"*\" eavesdrop=\"true\"/>\n"
+                     "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>\n")
+                 .arg(scratch_));
   bus_ = std::make_unique<QProcess>();
   return startReading(*bus_, "dbus-daemon", {"--config-file=" + config, "--nofork", "--print-address=1"},
                       bus_address_);
@@ -83,8 +84,8 @@ QString PrivateDesktop::startBus() {
 QString PrivateDesktop::startDisplay() {
   xvfb_ = std::make_unique<QProcess>();
   QString number;
-  const QString why =
-      startReading(*xvfb_, "Xvfb", {"-displayfd", "1", "-screen", "0", "800x600x24", "-nolisten", "tcp"}, number);
+  const QString why = startReading(
+      *xvfb_, "Xvfb", {"-displayfd", "1", "-screen", "0", "800x600x24", "-nolisten", "tcp"}, number);
   display_ = ":" + number;
   return why;
 }
@@ -120,7 +121,9 @@ QString PrivateDesktop::startDunst() {
   return {};
 }
 
-void PrivateDesktop::stopDunst() { stop(dunst_); }
+void PrivateDesktop::stopDunst() {
+  stop(dunst_);
+}
 
 QProcessEnvironment PrivateDesktop::environment() const {
   QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
@@ -137,7 +140,8 @@ QString PrivateDesktop::run(const QString& program, const QStringList& args, int
   p.start(program, args);
   p.waitForFinished(10000);
   if (exit_code != nullptr)
-    *exit_code = p.exitStatus() == QProcess::NormalExit && p.error() != QProcess::FailedToStart ? p.exitCode() : -1;
+    *exit_code =
+        p.exitStatus() == QProcess::NormalExit && p.error() != QProcess::FailedToStart ? p.exitCode() : -1;
   return QString::fromUtf8(p.readAllStandardOutput());
 }
 
