@@ -78,8 +78,10 @@ int run_detached(const std::function<int(const Report&)>& body, int wait_ms) {
 
   // The child: out of the agent's process group and terminal, so that what
   // happens to the agent's session does not end the notifications' process.
+  // It also lets go of the agent's working folder, which may be unmounted.
   ::close(fds[0]);
   ::setsid();
+  if (::chdir("/") != 0) std::perror("nimbra-backup-notifier: cannot change to /");
   int report_fd = fds[1];
   const Report report = [&report_fd](int code) {
     if (report_fd < 0) return;
