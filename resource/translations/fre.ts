@@ -245,7 +245,7 @@
     </message>
     <message>
         <source>Error code {error_code}: Failed to restore path {path}.</source>
-        <translation>Code d’erreur {error_code} : impossible de restaurer le chemin {path}.</translation>
+        <translation>Erreur {error_code} : impossible de restaurer le chemin {path}.</translation>
     </message>
     <message>
         <source>Failed to restore the metadata of {path}.</source>
@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>Error code {error_code}: Failed to take a snapshot for {volume_name}.</source>
-        <translation>Code d’erreur {error_code} : impossible de créer un instantané de {volume_name}.</translation>
+        <translation>Erreur {error_code} : échec de l’instantané de {volume_name}.</translation>
     </message>
     <message>
         <source>Starting to take a snapshot set for {volume_name}.</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>Error code {error_code}: Failed to read the snapshot. Check and fix the disk errors.</source>
-        <translation>Code d’erreur {error_code} : impossible de lire l’instantané. Vérifiez et corrigez les erreurs du disque.</translation>
+        <translation>Erreur {error_code} : impossible de lire l’instantané. Vérifiez et corrigez les erreurs du disque.</translation>
     </message>
     <message>
         <source>Unable to find the snapshot of {volume_name}. The snapshot might be deleted by the operating system, third-party applications, or other reasons. Please try to back up again.</source>
@@ -305,15 +305,15 @@
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because access was denied. Check the snapshot permissions.</source>
-        <translation>Code d’erreur {error_code} : impossible de sauvegarder {volume_name}, l’accès a été refusé. Vérifiez les autorisations des instantanés.</translation>
+        <translation>Erreur {error_code} : sauvegarde de {volume_name} impossible, accès refusé. Vérifiez les autorisations des instantanés.</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because the sector can&apos;t be found. Contact Corvana Technical Support for assistance.</source>
-        <translation>Code d’erreur {error_code} : impossible de sauvegarder {volume_name}, secteur introuvable. Contactez l’assistance technique Corvana.</translation>
+        <translation>Erreur {error_code} : sauvegarde de {volume_name} impossible, secteur introuvable. Contactez l’assistance technique Corvana.</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because the path can&apos;t be found. Contact Corvana Technical Support for assistance.</source>
-        <translation>Code d’erreur {error_code} : impossible de sauvegarder {volume_name}, chemin introuvable. Contactez l’assistance technique Corvana.</translation>
+        <translation>Erreur {error_code} : sauvegarde de {volume_name} impossible, chemin introuvable. Contactez l’assistance technique Corvana.</translation>
     </message>
     <message>
         <source>Failed to back up {volume_name}. (Reason: invalid function, Error Code: {error_code}) Please contact Corvana Technical Support for assistance.</source>
@@ -321,11 +321,11 @@
     </message>
     <message>
         <source>Error code {error_code}: Failed to open {volume_name}. Contact Corvana Technical Support for assistance.</source>
-        <translation>Code d’erreur {error_code} : impossible d’ouvrir {volume_name}. Contactez l’assistance technique Corvana.</translation>
+        <translation>Erreur {error_code} : impossible d’ouvrir {volume_name}. Contactez l’assistance technique Corvana.</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because the device is busy.</source>
-        <translation>Code d’erreur {error_code} : impossible de sauvegarder {volume_name}, l’appareil est occupé.</translation>
+        <translation>Erreur {error_code} : sauvegarde de {volume_name} impossible, appareil occupé.</translation>
     </message>
     <message>
         <source>Terminated the pre-freeze script {script_result_path} because it timed out.</source>
@@ -337,31 +337,31 @@
     </message>
     <message>
         <source>Error code {error_code}: Failed to take a snapshot for {volume_name}. Make sure the Volume Shadow Copy service is running and the volume has enough free space. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/snapshot-failed&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>Code d’erreur {error_code} : impossible de créer un instantané de {volume_name}. Vérifiez que le service Cliché instantané de volume est actif et que le volume a assez d’espace libre. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/snapshot-failed&quot;&gt;En savoir plus&lt;/a&gt;</translation>
+        <translation>Erreur {error_code} : échec de l’instantané de {volume_name}. Vérifiez que le service Cliché instantané de volume est actif et que le volume a assez d’espace libre. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/snapshot-failed&quot;&gt;En savoir plus&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to read the snapshot. Check and fix the disk errors, then back up again. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/read-snapshot-error&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>Code d’erreur {error_code} : impossible de lire l’instantané. Corrigez les erreurs du disque, puis relancez la sauvegarde. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/read-snapshot-error&quot;&gt;En savoir plus&lt;/a&gt;</translation>
+        <translation>Erreur {error_code} : impossible de lire l’instantané. Corrigez les erreurs du disque, puis relancez la sauvegarde. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/read-snapshot-error&quot;&gt;En savoir plus&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to open the snapshot of {volume_name}. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/snapshot-open-error&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>Code d’erreur {error_code} : impossible d’ouvrir l’instantané de {volume_name}. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/snapshot-open-error&quot;&gt;En savoir plus&lt;/a&gt;</translation>
+        <translation>Erreur {error_code} : impossible d’ouvrir l’instantané de {volume_name}. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/snapshot-open-error&quot;&gt;En savoir plus&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because access was denied. Check the snapshot permissions. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/access-denied&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>Code d’erreur {error_code} : impossible de sauvegarder {volume_name}, l’accès a été refusé. Vérifiez les autorisations des instantanés. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/access-denied&quot;&gt;En savoir plus&lt;/a&gt;</translation>
+        <translation>Erreur {error_code} : sauvegarde de {volume_name} impossible, accès refusé. Vérifiez les autorisations des instantanés. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/access-denied&quot;&gt;En savoir plus&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because the sector can&apos;t be found. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/sector-not-found&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>Code d’erreur {error_code} : impossible de sauvegarder {volume_name}, secteur introuvable. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/sector-not-found&quot;&gt;En savoir plus&lt;/a&gt;</translation>
+        <translation>Erreur {error_code} : sauvegarde de {volume_name} impossible, secteur introuvable. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/sector-not-found&quot;&gt;En savoir plus&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because the path can&apos;t be found. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/path-not-found&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>Code d’erreur {error_code} : impossible de sauvegarder {volume_name}, chemin introuvable. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/path-not-found&quot;&gt;En savoir plus&lt;/a&gt;</translation>
+        <translation>Erreur {error_code} : sauvegarde de {volume_name} impossible, chemin introuvable. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/path-not-found&quot;&gt;En savoir plus&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because of an invalid function. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/invalid-function&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>Code d’erreur {error_code} : impossible de sauvegarder {volume_name}, fonction non valide. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/invalid-function&quot;&gt;En savoir plus&lt;/a&gt;</translation>
+        <translation>Erreur {error_code} : sauvegarde de {volume_name} impossible, fonction non valide. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/invalid-function&quot;&gt;En savoir plus&lt;/a&gt;</translation>
     </message>
     <message>
         <source>The specified volume in the %1 policy wasn&apos;t backed up. It doesn&apos;t exist on the device.</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>{volume_name} has a bad cluster in {interval_start} - {interval_end}. The interval is skipped.</source>
-        <translation>{volume_name} contient un cluster défectueux dans {interval_start} - {interval_end}. Cet intervalle est ignoré.</translation>
+        <translation>{volume_name} : cluster défectueux dans {interval_start} - {interval_end}. Intervalle ignoré.</translation>
     </message>
     <message>
         <source>Exit code {exit_code}: Ignored the unsuccessful execution of pre-freeze script {script_result_path}.</source>
@@ -449,11 +449,11 @@
     </message>
     <message>
         <source>Failed to run asr (Apple Software Restore) on {volume_name}. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/asr-failed&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>Impossible d’exécuter asr (Apple Software Restore) sur {volume_name}. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/asr-failed&quot;&gt;En savoir plus&lt;/a&gt;</translation>
+        <translation>Échec d’asr (Apple Software Restore) sur {volume_name}. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/asr-failed&quot;&gt;En savoir plus&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Failed to run asr (Apple Software Restore) on {volume_name}. Restart your Mac and run First Aid to repair the disk.</source>
-        <translation>Impossible d’exécuter asr (Apple Software Restore) sur {volume_name}. Redémarrez votre Mac et réparez le disque avec S.O.S.</translation>
+        <translation>Échec d’asr (Apple Software Restore) sur {volume_name}. Redémarrez votre Mac et réparez le disque avec S.O.S.</translation>
     </message>
     <message>
         <source>Allow the system extension of Nimbra Backup in Privacy &amp; Security to continue backing up. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/system-extension&quot;&gt;Learn how&lt;/a&gt;</source>
@@ -469,7 +469,7 @@
     </message>
     <message>
         <source>Failed to run asr (Apple Software Restore) on {volume_name}. Performing full backup instead.</source>
-        <translation>Impossible d’exécuter asr (Apple Software Restore) sur {volume_name}. Une sauvegarde complète est effectuée à la place.</translation>
+        <translation>Échec d’asr (Apple Software Restore) sur {volume_name}. Une sauvegarde complète est effectuée à la place.</translation>
     </message>
     <message>
         <source>Starts taking snapshots.</source>

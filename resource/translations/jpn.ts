@@ -305,15 +305,15 @@
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because access was denied. Check the snapshot permissions.</source>
-        <translation>エラーコード {error_code}：アクセスが拒否されたため、{volume_name} をバックアップできませんでした。スナップショットの権限を確認してください。</translation>
+        <translation>エラーコード {error_code}：{volume_name} をバックアップできませんでした。アクセスが拒否されました。スナップショットの権限を確認してください。</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because the sector can&apos;t be found. Contact Corvana Technical Support for assistance.</source>
-        <translation>エラーコード {error_code}：セクターが見つからないため、{volume_name} をバックアップできませんでした。Corvana テクニカルサポートにお問い合わせください。</translation>
+        <translation>エラーコード {error_code}：{volume_name} をバックアップできませんでした。セクターが見つかりません。Corvana テクニカルサポートにお問い合わせください。</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because the path can&apos;t be found. Contact Corvana Technical Support for assistance.</source>
-        <translation>エラーコード {error_code}：パスが見つからないため、{volume_name} をバックアップできませんでした。Corvana テクニカルサポートにお問い合わせください。</translation>
+        <translation>エラーコード {error_code}：{volume_name} をバックアップできませんでした。パスが見つかりません。Corvana テクニカルサポートにお問い合わせください。</translation>
     </message>
     <message>
         <source>Failed to back up {volume_name}. (Reason: invalid function, Error Code: {error_code}) Please contact Corvana Technical Support for assistance.</source>
@@ -325,7 +325,7 @@
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because the device is busy.</source>
-        <translation>エラーコード {error_code}：デバイスがビジー状態のため、{volume_name} をバックアップできませんでした。</translation>
+        <translation>エラーコード {error_code}：{volume_name} をバックアップできませんでした。デバイスがビジー状態です。</translation>
     </message>
     <message>
         <source>Terminated the pre-freeze script {script_result_path} because it timed out.</source>
@@ -349,19 +349,19 @@
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because access was denied. Check the snapshot permissions. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/access-denied&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>エラーコード {error_code}：アクセスが拒否されたため、{volume_name} をバックアップできませんでした。スナップショットの権限を確認してください。&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/access-denied&quot;&gt;詳細&lt;/a&gt;</translation>
+        <translation>エラーコード {error_code}：{volume_name} をバックアップできませんでした。アクセスが拒否されました。スナップショットの権限を確認してください。&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/access-denied&quot;&gt;詳細&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because the sector can&apos;t be found. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/sector-not-found&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>エラーコード {error_code}：セクターが見つからないため、{volume_name} をバックアップできませんでした。&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/sector-not-found&quot;&gt;詳細&lt;/a&gt;</translation>
+        <translation>エラーコード {error_code}：{volume_name} をバックアップできませんでした。セクターが見つかりません。&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/sector-not-found&quot;&gt;詳細&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because the path can&apos;t be found. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/path-not-found&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>エラーコード {error_code}：パスが見つからないため、{volume_name} をバックアップできませんでした。&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/path-not-found&quot;&gt;詳細&lt;/a&gt;</translation>
+        <translation>エラーコード {error_code}：{volume_name} をバックアップできませんでした。パスが見つかりません。&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/path-not-found&quot;&gt;詳細&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because of an invalid function. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/invalid-function&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>エラーコード {error_code}：無効な関数のため、{volume_name} をバックアップできませんでした。&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/invalid-function&quot;&gt;詳細&lt;/a&gt;</translation>
+        <translation>エラーコード {error_code}：{volume_name} をバックアップできませんでした。無効な関数です。&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/invalid-function&quot;&gt;詳細&lt;/a&gt;</translation>
     </message>
     <message>
         <source>The specified volume in the %1 policy wasn&apos;t backed up. It doesn&apos;t exist on the device.</source>

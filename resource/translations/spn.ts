@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>Error code {error_code}: Failed to take a snapshot for {volume_name}.</source>
-        <translation>Código de error {error_code}: no se pudo crear la instantánea de {volume_name}.</translation>
+        <translation>Código de error {error_code}: falló la instantánea de {volume_name}.</translation>
     </message>
     <message>
         <source>Starting to take a snapshot set for {volume_name}.</source>
