@@ -345,7 +345,7 @@
     </message>
     <message>
         <source>Error code {error_code}: Failed to open the snapshot of {volume_name}. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/snapshot-open-error&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>Fehlercode {error_code}: Der Snapshot von {volume_name} konnte nicht geöffnet werden. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/snapshot-open-error&quot;&gt;Weitere Infos&lt;/a&gt;</translation>
+        <translation>Fehlercode {error_code}: Snapshot von {volume_name} nicht geöffnet. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/snapshot-open-error&quot;&gt;Weitere Infos&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because access was denied. Check the snapshot permissions. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/access-denied&quot;&gt;Learn more&lt;/a&gt;</source>
@@ -449,7 +449,7 @@
     </message>
     <message>
         <source>Failed to run asr (Apple Software Restore) on {volume_name}. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/asr-failed&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>asr (Apple Software Restore) konnte auf {volume_name} nicht ausgeführt werden. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/asr-failed&quot;&gt;Weitere Infos&lt;/a&gt;</translation>
+        <translation>asr (Apple Software Restore) auf {volume_name} fehlgeschlagen. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/asr-failed&quot;&gt;Weitere Infos&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Failed to run asr (Apple Software Restore) on {volume_name}. Restart your Mac and run First Aid to repair the disk.</source>

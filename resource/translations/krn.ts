@@ -337,31 +337,31 @@
     </message>
     <message>
         <source>Error code {error_code}: Failed to take a snapshot for {volume_name}. Make sure the Volume Shadow Copy service is running and the volume has enough free space. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/snapshot-failed&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>오류 코드 {error_code}: {volume_name}의 스냅샷을 생성하지 못했습니다. 볼륨 섀도 복사본 서비스가 실행 중이고 볼륨의 여유 공간이 충분한지 확인하세요. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/snapshot-failed&quot;&gt;자세히 알아보기&lt;/a&gt;</translation>
+        <translation>오류 코드 {error_code}: {volume_name}의 스냅샷을 생성하지 못했습니다. 볼륨 섀도 복사본 서비스가 실행 중이고 볼륨의 여유 공간이 충분한지 확인하세요. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/snapshot-failed&quot;&gt;자세히 보기&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to read the snapshot. Check and fix the disk errors, then back up again. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/read-snapshot-error&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>오류 코드 {error_code}: 스냅샷을 읽지 못했습니다. 디스크 오류를 수정한 후 다시 백업하세요. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/read-snapshot-error&quot;&gt;자세히 알아보기&lt;/a&gt;</translation>
+        <translation>오류 코드 {error_code}: 스냅샷을 읽지 못했습니다. 디스크 오류를 수정한 후 다시 백업하세요. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/read-snapshot-error&quot;&gt;자세히 보기&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to open the snapshot of {volume_name}. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/snapshot-open-error&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>오류 코드 {error_code}: {volume_name}의 스냅샷을 열지 못했습니다. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/snapshot-open-error&quot;&gt;자세히 알아보기&lt;/a&gt;</translation>
+        <translation>오류 코드 {error_code}: {volume_name} 스냅샷 열기 실패. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/snapshot-open-error&quot;&gt;자세히 보기&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because access was denied. Check the snapshot permissions. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/access-denied&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>오류 코드 {error_code}: 액세스가 거부되어 {volume_name}을(를) 백업하지 못했습니다. 스냅샷 권한을 확인하세요. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/access-denied&quot;&gt;자세히 알아보기&lt;/a&gt;</translation>
+        <translation>오류 코드 {error_code}: 액세스가 거부되어 {volume_name}을(를) 백업하지 못했습니다. 스냅샷 권한을 확인하세요. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/access-denied&quot;&gt;자세히 보기&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because the sector can&apos;t be found. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/sector-not-found&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>오류 코드 {error_code}: 섹터를 찾을 수 없어 {volume_name}을(를) 백업하지 못했습니다. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/sector-not-found&quot;&gt;자세히 알아보기&lt;/a&gt;</translation>
+        <translation>오류 코드 {error_code}: 섹터를 찾을 수 없어 {volume_name}을(를) 백업하지 못했습니다. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/sector-not-found&quot;&gt;자세히 보기&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because the path can&apos;t be found. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/path-not-found&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>오류 코드 {error_code}: 경로를 찾을 수 없어 {volume_name}을(를) 백업하지 못했습니다. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/path-not-found&quot;&gt;자세히 알아보기&lt;/a&gt;</translation>
+        <translation>오류 코드 {error_code}: 경로를 찾을 수 없어 {volume_name}을(를) 백업하지 못했습니다. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/path-not-found&quot;&gt;자세히 보기&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because of an invalid function. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/invalid-function&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>오류 코드 {error_code}: 잘못된 함수로 인해 {volume_name}을(를) 백업하지 못했습니다. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/invalid-function&quot;&gt;자세히 알아보기&lt;/a&gt;</translation>
+        <translation>오류 코드 {error_code}: 잘못된 함수로 인해 {volume_name}을(를) 백업하지 못했습니다. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/invalid-function&quot;&gt;자세히 보기&lt;/a&gt;</translation>
     </message>
     <message>
         <source>The specified volume in the %1 policy wasn&apos;t backed up. It doesn&apos;t exist on the device.</source>
@@ -369,11 +369,11 @@
     </message>
     <message>
         <source>The file system check of {volume_name} found errors. Repair the volume and back up again. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/volume-check-failed&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>{volume_name}의 파일 시스템 검사에서 오류가 발견되었습니다. 볼륨을 복구한 후 다시 백업하세요. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/volume-check-failed&quot;&gt;자세히 알아보기&lt;/a&gt;</translation>
+        <translation>{volume_name}의 파일 시스템 검사에서 오류가 발견되었습니다. 볼륨을 복구한 후 다시 백업하세요. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/volume-check-failed&quot;&gt;자세히 보기&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Inode {inode_number} on {volume_name} is corrupted. Repair the volume and back up again. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/inode-corrupted&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>inode {inode_number}({volume_name})이(가) 손상되었습니다. 볼륨을 복구한 후 다시 백업하세요. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/inode-corrupted&quot;&gt;자세히 알아보기&lt;/a&gt;</translation>
+        <translation>inode {inode_number}({volume_name})이(가) 손상되었습니다. 볼륨을 복구한 후 다시 백업하세요. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/inode-corrupted&quot;&gt;자세히 보기&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Failed to create the restoration path {path} because folder {parent_path} does not exist.</source>
@@ -433,7 +433,7 @@
     </message>
     <message>
         <source>Unable to find the shadow copy of {volume_name}. The operating system might have deleted it. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/shadow-copy-not-found&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>{volume_name}의 섀도 복사본을 찾을 수 없습니다. 운영 체제에서 삭제했을 수 있습니다. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/shadow-copy-not-found&quot;&gt;자세히 알아보기&lt;/a&gt;</translation>
+        <translation>{volume_name}의 섀도 복사본을 찾을 수 없습니다. 운영 체제에서 삭제했을 수 있습니다. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/shadow-copy-not-found&quot;&gt;자세히 보기&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Starts creating Nimbra Backup data volume.</source>
@@ -449,7 +449,7 @@
     </message>
     <message>
         <source>Failed to run asr (Apple Software Restore) on {volume_name}. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/asr-failed&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>{volume_name}에서 asr(Apple Software Restore)을 실행하지 못했습니다. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/asr-failed&quot;&gt;자세히 알아보기&lt;/a&gt;</translation>
+        <translation>{volume_name}에서 asr(Apple Software Restore) 실행 실패. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/asr-failed&quot;&gt;자세히 보기&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Failed to run asr (Apple Software Restore) on {volume_name}. Restart your Mac and run First Aid to repair the disk.</source>
@@ -481,7 +481,7 @@
     </message>
     <message>
         <source>Backup failed because the backup account on this Mac could not be authenticated. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/backup-account&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>이 Mac의 백업 계정을 인증할 수 없어 백업이 실패했습니다. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/backup-account&quot;&gt;자세히 알아보기&lt;/a&gt;</translation>
+        <translation>이 Mac의 백업 계정을 인증할 수 없어 백업이 실패했습니다. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/backup-account&quot;&gt;자세히 보기&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Failed to mount {volume_name}. (Reason: Encrypted volumes cannot be mounted.)</source>
@@ -1057,7 +1057,7 @@
     </message>
     <message>
         <source>Learn more</source>
-        <translation>자세히 알아보기</translation>
+        <translation>자세히 보기</translation>
     </message>
     <message>
         <source>Knowledge Center</source>

@@ -19,9 +19,10 @@ Fitted fit_popup(const LogEntry& entry) {
   const int maxHeight = DPIinfo::scaled(40);
   Fitted fitted;
   for (int limit = 354; limit > 20; --limit) {
-    fitted = {string_display::render_event_message(entry, true, limit), limit};
+    fitted = {string_display::render_event_message(entry, true, limit), limit, false};
     scratch.setText(line_height_div(fitted.message + QStringLiteral(" .")));
-    if (scratch.heightForWidth(width) <= maxHeight) break;
+    fitted.fits = scratch.heightForWidth(width) <= maxHeight;
+    if (fitted.fits) break;
   }
   return fitted;
 }
@@ -33,10 +34,11 @@ Fitted fit_activity_dialog(const LogEntry& entry) {
   label.setFixedWidth(DPIinfo::scaled(441));
   Fitted fitted;
   for (int limit = 1313; limit > 20; limit -= 10) {
-    fitted = {string_display::render_event_message(entry, true, limit), limit};
+    fitted = {string_display::render_event_message(entry, true, limit), limit, false};
     label.setText(line_height_div(fitted.message));
     label.adjustSize();
-    if (label.width() <= 1323 && label.height() <= 60) break;
+    fitted.fits = label.width() <= 1323 && label.height() <= 60;
+    if (fitted.fits) break;
   }
   return fitted;
 }

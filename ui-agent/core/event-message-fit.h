@@ -21,6 +21,9 @@ namespace event_fit {
 struct Fitted {
   QString message;  // rich text, values in bold
   int limit = 0;    // the width limit it was rendered with
+  bool fits = false;  // false: even the smallest limit overflows (a message
+                      // whose markup allowance exceeds the room, such as one
+                      // with a long link); `message` is then the last try
 };
 
 // Wraps a message the way the labels show it: a div with a 20 px line height.
