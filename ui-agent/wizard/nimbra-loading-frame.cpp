@@ -65,8 +65,9 @@ QString NimbraLoadingFrame::text() const {
 
 int NimbraLoadingFrame::startLoading() {
   text_->ensurePolished();
-  setFixedWidth(loading_frame_width(text_->sizeHint().width(), DPIinfo::getDPI(), maximumWidth()));
-  setFixedHeight(maximumHeight());
+  // The width is fixed for each text; the bounds stay 480 x 40.
+  setFixedWidth(loading_frame_width(text_->sizeHint().width(), DPIinfo::getDPI(), DPIinfo::scaled(480)));
+  setFixedHeight(DPIinfo::scaled(40));
   show();
   raise();
   setFocus(Qt::OtherFocusReason);

@@ -102,6 +102,7 @@ SummaryWidget::SummaryWidget(QWidget* parent) : QFrame(parent) {
   // The chooser sits a little taller than a text row: centre label and dot on it.
   siteLabel->setMinimumHeight(chooser_->sizeHint().height());
   chooser_->setAccessibleName(siteLabel->text().trimmed());
+  chooser_->view()->setAccessibleName(siteLabel->text().trimmed());
   singleSite_->setAccessibleName(siteLabel->text().trimmed());
   siteLabel->setBuddy(chooser_);
   v->addWidget(separator(this));
