@@ -55,6 +55,7 @@ SummaryPage::SummaryPage(QWidget* parent) : QWidget(parent) {
 
   summary_ = new SummaryWidget(this);
   summary_->setFixedWidth(DPIinfo::scaled(750));
+  summary_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 
   done_ = new QPushButton(text(Str::btn_done), this);
   done_->setObjectName(QStringLiteral("SummaryDone"));

@@ -50,9 +50,9 @@ QHBoxLayout* row(QLabel* label, QWidget* value, QVBoxLayout* into, QWidget* pare
   auto* h = new QHBoxLayout;
   h->setContentsMargins(0, 0, 0, 0);
   h->setSpacing(DPIinfo::scaled(8));
-  h->addWidget(dot(QStringLiteral("icn_dot"), parent), 0, Qt::AlignTop);
-  h->addWidget(label, 0, Qt::AlignTop);
-  h->addWidget(value, 0, Qt::AlignTop);
+  h->addWidget(dot(QStringLiteral("icn_dot"), parent), 0, Qt::AlignVCenter);
+  h->addWidget(label, 0, Qt::AlignVCenter);
+  h->addWidget(value, 0, Qt::AlignVCenter);
   h->addStretch(1);
   label->setBuddy(value);
   value->setAccessibleName(label->text().trimmed());
@@ -99,8 +99,6 @@ SummaryWidget::SummaryWidget(QWidget* parent) : QFrame(parent) {
   siteLayout->addWidget(singleSite_);
   QLabel* siteLabel = rowLabel(Str::desc_data_center, this);
   row(siteLabel, site, v, this);
-  // The chooser sits a little taller than a text row: centre label and dot on it.
-  siteLabel->setMinimumHeight(chooser_->sizeHint().height());
   chooser_->setAccessibleName(siteLabel->text().trimmed());
   chooser_->view()->setAccessibleName(siteLabel->text().trimmed());
   singleSite_->setAccessibleName(siteLabel->text().trimmed());
