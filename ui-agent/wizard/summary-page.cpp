@@ -72,7 +72,7 @@ SummaryPage::SummaryPage(QWidget* parent) : QWidget(parent) {
   v->addSpacing(DPIinfo::scaled(42));
   auto* summaryRow = new QHBoxLayout;
   summaryRow->addStretch(1);
-  summaryRow->addWidget(summary_);
+  summaryRow->addWidget(summary_, 0, Qt::AlignTop);
   summaryRow->addStretch(1);
   auto* holder = new QWidget(this);
   holder->setMinimumHeight(DPIinfo::scaled(96));
