@@ -144,8 +144,10 @@ void renderWizard() {
     w.showConnecting();
     rows.push_back({{"connecting frame", connecting}});
     rows.push_back({{"error sheet, code 10 (a long message)", errorOver(w, 10, Json::Value())}});
-    rows.push_back({{"error sheet, code 17 (console link)",
-                     errorOver(w, 17, parse(R"({"error":{"code":17,"base_url":"https://console.nimbrabackup.com"}})"))}});
+    rows.push_back(
+        {{"error sheet, code 17 (console link)",
+          errorOver(w, 17,
+                    parse(R"({"error":{"code":17,"base_url":"https://console.nimbrabackup.com"}})"))}});
     gallery::save(gallery::sheet(QStringLiteral("Wizard: connecting and errors"), rows, kBackdrop),
                   QStringLiteral("wizard-connecting-errors.png"));
   }

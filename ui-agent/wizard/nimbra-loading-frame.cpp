@@ -34,7 +34,8 @@ NimbraLoadingFrame::NimbraLoadingFrame(QWidget* parent) : QFrame(parent) {
   icon_->setObjectName(QStringLiteral("NimbraLoadingIcon"));
   text_ = new QLabel(this);
   text_->setObjectName(QStringLiteral("NimbraLoadingText"));
-  text_->setStyleSheet(DPIinfo::getScaledStyleSheet(QStringLiteral("QLabel { color: #1E2832; font-size: 14px; }")));
+  text_->setStyleSheet(
+      DPIinfo::getScaledStyleSheet(QStringLiteral("QLabel { color: #1E2832; font-size: 14px; }")));
   text_->setTextFormat(Qt::PlainText);
 
   auto* h = new QHBoxLayout(this);

@@ -153,7 +153,7 @@ QMap<QString, QString> site_map(const Json::Value& response) {
 QString account_type(const Json::Value& response) {
   const Json::Value& policy = jsonx::get_object(site(response, 0), "backup_policy");
   return jsonx::get_string(policy, "account_type") == "nimbra" ? QStringLiteral("nimbra")
-                                                                : QStringLiteral("vell");
+                                                               : QStringLiteral("vell");
 }
 
 Json::Value with_display_policy_names(const Json::Value& response) {

@@ -68,8 +68,8 @@ SummaryComboBox::SummaryComboBox(QWidget* parent) : QComboBox(parent) {
 
 SummaryWidget::SummaryWidget(QWidget* parent) : QFrame(parent) {
   setObjectName(QStringLiteral("SummaryWidget"));
-  setStyleSheet(DPIinfo::getScaledStyleSheet(
-      QStringLiteral("QFrame#SummaryWidget {background-color: rgba(171, 181, 194, 25);border-radius: 4px;}")));
+  setStyleSheet(DPIinfo::getScaledStyleSheet(QStringLiteral(
+      "QFrame#SummaryWidget {background-color: rgba(171, 181, 194, 25);border-radius: 4px;}")));
   auto* v = new QVBoxLayout(this);
   v->setContentsMargins(DPIinfo::scaled(20), DPIinfo::scaled(16), DPIinfo::scaled(20), DPIinfo::scaled(16));
   v->setSpacing(DPIinfo::scaled(12));
@@ -133,7 +133,8 @@ SummaryWidget::SummaryWidget(QWidget* parent) : QFrame(parent) {
   note_->hide();
   v->addWidget(note_);
 
-  connect(chooser_, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &SummaryWidget::slotSiteChanaged);
+  connect(chooser_, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+          &SummaryWidget::slotSiteChanaged);
 }
 
 void SummaryWidget::setData(const Json::Value& response) {
@@ -145,8 +146,8 @@ void SummaryWidget::setData(const Json::Value& response) {
     const QSignalBlocker block(chooser_);
     chooser_->clear();
     for (int i = 0; i < count; ++i)
-      chooser_->addItem(summary_text::site_display_name(
-          jsonx::get_object(summary_text::site(data_, i), "billing")));
+      chooser_->addItem(
+          summary_text::site_display_name(jsonx::get_object(summary_text::site(data_, i), "billing")));
     chooser_->setCurrentIndex(0);
   }
   singleSite_->setText(chooser_->itemText(0));

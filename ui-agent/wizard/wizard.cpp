@@ -93,7 +93,8 @@ void Wizard::showSignInSheet() {
   if (!signIn_) {
     signIn_ = new VellMessageSheet(VellMessageSheet::Notice, this, true);
     signIn_->setFixedSize(DPIinfo::scaled(480), DPIinfo::scaled(184));
-    signIn_->setText(text(Str::title_wizard_sign_in), getStyleSheet(QStringLiteral("wizard_text_17px_1E2832")));
+    signIn_->setText(text(Str::title_wizard_sign_in),
+                     getStyleSheet(QStringLiteral("wizard_text_17px_1E2832")));
     signIn_->setInformativeText(text(Str::desc_wizard_sign_in),
                                 getStyleSheet(QStringLiteral("wizard_informative_text_15px_1E2832")));
     if (QPushButton* ok = signIn_->button(QMessageBox::Ok)) {
@@ -103,7 +104,8 @@ void Wizard::showSignInSheet() {
       ok->setAccessibleName(ok->text());
     }
     if (auto* box = qobject_cast<QBoxLayout*>(signIn_->layout()))
-      box->setContentsMargins(DPIinfo::scaled(12), DPIinfo::scaled(12), DPIinfo::scaled(12), DPIinfo::scaled(6));
+      box->setContentsMargins(DPIinfo::scaled(12), DPIinfo::scaled(12), DPIinfo::scaled(12),
+                              DPIinfo::scaled(6));
     signIn_->setAccessibleName(text(Str::title_wizard_sign_in));
     VellMask::createMask(signIn_, this, kMaskColour);
   }

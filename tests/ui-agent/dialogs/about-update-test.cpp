@@ -33,7 +33,8 @@ void loadLook() {
   UIPathManager::getInstance()->setPath(QStringLiteral("resource_path"), res);
   ImageManager::getInstance()->initialize(0);
   StyleManager::getInstance()->clear();
-  StyleManager::getInstance()->initialize({res + "/agent.stylesheet", res + "/component.business.stylesheet"});
+  StyleManager::getInstance()->initialize(
+      {res + "/agent.stylesheet", res + "/component.business.stylesheet"});
 }
 
 // --- update status dialog --------------------------------------------------
@@ -71,7 +72,10 @@ TEST_F(UpdateDialog, MessageAndButton) {
 
 enum class Way { OkButton, OkByReturn, Escape, CloseButton };
 void PrintTo(Way w, std::ostream* os) {
-  *os << (w == Way::OkButton ? "ok" : w == Way::OkByReturn ? "return" : w == Way::Escape ? "escape" : "close");
+  *os << (w == Way::OkButton     ? "ok"
+          : w == Way::OkByReturn ? "return"
+          : w == Way::Escape     ? "escape"
+                                 : "close");
 }
 class UpdateDialogFinished : public UpdateDialog, public ::testing::WithParamInterface<Way> {};
 
@@ -116,7 +120,9 @@ struct DragRow {
   bool moves;
   QPoint to;
 };
-void PrintTo(const DragRow& r, std::ostream* os) { *os << r.name; }
+void PrintTo(const DragRow& r, std::ostream* os) {
+  *os << r.name;
+}
 class AboutDrag : public ::testing::TestWithParam<DragRow> {};
 TEST_P(AboutDrag, StartsOnlyAwayFromTheLeftAndTopEdges) {
   const DragRow& r = GetParam();
@@ -130,7 +136,8 @@ INSTANTIATE_TEST_SUITE_P(
     Rows, AboutDrag,
     ::testing::Values(DragRow{"inside", 30, 40, QPoint(530, 440), 1.0, true, QPoint(500, 400)},
                       DragRow{"scaled", 30, 40, QPoint(530, 440), 2.0, true, QPoint(1000, 800)},
-                      DragRow{"fractional_scale_truncates", 1, 1, QPoint(102, 102), 1.25, true, QPoint(126, 126)},
+                      DragRow{"fractional_scale_truncates", 1, 1, QPoint(102, 102), 1.25, true,
+                              QPoint(126, 126)},
                       DragRow{"left_edge", 0, 40, QPoint(530, 440), 1.0, false, QPoint()},
                       DragRow{"top_edge", 30, 0, QPoint(530, 440), 1.0, false, QPoint()},
                       DragRow{"corner", 0, 0, QPoint(530, 440), 1.0, false, QPoint()}),
@@ -153,7 +160,8 @@ class AboutWindowTest : public ::testing::Test {
 
   void mouse(QEvent::Type type, QPoint local, Qt::MouseButton button = Qt::LeftButton) {
     QMouseEvent e(type, local, container_.mapToGlobal(local), button,
-                  type == QEvent::MouseMove ? Qt::MouseButtons(button) : Qt::MouseButtons(button), Qt::NoModifier);
+                  type == QEvent::MouseMove ? Qt::MouseButtons(button) : Qt::MouseButtons(button),
+                  Qt::NoModifier);
     QApplication::sendEvent(&container_, &e);
   }
 

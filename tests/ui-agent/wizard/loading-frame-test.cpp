@@ -18,7 +18,9 @@ struct WidthRow {
   int max;
   int expected;
 };
-void PrintTo(const WidthRow& r, std::ostream* os) { *os << r.name; }
+void PrintTo(const WidthRow& r, std::ostream* os) {
+  *os << r.name;
+}
 class LoadingFrameWidth : public ::testing::TestWithParam<WidthRow> {};
 TEST_P(LoadingFrameWidth, TextPlusFixedPartsUpToTheMaximum) {
   EXPECT_EQ(loading_frame_width(GetParam().hint, GetParam().scale, GetParam().max), GetParam().expected);
@@ -29,7 +31,9 @@ INSTANTIATE_TEST_SUITE_P(Rows, LoadingFrameWidth,
                                            WidthRow{"long_text_capped", 900, 1.0, 480, 480},
                                            WidthRow{"scaled_fixed_parts", 300, 2.0, 960, 416},
                                            WidthRow{"fractional_scale_truncates", 100, 1.5, 720, 187}),
-                         [](const ::testing::TestParamInfo<WidthRow>& p) { return std::string(p.param.name); });
+                         [](const ::testing::TestParamInfo<WidthRow>& p) {
+                           return std::string(p.param.name);
+                         });
 
 class LoadingFrameTest : public ::testing::Test {
  protected:

@@ -59,8 +59,9 @@ TEST_F(SummaryPageTest, ChoosingAnotherSiteUpdatesEveryRowTheLinkAndTheSite) {
   EXPECT_EQ(changes.at(0).at(0).toString(), "EU");
   EXPECT_EQ(label("SummaryPolicy"), "Finance laptops");
   EXPECT_EQ(label("SummaryPolicy"), page_.findChild<QLabel*>("SummaryPolicy")->toolTip());
-  EXPECT_EQ(label("SummarySchedule"),
-            text(Str::weekly_backup).arg(QStringLiteral("Monday, Wednesday, Friday"), QStringLiteral("21:30")));
+  EXPECT_EQ(
+      label("SummarySchedule"),
+      text(Str::weekly_backup).arg(QStringLiteral("Monday, Wednesday, Friday"), QStringLiteral("21:30")));
   EXPECT_TRUE(label("SummaryScope").contains(text(Str::desc_backup_source_custom_vol).arg("C:, D:, E:...")));
   EXPECT_TRUE(visible("SummaryMoreInfo"));
   EXPECT_TRUE(label("SummaryIntro").contains("href=\"https://eu.example\""));
@@ -68,14 +69,15 @@ TEST_F(SummaryPageTest, ChoosingAnotherSiteUpdatesEveryRowTheLinkAndTheSite) {
   EXPECT_EQ(page_.subIdForSite(), "sub-eu");
 
   chooser()->setCurrentIndex(2);
-  EXPECT_EQ(label("SummarySchedule"), text(Str::event_backup).arg(QStringLiteral("Screen lock, Device power on")));
+  EXPECT_EQ(label("SummarySchedule"),
+            text(Str::event_backup).arg(QStringLiteral("Screen lock, Device power on")));
   EXPECT_FALSE(visible("SummaryMoreInfo"));
   EXPECT_EQ(page_.siteCode(), "JP");
 }
 
 TEST_F(SummaryPageTest, RepeatedCodeIsListedTwiceAndBothMapToTheLaterSubscription) {
-  page_.setSiteInfo(parse(R"({"data":[)" + wizard_test::site("US", "old", wizard_test::kDefaultPolicy, "u1") + "," +
-                          wizard_test::site("US", "new", wizard_test::kNamedPolicy, "u2") + "]}"));
+  page_.setSiteInfo(parse(R"({"data":[)" + wizard_test::site("US", "old", wizard_test::kDefaultPolicy, "u1") +
+                          "," + wizard_test::site("US", "new", wizard_test::kNamedPolicy, "u2") + "]}"));
   ASSERT_EQ(chooser()->count(), 2);
   EXPECT_EQ(page_.subIdForSite(), "new");
   chooser()->setCurrentIndex(1);

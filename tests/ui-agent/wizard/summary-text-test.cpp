@@ -21,8 +21,12 @@ struct Row {
   const char* json;
   QString expected;
 };
-void PrintTo(const Row& r, std::ostream* os) { *os << r.name; }
-std::string rowName(const ::testing::TestParamInfo<Row>& p) { return p.param.name; }
+void PrintTo(const Row& r, std::ostream* os) {
+  *os << r.name;
+}
+std::string rowName(const ::testing::TestParamInfo<Row>& p) {
+  return p.param.name;
+}
 
 // --- site display name ---------------------------------------------------
 
@@ -55,17 +59,19 @@ TEST_P(PolicyName, FromPolicy) {
 }
 INSTANTIATE_TEST_SUITE_P(
     Rows, PolicyName,
-    ::testing::Values(
-        Row{"default_personal_computer", R"({"is_default":true,"backup_type":1,"policy_name":"P"})",
-            text(Str::default_policy_endpoint)},
-        Row{"default_physical_server", R"({"is_default":true,"backup_type":2,"policy_name":"P"})",
-            text(Str::default_policy_physical_server)},
-        Row{"default_other_type_empty", R"({"is_default":true,"backup_type":3,"policy_name":"P"})", QString()},
-        Row{"named", R"({"is_default":false,"backup_type":1,"policy_name":"Finance laptops"})",
-            QStringLiteral("Finance laptops")},
-        Row{"is_default_as_string_is_not_default", R"({"is_default":"true","backup_type":1,"policy_name":"N"})",
-            QStringLiteral("N")},
-        Row{"name_of_wrong_type", R"({"policy_name":["x"]})", QString()}),
+    ::testing::Values(Row{"default_personal_computer",
+                          R"({"is_default":true,"backup_type":1,"policy_name":"P"})",
+                          text(Str::default_policy_endpoint)},
+                      Row{"default_physical_server",
+                          R"({"is_default":true,"backup_type":2,"policy_name":"P"})",
+                          text(Str::default_policy_physical_server)},
+                      Row{"default_other_type_empty",
+                          R"({"is_default":true,"backup_type":3,"policy_name":"P"})", QString()},
+                      Row{"named", R"({"is_default":false,"backup_type":1,"policy_name":"Finance laptops"})",
+                          QStringLiteral("Finance laptops")},
+                      Row{"is_default_as_string_is_not_default",
+                          R"({"is_default":"true","backup_type":1,"policy_name":"N"})", QStringLiteral("N")},
+                      Row{"name_of_wrong_type", R"({"policy_name":["x"]})", QString()}),
     rowName);
 
 // --- scope -----------------------------------------------------------------
@@ -76,7 +82,9 @@ struct ScopeRow {
   QString expected;
   bool shortened;
 };
-void PrintTo(const ScopeRow& r, std::ostream* os) { *os << r.name; }
+void PrintTo(const ScopeRow& r, std::ostream* os) {
+  *os << r.name;
+}
 
 class Scope : public ::testing::TestWithParam<ScopeRow> {};
 TEST_P(Scope, TextAndNote) {
@@ -87,22 +95,22 @@ TEST_P(Scope, TextAndNote) {
 const QString kVolumes = text(Str::desc_backup_source_custom_vol);
 INSTANTIATE_TEST_SUITE_P(
     Rows, Scope,
-    ::testing::Values(
-        ScopeRow{"entire_device_external", R"({"source_type":1,"enable_backup_external":true})",
-                 text(Str::desc_backup_source_bare_metal_external_device), false},
-        ScopeRow{"entire_device", R"({"source_type":1,"enable_backup_external":false})",
-                 text(Str::desc_backup_source_bare_metal), false},
-        ScopeRow{"system_volume", R"({"source_type":2,"custom_volume":["C:","D:","E:","F:"]})",
-                 text(Str::desc_backup_source_system_vol), false},
-        ScopeRow{"three_volumes", R"({"source_type":3,"custom_volume":["C:","D:","E:"]})",
-                 kVolumes.arg("C:, D:, E:"), false},
-        ScopeRow{"four_volumes", R"({"source_type":3,"custom_volume":["C:","D:","E:","F:"]})",
-                 kVolumes.arg("C:, D:, E:..."), true},
-        ScopeRow{"no_volumes", R"({"source_type":3})", kVolumes.arg(QString()), false},
-        ScopeRow{"names_of_wrong_type_skipped", R"({"source_type":3,"custom_volume":["C:",4,null,"D:"]})",
-                 kVolumes.arg("C:, D:"), false},
-        ScopeRow{"unknown_source_type", R"({"source_type":9})", QString(), false},
-        ScopeRow{"source_type_as_string", R"({"source_type":"1"})", QString(), false}),
+    ::testing::Values(ScopeRow{"entire_device_external", R"({"source_type":1,"enable_backup_external":true})",
+                               text(Str::desc_backup_source_bare_metal_external_device), false},
+                      ScopeRow{"entire_device", R"({"source_type":1,"enable_backup_external":false})",
+                               text(Str::desc_backup_source_bare_metal), false},
+                      ScopeRow{"system_volume", R"({"source_type":2,"custom_volume":["C:","D:","E:","F:"]})",
+                               text(Str::desc_backup_source_system_vol), false},
+                      ScopeRow{"three_volumes", R"({"source_type":3,"custom_volume":["C:","D:","E:"]})",
+                               kVolumes.arg("C:, D:, E:"), false},
+                      ScopeRow{"four_volumes", R"({"source_type":3,"custom_volume":["C:","D:","E:","F:"]})",
+                               kVolumes.arg("C:, D:, E:..."), true},
+                      ScopeRow{"no_volumes", R"({"source_type":3})", kVolumes.arg(QString()), false},
+                      ScopeRow{"names_of_wrong_type_skipped",
+                               R"({"source_type":3,"custom_volume":["C:",4,null,"D:"]})",
+                               kVolumes.arg("C:, D:"), false},
+                      ScopeRow{"unknown_source_type", R"({"source_type":9})", QString(), false},
+                      ScopeRow{"source_type_as_string", R"({"source_type":"1"})", QString(), false}),
     [](const ::testing::TestParamInfo<ScopeRow>& p) { return std::string(p.param.name); });
 
 // --- schedule ----------------------------------------------------------------
@@ -142,9 +150,11 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"type3_events_in_order_unknown_add_nothing",
             R"({"schedule_setting_type":3,"sched_content":{"event":{"types":[3,9,1,2,"1"]}}})",
             kEvent.arg(QStringLiteral("Device power on, Screen lock, Signout"))},
-        Row{"type3_no_events", R"({"schedule_setting_type":3,"sched_content":{"event":{}}})", kEvent.arg(QString())},
+        Row{"type3_no_events", R"({"schedule_setting_type":3,"sched_content":{"event":{}}})",
+            kEvent.arg(QString())},
         Row{"sched_content_of_wrong_type",
-            R"({"schedule_setting_type":3,"sched_content":[{"event":{"types":[1]}}]})", kEvent.arg(QString())},
+            R"({"schedule_setting_type":3,"sched_content":[{"event":{"types":[1]}}]})",
+            kEvent.arg(QString())},
         Row{"type0_leaves_row", R"({"schedule_setting_type":0})", QString()},
         Row{"type5_leaves_row", R"({"schedule_setting_type":5})", QString()},
         Row{"type_as_string_leaves_row", R"({"schedule_setting_type":"4"})", QString()}),
@@ -160,7 +170,8 @@ TEST(SummarySiteMap, RepeatedCodeMapsToTheLaterSubscription) {
   const QMap<QString, QString> expected{{"US", "later"}, {"EU", "eu"}};
   EXPECT_EQ(summary_text::site_map(answer), expected);
   EXPECT_TRUE(summary_text::site_map(parse(R"({"data":{"billing":{}}})")).isEmpty());
-  EXPECT_EQ(summary_text::site_map(parse(R"({"data":["x",{"billing":{"region":{"code":"TW"},"subscription_id":3}}]})")),
+  EXPECT_EQ(summary_text::site_map(
+                parse(R"({"data":["x",{"billing":{"region":{"code":"TW"},"subscription_id":3}}]})")),
             (QMap<QString, QString>{{"", ""}, {"TW", ""}}));
 }
 
@@ -169,20 +180,22 @@ struct AccountRow {
   const char* json;
   const char* expected;
 };
-void PrintTo(const AccountRow& r, std::ostream* os) { *os << r.name; }
+void PrintTo(const AccountRow& r, std::ostream* os) {
+  *os << r.name;
+}
 class AccountType : public ::testing::TestWithParam<AccountRow> {};
 TEST_P(AccountType, OnlyElementZeroSaysNimbra) {
   EXPECT_EQ(summary_text::account_type(parse(GetParam().json)), QString::fromLatin1(GetParam().expected));
 }
 INSTANTIATE_TEST_SUITE_P(
     Rows, AccountType,
-    ::testing::Values(AccountRow{"nimbra", R"({"data":[{"backup_policy":{"account_type":"nimbra"}}]})", "nimbra"},
-                      AccountRow{"vell", R"({"data":[{"backup_policy":{"account_type":"vell"}}]})", "vell"},
-                      AccountRow{"capitalised", R"({"data":[{"backup_policy":{"account_type":"Nimbra"}}]})", "vell"},
-                      AccountRow{"only_element_1",
-                                 R"({"data":[{},{"backup_policy":{"account_type":"nimbra"}}]})", "vell"},
-                      AccountRow{"wrong_type", R"({"data":[{"backup_policy":{"account_type":1}}]})", "vell"},
-                      AccountRow{"no_data", R"({"error":{"code":4}})", "vell"}),
+    ::testing::Values(
+        AccountRow{"nimbra", R"({"data":[{"backup_policy":{"account_type":"nimbra"}}]})", "nimbra"},
+        AccountRow{"vell", R"({"data":[{"backup_policy":{"account_type":"vell"}}]})", "vell"},
+        AccountRow{"capitalised", R"({"data":[{"backup_policy":{"account_type":"Nimbra"}}]})", "vell"},
+        AccountRow{"only_element_1", R"({"data":[{},{"backup_policy":{"account_type":"nimbra"}}]})", "vell"},
+        AccountRow{"wrong_type", R"({"data":[{"backup_policy":{"account_type":1}}]})", "vell"},
+        AccountRow{"no_data", R"({"error":{"code":4}})", "vell"}),
     [](const ::testing::TestParamInfo<AccountRow>& p) { return std::string(p.param.name); });
 
 TEST(SummaryDisplayCopy, PolicyNamesReplacedElementsOfWrongTypeKept) {
@@ -197,15 +210,19 @@ TEST(SummaryDisplayCopy, PolicyNamesReplacedElementsOfWrongTypeKept) {
   EXPECT_EQ(copy["data"][1], answer["data"][1]);
   EXPECT_EQ(copy["data"][2], answer["data"][2]);
   EXPECT_EQ(copy["data"][3]["backup_policy"]["policy_name"].asString(), "Named");
-  EXPECT_EQ(answer["data"][0]["backup_policy"]["policy_name"].asString(), "raw");  // the original is untouched
+  EXPECT_EQ(answer["data"][0]["backup_policy"]["policy_name"].asString(),
+            "raw");  // the original is untouched
 }
 
 TEST(SummaryLineHeight, DivWithAndWithoutSemicolonScaledWithTheDisplay) {
   nimbra_test::ScopedEnv scale("NIMBRA_UI_SCALE", "1");
-  EXPECT_EQ(summary_text::line_height_div("a", 24), QStringLiteral("<div style=\"line-height:24px;\">a</div>"));
-  EXPECT_EQ(summary_text::line_height_div("a", 24, false), QStringLiteral("<div style=\"line-height:24px\">a</div>"));
+  EXPECT_EQ(summary_text::line_height_div("a", 24),
+            QStringLiteral("<div style=\"line-height:24px;\">a</div>"));
+  EXPECT_EQ(summary_text::line_height_div("a", 24, false),
+            QStringLiteral("<div style=\"line-height:24px\">a</div>"));
   nimbra_test::ScopedEnv doubled("NIMBRA_UI_SCALE", "2");
-  EXPECT_EQ(summary_text::line_height_div("a", 24), QStringLiteral("<div style=\"line-height:48px;\">a</div>"));
+  EXPECT_EQ(summary_text::line_height_div("a", 24),
+            QStringLiteral("<div style=\"line-height:48px;\">a</div>"));
 }
 
 }  // namespace

@@ -27,7 +27,8 @@ inline void loadLook() {
   UIPathManager::getInstance()->setPath(QStringLiteral("resource_path"), res);
   ImageManager::getInstance()->initialize(0);
   StyleManager::getInstance()->clear();
-  StyleManager::getInstance()->initialize({res + "/agent.stylesheet", res + "/component.business.stylesheet"});
+  StyleManager::getInstance()->initialize(
+      {res + "/agent.stylesheet", res + "/component.business.stylesheet"});
 }
 
 // Runs `action` once the current nested loop (or the next one) processes
@@ -71,7 +72,8 @@ inline Json::Value threeSites() {
 }
 
 inline Json::Value oneSite() {
-  return agent_test::parse(R"({"data":[)" + site("TW", "sub-tw", kDefaultPolicy, "https://tw.example") + "]}");
+  return agent_test::parse(R"({"data":[)" + site("TW", "sub-tw", kDefaultPolicy, "https://tw.example") +
+                           "]}");
 }
 
 }  // namespace wizard_test

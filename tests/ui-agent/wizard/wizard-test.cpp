@@ -108,7 +108,9 @@ struct ErrorRow {
   const char* response;
   Str row;
 };
-void PrintTo(const ErrorRow& r, std::ostream* os) { *os << "code " << r.code; }
+void PrintTo(const ErrorRow& r, std::ostream* os) {
+  *os << "code " << r.code;
+}
 class WizardErrorText : public WizardTest, public ::testing::WithParamInterface<ErrorRow> {};
 
 TEST_P(WizardErrorText, SheetShowsTheTableText) {
@@ -129,8 +131,10 @@ TEST_P(WizardErrorText, SheetShowsTheTableText) {
 
 INSTANTIATE_TEST_SUITE_P(
     Codes, WizardErrorText,
-    ::testing::Values(ErrorRow{12, "{}", Str::err_operation_timedout}, ErrorRow{19, "{}", Str::err_operation_timedout},
-                      ErrorRow{3, "{}", Str::err_operation_timedout}, ErrorRow{26, "{}", Str::err_operation_timedout},
+    ::testing::Values(ErrorRow{12, "{}", Str::err_operation_timedout},
+                      ErrorRow{19, "{}", Str::err_operation_timedout},
+                      ErrorRow{3, "{}", Str::err_operation_timedout},
+                      ErrorRow{26, "{}", Str::err_operation_timedout},
                       ErrorRow{10, "{}", Str::err_device_conflict},
                       ErrorRow{17, R"({"error":{"code":17,"base_url":"https://console.example"}})",
                                Str::master_key_not_set}),
