@@ -3,6 +3,7 @@
 #include <QLabel>
 
 #include "dpi-info.h"
+#include "style-manager.h"
 #include "relative-age.h"
 #include "string-display.h"
 
@@ -46,6 +47,12 @@ Fitter::Fitter(Series series, int width, int max_height, QString suffix)
     : series_(series), width_(width), max_height_(max_height), suffix_(std::move(suffix)), label_(new QLabel) {
   label_->setWordWrap(true);
   label_->setFixedWidth(width_);
+  label_->setStyleSheet(labelStyleSheet());
+  label_->ensurePolished();
+}
+
+QString Fitter::labelStyleSheet() {
+  return getStyleSheet(QStringLiteral("component.lineedit_label"));
 }
 
 Fitter::Fitter(Fitter&&) noexcept = default;

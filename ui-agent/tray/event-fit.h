@@ -58,6 +58,10 @@ class Fitter {
   Fitter(Fitter&&) noexcept;
   ~Fitter();
 
+  // The style sheet of the labels that show the messages (and of the
+  // scratch label, so that both lay out alike).
+  static QString labelStyleSheet();
+
   const Series& series() const { return series_; }
   // The text the label is given for a rendered message.
   QString labelText(const QString& message) const;

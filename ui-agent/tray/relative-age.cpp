@@ -6,6 +6,10 @@
 
 namespace tray_text {
 
+Clock system_clock() {
+  return [] { return QDateTime::currentSecsSinceEpoch(); };
+}
+
 Age relative_age(qint64 now, qint64 t) {
   const qint64 d = now - t;
   if (d < 60) return {Str::just_now, 0};

@@ -5,9 +5,15 @@
 #include <QString>
 #include <QtGlobal>
 
+#include <functional>
+
 #include "string-catalogue.h"
 
 namespace tray_text {
+
+// "Now" in seconds since the epoch; widgets take one so tests can set it.
+using Clock = std::function<qint64()>;
+Clock system_clock();
 
 struct Age {
   Str key;

@@ -24,14 +24,4 @@ MenuVisibility menu_visibility(bool is_vell_account, bool is_auth_fork, int back
   return {backup_role == 3, backup_role >= 2, false};
 }
 
-Json::Value default_bandwidth_config() {
-  Json::Value c(Json::objectValue);
-  c["bandwidth_end_time"] = "23:00";
-  c["bandwidth_limit_range"] = true;
-  c["bandwidth_rate"] = 20;
-  c["bandwidth_start_time"] = "07:00";
-  c["bandwidth_type"] = 0;
-  return c;
-}
-
 }  // namespace tray_menu_model

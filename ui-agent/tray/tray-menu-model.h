@@ -1,7 +1,6 @@
 #pragma once
 // The tray pop-up's decisions: which page a status shows, how many event-log
-// entries are kept, which drop-down entries an account sees, and the
-// bandwidth configuration the settings open with when the service has none.
+// entries are kept and which drop-down entries an account sees.
 
 #include <json/value.h>
 
@@ -30,9 +29,5 @@ struct MenuVisibility {
 // An auth-fork account sees neither link nor the quota area; a "vell"
 // account sees all three; any other account the links its role allows.
 MenuVisibility menu_visibility(bool is_vell_account, bool is_auth_fork, int backup_role);
-
-// The client configuration the settings load when the service's is missing
-// or invalid: no limit, 07:00 to 23:00, 20 Mbps.
-Json::Value default_bandwidth_config();
 
 }  // namespace tray_menu_model
