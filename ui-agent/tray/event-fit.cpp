@@ -43,8 +43,14 @@ int search(const Series& s, const std::function<bool(int)>& fits) {
   return s.at(good);
 }
 
-Fitter::Fitter(Series series, int width, int max_height, QString suffix)
-    : series_(series), width_(width), max_height_(max_height), suffix_(std::move(suffix)), label_(new QLabel) {
+Fitter::Fitter(Series series, int width, int max_width, int max_height, QString suffix, Measure measure)
+    : series_(series),
+      width_(width),
+      max_width_(max_width),
+      max_height_(max_height),
+      suffix_(std::move(suffix)),
+      measure_(measure),
+      label_(new QLabel) {
   label_->setWordWrap(true);
   label_->setFixedWidth(width_);
   label_->setStyleSheet(labelStyleSheet());
@@ -59,29 +65,39 @@ Fitter::Fitter(Fitter&&) noexcept = default;
 Fitter::~Fitter() = default;
 
 Fitter Fitter::tray() {
-  return Fitter({354, 1, 0}, DPIinfo::scaled(177), DPIinfo::scaled(40), QStringLiteral(" ."));
+  const int width = DPIinfo::scaled(177);
+  return Fitter({354, 1, 0}, width, width, DPIinfo::scaled(40), QStringLiteral(" ."), Measure::HeightForWidth);
 }
 
 Fitter Fitter::activity() {
-  // The height limit stays 60: the rows' line height is 20 at any scale.
-  return Fitter({1313, 10, 0}, DPIinfo::scaled(441), 60, QString());
+  // Three lines of 441 wide; the height limit stays 60: the rows' line
+  // height is 20 at any scale.
+  return Fitter({1313, 10, 0}, DPIinfo::scaled(441), 1323, 60, QString(), Measure::AdjustSize);
 }
 
 QString Fitter::labelText(const QString& message) const {
   return tray_text::line_div(message + suffix_);
 }
 
-int Fitter::heightOf(const QString& message) {
-  auto it = heights_.constFind(message);
-  if (it != heights_.constEnd()) return it.value();
+QSize Fitter::measure(const QString& message) {
   label_->setText(labelText(message));
-  const int h = label_->heightForWidth(width_);
-  heights_.insert(message, h);
-  return h;
+  if (measure_ == Measure::AdjustSize) {
+    label_->adjustSize();
+    return label_->size();
+  }
+  return QSize(width_, label_->heightForWidth(width_));
+}
+
+QSize Fitter::sizeOf(const QString& message) {
+  auto it = sizes_.constFind(message);
+  if (it != sizes_.constEnd()) return it.value();
+  const QSize size = measure(message);
+  sizes_.insert(message, size);
+  return size;
 }
 
 bool Fitter::fits(const QString& message) {
-  return heightOf(message) <= max_height_;
+  return within(sizeOf(message));
 }
 
 Fitter::Result Fitter::fit(const LogEntry& entry) {
@@ -93,23 +109,23 @@ Fitter::Result Fitter::fit(const LogEntry& entry) {
   };
   auto fitsAt = [&](int limit) { return fits(render(limit)); };
   const int limit = search(series_, fitsAt);
-  Result r{limit, render(limit)};
+  const QString& message = render(limit);
+  Result r{limit, message, sizeOf(message)};
   // Layouts are only shared within one entry: the next entry's texts differ.
-  heights_.clear();
+  sizes_.clear();
   return r;
 }
 
 Fitter::Result Fitter::fitLinear(const LogEntry& entry) {
-  constexpr int kMaxWidth = 1323;  // three lines of 441; the fixed-width labels never reach it
   QString message;
+  QSize size;
   auto fitsAt = [&](int limit) {
     message = string_display::render_event_message(entry, true, limit);
-    label_->setText(labelText(message));
-    label_->adjustSize();
-    return label_->width() <= kMaxWidth && label_->height() <= max_height_;
+    size = measure(message);
+    return within(size);
   };
   const int limit = linear(series_, fitsAt);
-  return {limit, message};
+  return {limit, message, size};
 }
 
 }  // namespace event_fit

@@ -18,6 +18,7 @@
 // reference the tests and the benchmark compare with.
 
 #include <QHash>
+#include <QSize>
 #include <memory>
 #include <QString>
 
@@ -67,30 +68,40 @@ class Fitter {
   QString labelText(const QString& message) const;
   // Whether a rendered message fits (its layout is remembered by text).
   bool fits(const QString& message);
-  // The height of the scratch label for a rendered message.
-  int heightOf(const QString& message);
+  // The size the scratch label takes for a rendered message.
+  QSize sizeOf(const QString& message);
 
   struct Result {
     int limit;
     QString message;  // rendered at `limit`
+    QSize size;       // the label's size for it
   };
   // The fitting limit and its message, found by search().
   Result fit(const LogEntry& entry);
-  // The same, by the plain walk: every limit rendered, set on the label and
-  // the label resized to its contents, nothing remembered. The reference.
+  // The same, by the plain walk: every limit rendered and measured, nothing
+  // remembered. The reference.
   Result fitLinear(const LogEntry& entry);
   // Drops the remembered layouts.
-  void clear() { heights_.clear(); }
+  void clear() { sizes_.clear(); }
 
  private:
-  Fitter(Series series, int width, int max_height, QString suffix);
+  // How a text is measured: the pop-up asks the label's height for its
+  // width; the activity dialog resizes the label to its contents (as its
+  // rows are built), which measures a text with an over-long word at the
+  // label's preferred width.
+  enum class Measure { HeightForWidth, AdjustSize };
+  Fitter(Series series, int width, int max_width, int max_height, QString suffix, Measure measure);
+  QSize measure(const QString& message);
+  bool within(QSize size) const { return size.width() <= max_width_ && size.height() <= max_height_; }
 
   Series series_;
   int width_;
+  int max_width_;
   int max_height_;
   QString suffix_;
+  Measure measure_;
   std::unique_ptr<QLabel> label_;
-  QHash<QString, int> heights_;
+  QHash<QString, QSize> sizes_;
 };
 
 }  // namespace event_fit

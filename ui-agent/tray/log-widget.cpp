@@ -165,7 +165,7 @@ void LogWidget::insertEntry(const LogEntry& entry) {
   label->setFixedWidth(DPIinfo::scaled(441));
   label->setText(fitter_.labelText(fitted.message));
   label->setOpenExternalLinks(true);
-  label->adjustSize();
+  label->resize(fitted.size);  // what adjustSize() gives, measured by the fit
 
   const QString plain = string_display::render_event_message(entry, false, 449);
   label->setAccessibleName(plain);
@@ -174,7 +174,8 @@ void LogWidget::insertEntry(const LogEntry& entry) {
   item->setData(Qt::UserRole, QVariant::fromValue<qulonglong>(entry.id));
   table_->setItem(0, 1, item);
   table_->setCellWidget(0, 1, label);
-  if (label->height() > 20) table_->setRowHeight(0, static_cast<int>(DPIinfo::getDPI() * (label->height() + 20)));
+  if (fitted.size.height() > 20)
+    table_->setRowHeight(0, static_cast<int>(DPIinfo::getDPI() * (fitted.size.height() + 20)));
 
   const QString when = tray_text::second_time(static_cast<qint64>(entry.time));
   auto* time = cellLabel(when, getStyleSheet(QStringLiteral("log_widget_time")));

@@ -210,11 +210,14 @@ void TrayMenu::slotQueryServiceDone(const QObject* /*sender*/, Json::Value respo
   if (jsonx::get_string(response, "action") != kBandwidthAction) return;
   const Json::Value& server = jsonx::member(response, "server_config");
   const Json::Value& client = jsonx::member(response, "client_config");
-  if (SettingsWidget::isValidConfig(server)) settings_->applyServerConfig(server);
+  if (SettingsWidget::isValidConfig(server))
+    settings_->applyServerConfig(server);
+  else if (!server.isNull())
+    LOG_WARN(vlog::kDefaultComponent, "bandwidth answer with an invalid server_config: note left as it was");
   if (SettingsWidget::isValidConfig(client)) {
     settings_->loadClientConfig(client);
   } else {
-    LOG_WARN("default_component", "bandwidth answer without a valid client_config: showing the defaults");
+    LOG_WARN(vlog::kDefaultComponent, "bandwidth answer without a valid client_config: showing the defaults");
     settings_->loadClientConfig(SettingsWidget::defaultClientConfig());
   }
   settings_->show();
