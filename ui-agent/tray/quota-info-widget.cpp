@@ -64,6 +64,7 @@ QuotaInfoWidget::QuotaInfoWidget(QWidget* parent) : QWidget(parent) {
 void QuotaInfoWidget::setAccount(const QString& account) {
   account_ = account;
   const double scale = DPIinfo::getDPI();
+  account_line_->ensurePolished();  // the style sheet's font is the one shown
   const double w = QFontMetrics(account_line_->font()).horizontalAdvance(account);
   account_line_->setFixedHeight(DPIinfo::scaled(quota_model::account_line_height(w, scale)));
   account_line_->setHtml(tray_text::line_div(account.toHtmlEscaped()));

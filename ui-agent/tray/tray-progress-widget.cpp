@@ -40,7 +40,7 @@ TrayProgressWidget::TrayProgressWidget(QWidget* parent) : QWidget(parent) {
   phase_ = new VellLabel(this);
   phase_->setObjectName(QStringLiteral("progressPhase"));
   phase_->setStyleSheet(getStyleSheet(QStringLiteral("tray_status_display")));
-  phase_->setMaximumWidth(DPIinfo::scaled(296));
+  phase_->setFixedWidth(DPIinfo::scaled(296));
   phase_->setElideMode(Qt::ElideRight);
   phase_->setText(string_display::text(Str::desc_status_backup));
 
