@@ -2,6 +2,9 @@
 
 #include <QLabel>
 
+#include <algorithm>
+#include <cmath>
+
 #include "dpi-info.h"
 #include "style-manager.h"
 #include "relative-age.h"
@@ -16,23 +19,40 @@ int linear(const Series& s, const std::function<bool(int)>& fits) {
   return s.at(n > 0 ? n - 1 : 0);
 }
 
-int search(const Series& s, const std::function<bool(int)>& fits) {
+int search(const Series& s, const std::function<bool(int)>& fits, int hint) {
   const int n = s.count();
   if (n <= 0) return s.top;
   if (fits(s.at(0))) return s.at(0);
-  // Gallop: indices 1, 2, 4, 8, ... until one fits or the series ends.
-  int bad = 0;  // the last index known not to fit
-  int good = -1;
-  for (int step = 1;; step *= 2) {
-    const int k = std::min(bad + step, n - 1);
-    if (fits(s.at(k))) {
+  if (n == 1) return s.at(0);
+  int bad = 0;   // an index known not to fit (the top does not)
+  int good = -1;  // an index known to fit
+  const int start = std::clamp(hint, 1, n - 1);
+  if (fits(s.at(start))) {
+    // Gallop back towards the top until a limit does not fit.
+    good = start;
+    for (int step = 1;; step *= 2) {
+      const int k = std::max(good - step, 0);
+      if (k == 0) break;  // the top is known not to fit
+      if (!fits(s.at(k))) {
+        bad = k;
+        break;
+      }
       good = k;
-      break;
     }
-    bad = k;
-    if (k == n - 1) return s.at(n - 1);  // nothing fits: the last limit
+  } else {
+    // Gallop away from the top until a limit fits or the series ends.
+    bad = start;
+    for (int step = 1;; step *= 2) {
+      if (bad == n - 1) return s.at(n - 1);  // nothing fits: the last limit
+      const int k = std::min(bad + step, n - 1);
+      if (fits(s.at(k))) {
+        good = k;
+        break;
+      }
+      bad = k;
+    }
   }
-  // Bisect: bad never fits, good does; the answer is the first that does.
+  // Bisect: bad does not fit, good does; the answer is the first that does.
   while (good - bad > 1) {
     const int mid = bad + (good - bad) / 2;
     if (fits(s.at(mid)))
@@ -108,7 +128,15 @@ Fitter::Result Fitter::fit(const LogEntry& entry) {
     return it.value();
   };
   auto fitsAt = [&](int limit) { return fits(render(limit)); };
-  const int limit = search(series_, fitsAt);
+  // The guess: the text's width shrunk by the share of lines that the top
+  // text overflows (a text's width is its limit less 20).
+  int hint = 1;
+  const int top_height = sizeOf(render(series_.top)).height();
+  if (top_height > max_height_) {
+    const double guess = 20 + (series_.top - 20) * static_cast<double>(max_height_) / top_height;
+    hint = static_cast<int>(std::ceil((series_.top - guess) / series_.step));
+  }
+  const int limit = search(series_, fitsAt, hint);
   const QString& message = render(limit);
   Result r{limit, message, sizeOf(message)};
   // Layouts are only shared within one entry: the next entry's texts differ.

@@ -12,9 +12,9 @@
 // label. The answer does not need that: a lower limit never gives a longer
 // text, and a shorter text never needs more lines, so "fits" turns from
 // false to true once along the series. search() finds that point by
-// galloping down from the top and bisecting the last step, and lays out
-// each distinct elided text once, so its cost grows with the logarithm of
-// the distance from the top. linear() is the plain walk, kept as the
+// galloping from a guess (the share of the lines that the top text
+// overflows) and bisecting the last step, and lays out each distinct elided
+// text once, so its cost grows with the logarithm of the guess's error. linear() is the plain walk, kept as the
 // reference the tests and the benchmark compare with.
 
 #include <QHash>
@@ -43,8 +43,11 @@ struct Series {
 // limit of the series when none does.
 int linear(const Series& s, const std::function<bool(int)>& fits);
 // The same limit, for a `fits` that turns true once along the series, with
-// O(log distance) calls of `fits`.
-int search(const Series& s, const std::function<bool(int)>& fits);
+// O(log distance) calls of `fits`. After the top, the search starts at the
+// index `hint` (a guess of the answer) and gallops from there: towards the
+// top while limits fit, away from it while they do not; then it bisects the
+// last step. Any hint gives the same answer; a good one saves calls.
+int search(const Series& s, const std::function<bool(int)>& fits, int hint = 1);
 
 // A scratch label that measures rendered messages the way the pop-up or
 // the activity dialog shows them. GUI thread only.

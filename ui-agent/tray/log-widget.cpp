@@ -39,6 +39,13 @@ void quiet(QTableWidget* t) {
   t->setShowGrid(false);
 }
 
+// A named style sheet ("QLabel { ... }") narrowed to the labels of one
+// object name, so that the table carries the rules of all its rows once
+// instead of every row's labels parsing a sheet of their own.
+QString forLabelsNamed(QString sheet, const QString& name) {
+  return sheet.replace(QStringLiteral("QLabel"), QStringLiteral("QLabel#") + name);
+}
+
 QLabel* cellLabel(const QString& text, const QString& style) {
   auto* label = new QLabel(text);
   label->setStyleSheet(style);
@@ -88,7 +95,10 @@ LogWidget::LogWidget(QWidget* parent) : QWidget(parent), fitter_(event_fit::Fitt
   table_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Fixed);
   table_->setColumnWidth(0, DPIinfo::scaled(200));
   table_->verticalHeader()->setDefaultSectionSize(DPIinfo::scaled(40));
-  table_->setStyleSheet(DPIinfo::getScaledStyleSheet(QLatin1String(kTableStyle)));
+  table_->setStyleSheet(
+      DPIinfo::getScaledStyleSheet(QLatin1String(kTableStyle)) + QLatin1Char('\n') +
+      forLabelsNamed(event_fit::Fitter::labelStyleSheet(), QStringLiteral("logEventText")) + QLatin1Char('\n') +
+      forLabelsNamed(getStyleSheet(QStringLiteral("log_widget_time")), QStringLiteral("logTimeText")));
   table_->verticalScrollBar()->setStyleSheet(getStyleSheet(QStringLiteral("component.scrollbar")));
   table_->setAccessibleName(windowTitle());
 
@@ -145,22 +155,35 @@ quint64 LogWidget::rowId(int row) const {
 }
 
 void LogWidget::fillEntries(const QList<LogEntry>& entries) {
-  table_->setUpdatesEnabled(false);
+  // The entries that go on top, oldest first: each must be newer than the
+  // row above it at the time it comes.
+  QList<const LogEntry*> fresh;
+  bool any = table_->rowCount() > 0;
+  quint64 top = rowId(0);
   for (const LogEntry& entry : entries) {
-    if (table_->rowCount() > 0 && rowId(0) >= entry.id) continue;
-    insertEntry(entry);
+    if (any && top >= entry.id) continue;
+    fresh.append(&entry);
+    top = entry.id;
+    any = true;
   }
-  if (table_->rowCount() > kMaxRows) table_->setRowCount(kMaxRows);
+  // Rows that would be cut at once are not built.
+  if (fresh.size() > kMaxRows) fresh.erase(fresh.begin(), fresh.end() - kMaxRows);
+  if (!fresh.isEmpty()) {
+    table_->setUpdatesEnabled(false);
+    // One block of rows at the top; the newest entry lands in row 0.
+    table_->model()->insertRows(0, fresh.size());
+    for (int i = 0; i < fresh.size(); ++i) fillRow(fresh.size() - 1 - i, *fresh.at(i));
+    if (table_->rowCount() > kMaxRows) table_->setRowCount(kMaxRows);
+    table_->setUpdatesEnabled(true);
+  }
   table_->setColumnWidth(0, 200);
   table_->setColumnWidth(1, 449);
-  table_->setUpdatesEnabled(true);
 }
 
-void LogWidget::insertEntry(const LogEntry& entry) {
-  table_->insertRow(0);
+void LogWidget::fillRow(int row, const LogEntry& entry) {
   const auto fitted = fitter_.fit(entry);
   auto* label = new QLabel;
-  label->setStyleSheet(event_fit::Fitter::labelStyleSheet());
+  label->setObjectName(QStringLiteral("logEventText"));  // styled by the table
   label->setWordWrap(true);
   label->setFixedWidth(DPIinfo::scaled(441));
   label->setText(fitter_.labelText(fitted.message));
@@ -172,14 +195,15 @@ void LogWidget::insertEntry(const LogEntry& entry) {
   auto* item = new QTableWidgetItem;
   item->setToolTip(plain);
   item->setData(Qt::UserRole, QVariant::fromValue<qulonglong>(entry.id));
-  table_->setItem(0, 1, item);
-  table_->setCellWidget(0, 1, label);
+  table_->setItem(row, 1, item);
+  table_->setCellWidget(row, 1, label);
   if (fitted.size.height() > 20)
-    table_->setRowHeight(0, static_cast<int>(DPIinfo::getDPI() * (fitted.size.height() + 20)));
+    table_->setRowHeight(row, static_cast<int>(DPIinfo::getDPI() * (fitted.size.height() + 20)));
 
   const QString when = tray_text::second_time(static_cast<qint64>(entry.time));
-  auto* time = cellLabel(when, getStyleSheet(QStringLiteral("log_widget_time")));
+  auto* time = new QLabel(when);
+  time->setObjectName(QStringLiteral("logTimeText"));  // styled by the table
   time->setToolTip(when);
-  table_->setItem(0, 0, new QTableWidgetItem);
-  table_->setCellWidget(0, 0, time);
+  table_->setItem(row, 0, new QTableWidgetItem);
+  table_->setCellWidget(row, 0, time);
 }

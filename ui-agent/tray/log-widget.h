@@ -33,7 +33,7 @@ class LogWidget : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  void insertEntry(const LogEntry& entry);
+  void fillRow(int row, const LogEntry& entry);
 
   QTableWidget* header_;
   QTableWidget* table_;

@@ -17,14 +17,23 @@ namespace {
 TEST(FitSearch, FindsTheFirstFittingLimitOfAnyThreshold) {
   const event_fit::Series s{354, 1, 0};
   for (int threshold = -5; threshold <= 360; ++threshold) {
-    int calls = 0;
-    auto fits = [&](int limit) {
-      ++calls;
-      return limit <= threshold;
-    };
     const int expected = event_fit::linear(s, [&](int limit) { return limit <= threshold; });
-    EXPECT_EQ(event_fit::search(s, fits), expected) << "threshold " << threshold;
-    EXPECT_LE(calls, 20) << "threshold " << threshold;  // logarithmic, not a walk
+    for (int hint : {-3, 1, 2, 17, 120, 354, 400}) {
+      int calls = 0;
+      auto fits = [&](int limit) {
+        ++calls;
+        return limit <= threshold;
+      };
+      EXPECT_EQ(event_fit::search(s, fits, hint), expected) << "threshold " << threshold << " hint " << hint;
+      EXPECT_LE(calls, 22) << "threshold " << threshold << " hint " << hint;  // logarithmic, not a walk
+    }
+    // A hint on the answer: the top, the hint and its neighbour.
+    const int k = (354 - expected);
+    if (expected < 354 && expected > 0) {
+      int calls = 0;
+      event_fit::search(s, [&](int limit) { return ++calls, limit <= threshold; }, k);
+      EXPECT_LE(calls, 3) << "threshold " << threshold;
+    }
   }
   // The dialog's series: 1313, 1303, ... 3; nothing fitting gives the last.
   const event_fit::Series d{1313, 10, 0};
