@@ -32,7 +32,7 @@ void LatestEventLine::refresh(qint64 now) {
 
 void LatestEventLine::refreshAge(qint64 now) {
   if (!entry_) return;
-  const QString age = tray_text::relative_age_text(now, static_cast<qint64>(entry_->time));
+  const QString age = tray_text::relative_age_text(now, entry_->time);
   age_->setText(tray_text::line_div(age));
   age_->setAccessibleName(age);
 }

@@ -2,6 +2,7 @@
 
 #include <QDateTime>
 
+#include <algorithm>
 #include <cmath>
 
 #include "json-access.h"
@@ -49,7 +50,9 @@ Finish finish_for(const Transfer& t, double previous_estimate, qint64 now) {
     f.estimate = std::max(0.0, f.estimate - 1);
   }
   if (f.estimate != 0) {
-    const QDateTime at = QDateTime::fromSecsSinceEpoch(now + static_cast<qint64>(f.estimate));
+    // A crawling speed can promise centuries; the date shown stops at ~100 years.
+    const double secs = std::min(f.estimate, 3.2e9);
+    const QDateTime at = QDateTime::fromSecsSinceEpoch(now + static_cast<qint64>(secs));
     f.text = prefix + at.toString(QStringLiteral("MM/dd hh:mm"));
   }
   return f;

@@ -10,10 +10,10 @@ Clock system_clock() {
   return [] { return QDateTime::currentSecsSinceEpoch(); };
 }
 
-Age relative_age(qint64 now, qint64 t) {
-  const qint64 d = now - t;
-  if (d < 60) return {Str::just_now, 0};
-  const quint64 u = static_cast<quint64>(d);
+Age relative_age(qint64 now, quint64 t) {
+  if (now < 0 || t >= static_cast<quint64>(now)) return {Str::just_now, 0};
+  const quint64 u = static_cast<quint64>(now) - t;
+  if (u < 60) return {Str::just_now, 0};
   if (u >= 61 && u <= 3599) {
     const quint64 minutes = u / 60;
     return {minutes < 2 ? Str::min_ago : Str::mins_ago, minutes};
@@ -26,7 +26,7 @@ Age relative_age(qint64 now, qint64 t) {
   return {days < 2 ? Str::day_ago : Str::days_ago, days};
 }
 
-QString relative_age_text(qint64 now, qint64 t) {
+QString relative_age_text(qint64 now, quint64 t) {
   const Age age = relative_age(now, t);
   const QString text = string_display::text(age.key);
   if (age.key == Str::just_now) return text;

@@ -25,9 +25,9 @@ struct Age {
 // values 60 and 3600 seconds belong to no range of their own and fall
 // through to the day rows ("0 day ago"). A time ahead of `now` (clock skew
 // between service and desktop) is "Just now".
-Age relative_age(qint64 now, qint64 t);
+Age relative_age(qint64 now, quint64 t);
 // The catalogue text of relative_age, with its number filled in.
-QString relative_age_text(qint64 now, qint64 t);
+QString relative_age_text(qint64 now, quint64 t);
 
 // Local date and time for the pop-up: "yyyy/MM/dd HH:mm".
 QString minute_time(qint64 secs);

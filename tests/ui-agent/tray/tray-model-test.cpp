@@ -30,7 +30,7 @@ class RelativeAge : public ::testing::TestWithParam<AgeRow> {};
 
 TEST_P(RelativeAge, RangeGivesKeyAndNumber) {
   const auto& r = GetParam();
-  const auto age = tray_text::relative_age(tray_test::kMoment, tray_test::kMoment - r.d);
+  const auto age = tray_text::relative_age(tray_test::kMoment, static_cast<quint64>(tray_test::kMoment - r.d));
   EXPECT_EQ(age.key, r.key);
   EXPECT_EQ(age.number, r.number);
 }
@@ -53,6 +53,8 @@ TEST(RelativeAgeText, FillsTheNumber) {
   EXPECT_EQ(tray_text::relative_age_text(now, now - 60), QStringLiteral("0 day ago"));
   EXPECT_EQ(tray_text::relative_age_text(now, now - 300), QStringLiteral("5 minutes ago"));
   EXPECT_EQ(tray_text::relative_age_text(now, now - 5), QStringLiteral("Just now"));
+  // A time beyond any clock (hostile input) is not in the past.
+  EXPECT_EQ(tray_text::relative_age_text(now, ~0ull), QStringLiteral("Just now"));
 }
 
 // ---- status page -------------------------------------------------------------
@@ -204,6 +206,8 @@ TEST_F(ProgressPage, FinishEstimateCountsDownWhenStalled) {
   f = finish_for({0, 0, 600, 10}, 0, now);
   EXPECT_DOUBLE_EQ(f.estimate, 60);
   EXPECT_EQ(f.text.value_or("-"), QStringLiteral("Est. finish: 02/01 00:00"));
+  // A speed of 1 byte/s for exabytes: a far date, no overflow.
+  EXPECT_TRUE(finish_for({1, 0, ~0ull, 1}, 0, now).text.has_value());
   // More transferred than the total: nothing left.
   EXPECT_EQ(finish_for({700, 0, 600, 10}, 9, now).estimate, 0);
 }
