@@ -1,0 +1,336 @@
+// The tray pop-up's widgets through their public operations: page choice,
+// kept entries, the bandwidth hand-over to the settings, the activity
+// dialog's rows, the quota widget, accessibility and keys.
+
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <memory>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QStackedWidget>
+#include <QTableWidget>
+#include <QTest>
+#include <QToolButton>
+
+#include "core/global-connecter.h"
+#include "core/service-error-text.h"
+#include "dpi-info.h"
+#include "dialogs/settings-widget.h"
+#include "string-display.h"
+#include "tray-fixture.h"
+#include "tray/log-widget.h"
+#include "tray/quota-info-widget.h"
+#include "tray/tray-menu.h"
+#include "tray/tray-progress-widget.h"
+#include "tray/tray-status-widget.h"
+
+using tray_test::entry;
+
+namespace {
+
+QList<LogEntry> entries(quint64 first, quint64 last, qint64 time = tray_test::kMoment) {
+  QList<LogEntry> list;
+  for (quint64 id = first; id <= last; ++id) list << entry(id, static_cast<quint64>(time));
+  return list;
+}
+
+template <typename T = QWidget>
+T* child(QObject* parent, const char* name) {
+  T* w = parent->findChild<T*>(QLatin1String(name));
+  EXPECT_NE(w, nullptr) << name;
+  return w;
+}
+
+QString accessibleName(QObject* o) {
+  QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(o);
+  return iface ? iface->text(QAccessible::Name) : QString();
+}
+
+class TrayWidgets : public tray_test::TrayTest {
+ protected:
+  void SetUp() override {
+    TrayTest::SetUp();  // the look first: the menu's labels take their style sheets when built
+    menu_ = std::make_unique<TrayMenu>();
+    menu_->setClock([this] { return now_; });
+  }
+  QWidget* currentPage() { return child<QStackedWidget>(menu_.get(), "trayPages")->currentWidget(); }
+
+  qint64 now_ = tray_test::kMoment;
+  std::unique_ptr<TrayMenu> menu_;
+};
+
+// ---- pages -------------------------------------------------------------------
+
+TEST_F(TrayWidgets, PageChoiceAndRelayedTrayStatus) {
+  QSignalSpy spy(menu_.get(), &TrayMenu::sigTrayStatusChanged);
+  menu_->updateServiceStatus(static_cast<ServiceStatus>(0x3003),
+                            agent_test::parse(R"({"connected":true,"transfer":{"transfer":1,"total":2,"speed":1}})"));
+  EXPECT_EQ(currentPage(), menu_->progressPage());
+  ASSERT_EQ(spy.count(), 1);
+  EXPECT_EQ(spy.takeFirst().at(0).value<TrayStatus>(), TrayRunning);
+
+  // A running category that is not connected: the status page (error page).
+  menu_->updateServiceStatus(static_cast<ServiceStatus>(0x3000), agent_test::parse(R"({"connected":false})"));
+  EXPECT_EQ(currentPage(), menu_->statusPage());
+  ASSERT_EQ(spy.count(), 1);
+  EXPECT_EQ(spy.takeFirst().at(0).value<TrayStatus>(), TrayError);
+
+  // An error category while connected: the status page with the last result.
+  menu_->updateServiceStatus(static_cast<ServiceStatus>(0xF000),
+                            agent_test::parse(R"({"connected":true,"last_backup_result":{"last_backup_status":4}})"));
+  EXPECT_EQ(currentPage(), menu_->statusPage());
+  ASSERT_EQ(spy.count(), 1);
+  EXPECT_EQ(spy.takeFirst().at(0).value<TrayStatus>(), TrayError);
+}
+
+TEST_F(TrayWidgets, StatusPageResultAndErrorPage) {
+  TrayStatusWidget* page = menu_->statusPage();
+  QSignalSpy spy(page, &TrayStatusWidget::sigTrayStatusChanged);
+  auto* event = child<QLabel>(page, "statusLatestEvent");
+  auto* age = child<QLabel>(page, "statusEventAge");
+  menu_->appendLogEntries({entry(7, tray_test::kMoment - 60)});
+
+  page->updateStatus(agent_test::parse(
+      R"({"connected":true,"last_backup_result":{"last_backup_status":2,"backed_up":false,"last_backup_time":0}})"));
+  EXPECT_EQ(spy.takeLast().at(0).value<TrayStatus>(), TrayIdle);
+  EXPECT_EQ(accessibleName(child(page, "statusResult")), QStringLiteral("Ready"));
+  EXPECT_EQ(child<QLabel>(page, "lastBackupValue")->text(), QStringLiteral("Not backed up yet"));
+  EXPECT_TRUE(age->text().contains(QStringLiteral("0 day ago"))) << age->text().toStdString();
+  EXPECT_TRUE(event->text().contains(QStringLiteral("Backup task started."))) << event->text().toStdString();
+
+  // Not connected, no "error": code 5's message across the widened label.
+  page->updateStatus(agent_test::parse(R"({"connected":false})"));
+  EXPECT_EQ(spy.takeLast().at(0).value<TrayStatus>(), TrayError);
+  EXPECT_EQ(event->width(), DPIinfo::scaled(296));
+  EXPECT_TRUE(age->isHidden());
+  EXPECT_EQ(event->toolTip(), service_error::message(5));
+  // A new event meanwhile does not replace the error message.
+  menu_->appendLogEntries({entry(8)});
+  EXPECT_EQ(event->toolTip(), service_error::message(5));
+
+  // Back to connected: the narrow event line with the newest entry again.
+  page->updateStatus(agent_test::parse(R"({"connected":true,"last_backup_result":{"last_backup_status":4}})"));
+  EXPECT_EQ(spy.takeLast().at(0).value<TrayStatus>(), TrayError);
+  EXPECT_EQ(event->width(), DPIinfo::scaled(177));
+  EXPECT_FALSE(age->isHidden());
+  EXPECT_TRUE(age->text().contains(QStringLiteral("Just now")));
+}
+
+TEST_F(TrayWidgets, ProgressPageCountsDownWhileStalled) {
+  TrayProgressWidget* page = menu_->progressPage();
+  auto* finish = child<QLabel>(page, "progressFinish");
+  const auto running = static_cast<ServiceStatus>(0x3003);
+  page->updateStatus(running, agent_test::parse(R"({"transfer":{"transfer":400,"total":1600,"speed":10}})"));
+  EXPECT_EQ(page->remainingEstimate(), 120);
+  EXPECT_EQ(finish->text(), QStringLiteral("Est. finish: 02/01 00:01"));
+  page->updateStatus(running, agent_test::parse(R"({"transfer":{"transfer":400,"total":1600,"speed":0}})"));
+  page->updateStatus(running, agent_test::parse(R"({"transfer":{"transfer":400,"total":1600,"speed":0}})"));
+  EXPECT_EQ(page->remainingEstimate(), 118);
+  // The estimate survives a stay on the status page and updates without "transfer".
+  menu_->updateServiceStatus(static_cast<ServiceStatus>(0x2000), agent_test::parse(R"({"connected":true})"));
+  page->updateStatus(static_cast<ServiceStatus>(0x3001), agent_test::parse(R"({})"));
+  EXPECT_EQ(page->remainingEstimate(), 118);
+  EXPECT_EQ(accessibleName(child(page, "progressPhase")), QStringLiteral("Preparing for backup..."));
+  EXPECT_EQ(child<QLabel>(page, "progressPercent")->text(), QStringLiteral("25%"));
+  EXPECT_EQ(child<QProgressBar>(page, "progressBar")->value(), 2500);
+}
+
+// ---- kept entries --------------------------------------------------------------
+
+TEST_F(TrayWidgets, KeptEntriesAndLatestEvent) {
+  auto* event = child<QLabel>(menu_->statusPage(), "statusLatestEvent");
+  menu_->appendLogEntries(entries(1, 99));
+  menu_->appendLogEntries(entries(100, 102));
+  ASSERT_EQ(menu_->logEntries().size(), 100);
+  EXPECT_EQ(menu_->logEntries().front().id, 3u);
+  EXPECT_EQ(menu_->logEntries().back().id, 102u);
+
+  LogEntry last = entry(500, tray_test::kMoment, 7002, R"({"volume_name":"Disk-Z"})");
+  menu_->appendLogEntries({last});
+  const QString shown = event->text();
+  EXPECT_TRUE(shown.contains(QStringLiteral("Disk-Z"))) << shown.toStdString();
+  EXPECT_TRUE(child<QLabel>(menu_->progressPage(), "progressLatestEvent")->text().contains("Disk-Z"));
+
+  menu_->appendLogEntries({});
+  EXPECT_EQ(menu_->logEntries().size(), 100);
+  EXPECT_EQ(event->text(), shown);
+
+  menu_->appendLogEntries(entries(1000, 1149));
+  ASSERT_EQ(menu_->logEntries().size(), 100);
+  EXPECT_EQ(menu_->logEntries().front().id, 1050u);
+  menu_->clearLogEntries();
+  EXPECT_TRUE(menu_->logEntries().isEmpty());
+}
+
+// ---- bandwidth answer -----------------------------------------------------------
+
+TEST_F(TrayWidgets, SettingsOpenOnTheBandwidthAnswer) {
+  auto& bus = GlobalConnecter::instance();
+  QSignalSpy asked(&bus, &GlobalConnecter::sigQueryService);
+  menu_->slotShowSettingsWindow();
+  ASSERT_EQ(asked.count(), 1);
+  EXPECT_EQ(asked.at(0).at(0).value<const QObject*>(), menu_.get());
+  const auto request = asked.at(0).at(1).value<Json::Value>();
+  EXPECT_EQ(request.getMemberNames(), std::vector<std::string>{"action"});
+  EXPECT_EQ(request["action"].asString(), "get_bandwidth_control");
+
+  SettingsWidget* settings = menu_->settingsWidget();
+  // Another action, even for this sender, is ignored.
+  emit bus.sigQueryServiceDone(menu_.get(), agent_test::parse(R"({"action":"get_status","client_config":{}})"));
+  EXPECT_FALSE(settings->isVisible());
+
+  // An answer for another sender is still handled; a client config without
+  // bandwidth_type loads the defaults.
+  QObject stranger;
+  emit bus.sigQueryServiceDone(&stranger, agent_test::parse(R"({"action":"get_bandwidth_control",
+      "client_config":{"bandwidth_rate":80,"bandwidth_limit_range":false},
+      "server_config":{"bandwidth_type":1,"bandwidth_rate":50,"bandwidth_limit_range":true,
+                       "bandwidth_start_time":"09:00","bandwidth_end_time":"17:00"}})"));
+  EXPECT_TRUE(settings->isVisible());
+  EXPECT_EQ(child<QLineEdit>(settings, "SettingsRateEdit")->text(), QStringLiteral("20"));
+  auto* note = child<QLabel>(settings, "SettingsServerNote");
+  const QString noteText = note->text();
+  EXPECT_TRUE(noteText.contains(QStringLiteral("50"))) << noteText.toStdString();
+
+  // An invalid server config leaves the note as it was.
+  settings->hide();
+  emit bus.sigQueryServiceDone(nullptr, agent_test::parse(R"({"action":"get_bandwidth_control",
+      "client_config":{"bandwidth_type":1,"bandwidth_rate":80,"bandwidth_limit_range":true,
+                       "bandwidth_start_time":"08:00","bandwidth_end_time":"18:00"},
+      "server_config":{"bandwidth_type":1,"bandwidth_limit_range":true,"bandwidth_start_time":"7:00"}})"));
+  EXPECT_TRUE(settings->isVisible());
+  EXPECT_EQ(note->text(), noteText);
+  EXPECT_EQ(child<QLineEdit>(settings, "SettingsRateEdit")->text(), QStringLiteral("80"));
+  settings->hide();
+}
+
+// ---- activity dialog -------------------------------------------------------------
+
+TEST_F(TrayWidgets, ActivityDialogRows) {
+  menu_->appendLogEntries(entries(1, 100, tray_test::kMoment));
+  menu_->slotSeeAllClicked();
+  LogWidget* log = menu_->logWidget();
+  EXPECT_TRUE(log->isVisible());
+  ASSERT_EQ(log->rowCount(), 100);
+  EXPECT_EQ(log->rowId(0), 100u);
+  EXPECT_EQ(log->rowId(99), 1u);
+  auto* table = child<QTableWidget>(log, "logTable");
+  auto* time = qobject_cast<QLabel*>(table->cellWidget(0, 0));
+  ASSERT_NE(time, nullptr);
+  EXPECT_EQ(time->text(), QStringLiteral("2024/01/31 23:59:05"));
+
+  // Opening again without news changes nothing.
+  menu_->slotSeeAllClicked();
+  EXPECT_EQ(log->rowCount(), 100);
+  EXPECT_EQ(log->rowId(0), 100u);
+
+  // Five newer: on top, the five oldest gone.
+  menu_->appendLogEntries(entries(101, 105));
+  menu_->slotSeeAllClicked();
+  ASSERT_EQ(log->rowCount(), 100);
+  EXPECT_EQ(log->rowId(0), 105u);
+  EXPECT_EQ(log->rowId(99), 6u);
+
+  // A lower id arriving after a higher one never shows.
+  log->fillEntries({entry(50), entry(106), entry(104)});
+  EXPECT_EQ(log->rowId(0), 106u);
+  EXPECT_EQ(log->rowId(1), 105u);
+
+  // Escape closes (hides) the dialog; its rows stay.
+  QTest::keyClick(log, Qt::Key_Escape);
+  EXPECT_FALSE(log->isVisible());
+  EXPECT_EQ(log->rowCount(), 100);
+}
+
+TEST_F(TrayWidgets, ActivityRowsFitThreeLines) {
+  LogWidget log;
+  const std::string longName(200, 'x');
+  log.fillEntries({entry(1, tray_test::kMoment, 7039, R"({"volume_name":")" + longName + R"(","error_code":"5"})")});
+  auto* table = child<QTableWidget>(&log, "logTable");
+  auto* label = qobject_cast<QLabel*>(table->cellWidget(0, 1));
+  ASSERT_NE(label, nullptr);
+  EXPECT_LE(label->heightForWidth(label->width()), 60);
+  EXPECT_TRUE(label->text().contains(QChar(0x2026))) << label->text().toStdString();
+  EXPECT_EQ(table->item(0, 1)->toolTip(), string_display::render_event_message(
+                                              7039, agent_test::parse(R"({"volume_name":")" + longName +
+                                                                      R"(","error_code":"5"})"),
+                                              false, 449));
+}
+
+// ---- quota and menu entries --------------------------------------------------------
+
+TEST_F(TrayWidgets, QuotaWidgetAndUserButton) {
+  QuotaInfoWidget* quota = menu_->quotaInfoWidget();
+  auto* button = child<QToolButton>(menu_.get(), "trayUserButton");
+  auto* usage = child<QLabel>(quota, "quotaUsageLabel");
+  quota->setAccount(QString());
+  EXPECT_EQ(button->text(), QStringLiteral("U"));
+  quota->setAccount(QStringLiteral("émilie@example.com"));
+  EXPECT_EQ(button->text(), QStringLiteral("É"));
+  EXPECT_EQ(accessibleName(button), QStringLiteral("émilie@example.com"));
+
+  const QString before = usage->text();
+  quota->setUsage(agent_test::parse(R"({"used_bytes":95})"));
+  EXPECT_EQ(usage->text(), before);
+  quota->setUsage(agent_test::parse(R"({"used_bytes":95,"quota":100})"));
+  EXPECT_TRUE(usage->text().contains(QStringLiteral("#E64040")));
+  EXPECT_EQ(child<QProgressBar>(quota, "quotaUsageBar")->value(), 95) << usage->text().toStdString();
+
+  QSignalSpy asked(&GlobalConnecter::instance(), &GlobalConnecter::sigUpdateQuota);
+  menu_->userMenu()->popup(QPoint(0, 0));  // the drop-down opens
+  EXPECT_EQ(asked.count(), 1);
+  menu_->userMenu()->hide();
+  menu_->userMenu()->popup(QPoint(0, 0));
+  EXPECT_EQ(asked.count(), 2);
+  menu_->userMenu()->hide();
+}
+
+TEST_F(TrayWidgets, MenuEntriesByAccount) {
+  auto* console = child<QAction>(menu_.get(), "actionWebConsole");
+  auto* portal = child<QAction>(menu_.get(), "actionRecoveryPortal");
+  menu_->setMenuEntriesVisible(true, true, 3);
+  EXPECT_FALSE(console->isVisible());
+  EXPECT_FALSE(portal->isVisible());
+  EXPECT_FALSE(menu_->quotaInfoWidget()->usageAreaVisible());
+  menu_->setMenuEntriesVisible(true, false, 0);
+  EXPECT_TRUE(console->isVisible());
+  EXPECT_TRUE(portal->isVisible());
+  EXPECT_TRUE(menu_->quotaInfoWidget()->usageAreaVisible());
+  menu_->setMenuEntriesVisible(false, false, 2);
+  EXPECT_FALSE(console->isVisible());
+  EXPECT_TRUE(portal->isVisible());
+
+  QSignalSpy about(&GlobalConnecter::instance(), &GlobalConnecter::sigShowAboutWindow);
+  child<QAction>(menu_.get(), "actionAbout")->trigger();
+  EXPECT_EQ(about.count(), 1);
+}
+
+// ---- accessibility and keys -----------------------------------------------------------
+
+TEST_F(TrayWidgets, AccessibleNamesAndTabOrder) {
+  auto* list = child<QToolButton>(menu_.get(), "trayListButton");
+  auto* user = child<QToolButton>(menu_.get(), "trayUserButton");
+  EXPECT_EQ(accessibleName(list), QStringLiteral("Activity"));
+  EXPECT_FALSE(accessibleName(user).isEmpty());
+  auto* bar = child<QProgressBar>(menu_->progressPage(), "progressBar");
+  menu_->updateServiceStatus(static_cast<ServiceStatus>(0x3003),
+                            agent_test::parse(R"({"connected":true,"transfer":{"transfer":1,"total":8,"speed":1}})"));
+  QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(bar);
+  ASSERT_NE(iface, nullptr);
+  EXPECT_EQ(iface->text(QAccessible::Name), QStringLiteral("Backing up..."));
+  ASSERT_NE(iface->valueInterface(), nullptr);
+  EXPECT_EQ(iface->valueInterface()->currentValue().toInt(), 1250);
+  EXPECT_EQ(list->nextInFocusChain(), user);
+
+  LogWidget* log = menu_->logWidget();
+  EXPECT_EQ(accessibleName(log), QStringLiteral("Activity"));
+  auto* close = child<QPushButton>(log, "logCloseButton");
+  EXPECT_EQ(accessibleName(close), QStringLiteral("Close"));
+}
+
+}  // namespace
