@@ -186,7 +186,7 @@ void SystemTray::setConnectionMode(int mode) {
 
 void SystemTray::showMenuAt(QPoint p) {
   if (mode_ != 1) return;
-  if (!QSystemTrayIcon::isSystemTrayAvailable()) {
+  if (!trayAvailable()) {
     container_->showAsWindow();
     return;
   }
@@ -195,11 +195,15 @@ void SystemTray::showMenuAt(QPoint p) {
   container_->activateWindow();
 }
 
+bool SystemTray::trayAvailable() const {
+  return trayAvailable_ ? trayAvailable_() : QSystemTrayIcon::isSystemTrayAvailable();
+}
+
 void SystemTray::click() {
   if (mode_ == 2) {
     emit sigTrayClickedWithoutConnection();
   } else if (mode_ == 1) {
-    if (!QSystemTrayIcon::isSystemTrayAvailable()) {
+    if (!trayAvailable()) {
       container_->showAsWindow();
       return;
     }

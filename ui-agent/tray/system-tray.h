@@ -98,6 +98,9 @@ class SystemTray : public QSystemTrayIcon {
   // While it answers true, presses outside do not close the pop-up (the
   // menu's own drop-down is open).
   void setHoldOpenQuery(std::function<bool()> query) { holdOpen_ = std::move(query); }
+  // Whether the desktop has a notification area; asks Qt unless a test
+  // gives another answer.
+  void setTrayAvailabilitySource(std::function<bool()> source) { trayAvailable_ = std::move(source); }
 
  signals:
   void sigGetConnectionInfo();
@@ -113,6 +116,7 @@ class SystemTray : public QSystemTrayIcon {
  private:
   void applyIcon();
   void click();
+  bool trayAvailable() const;
 
   TrayMenuContainer* container_ = nullptr;
   int mode_ = 0;
@@ -121,4 +125,5 @@ class SystemTray : public QSystemTrayIcon {
   QString iconName_;
   PanelThemeWatcher* theme_ = nullptr;
   std::function<bool()> holdOpen_;
+  std::function<bool()> trayAvailable_;
 };
