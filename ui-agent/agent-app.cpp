@@ -86,7 +86,7 @@ QString registerPaths() {
 
 // The primary instance's controller in this build: the tray icon.
 std::unique_ptr<QObject> startTray(bool) {
-  auto tray = std::make_unique<SystemTray>(new QWidget);
+  auto tray = std::make_unique<SystemTray>();
   tray->setVisible(true);
   return tray;
 }

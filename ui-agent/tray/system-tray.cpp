@@ -19,6 +19,8 @@
 #include "logger.h"
 #include "string-display.h"
 #include "style-manager.h"
+#include "tray/quota-info-widget.h"
+#include "tray/tray-menu.h"
 #include "tray/tray-placement.h"
 #include "tray/tray-theme.h"
 
@@ -122,9 +124,11 @@ QVector<TrayBalloon> trayBalloons(const Json::Value& notifications) {
 
 // ---- SystemTray --------------------------------------------------------------
 
-SystemTray::SystemTray(QWidget* menu, QObject* parent) : QSystemTrayIcon(parent) {
-  if (menu) menu->setFixedSize(DPIinfo::scaled(400), DPIinfo::scaled(232));
-  container_ = new TrayMenuContainer(menu);
+SystemTray::SystemTray(QObject* parent) : QSystemTrayIcon(parent) {
+  menu_ = new TrayMenu();
+  container_ = new TrayMenuContainer(menu_);
+  menu_->setFixedSize(DPIinfo::scaled(400), DPIinfo::scaled(232));
+  holdOpen_ = [this] { return menu_->userMenu() && menu_->userMenu()->isVisible(); };
   theme_ = new PanelThemeWatcher(this);
   applyIcon();
   setToolTip(string_display::text(Str::app_name));
@@ -133,6 +137,7 @@ SystemTray::SystemTray(QWidget* menu, QObject* parent) : QSystemTrayIcon(parent)
   connect(&bus, &GlobalConnecter::sigPositionClicked, this, &SystemTray::slotPositionClicked);
   connect(this, &QSystemTrayIcon::activated, this, &SystemTray::slotIconActivated);
   connect(&bus, &GlobalConnecter::sigShowMessage, this, &SystemTray::slotShowMessage);
+  connect(menu_, &TrayMenu::sigTrayStatusChanged, this, &SystemTray::slotStatusChanged);
   connect(&bus, &GlobalConnecter::sigApplicationStateChanged, this, &SystemTray::slotApplicationStateChanged);
   connect(this, &SystemTray::sigGetConnectionInfo, &bus, &GlobalConnecter::sigGetConnectionInfo);
   connect(this, &SystemTray::sigTrayClickedWithoutConnection, &bus,
@@ -170,6 +175,7 @@ void SystemTray::setConnectionMode(int mode) {
     setContextMenu(nullptr);
     rightMenu_->deleteLater();
     rightMenu_ = nullptr;
+    menu_->clearLogEntries();
     status_ = TrayIdle;
     applyIcon();
   } else if (mode == 1 && !rightMenu_) {
@@ -235,4 +241,28 @@ void SystemTray::slotShowMessage(QString title, QString message) {
 void SystemTray::showNotifications(const Json::Value& notifications) {
   for (const TrayBalloon& b : trayBalloons(notifications))
     showMessage(b.title, b.text, QSystemTrayIcon::Information, 10000);
+}
+
+void SystemTray::updateServiceStatus(ServiceStatus status, const Json::Value& content) {
+  menu_->updateServiceStatus(status, content);
+}
+
+void SystemTray::appendLogEntries(const QList<LogEntry>& entries) {
+  menu_->appendLogEntries(entries);
+}
+
+void SystemTray::showLogWindow() {
+  menu_->slotSeeAllClicked();
+}
+
+void SystemTray::updateQuota(const Json::Value& billing) {
+  menu_->quotaInfoWidget()->setUsage(billing);
+}
+
+void SystemTray::setAccountName(const QString& account) {
+  menu_->quotaInfoWidget()->setAccount(account);
+}
+
+void SystemTray::setMenuEntriesVisible(bool is_vell_account, bool is_auth_fork, int backup_role) {
+  menu_->setMenuEntriesVisible(is_vell_account, is_auth_fork, backup_role);
 }

@@ -20,9 +20,12 @@
 
 #include <functional>
 
+#include "core/log-entry.h"
+#include "core/service-status.h"
 #include "core/tray-status.h"
 
 class PanelThemeWatcher;
+class TrayMenu;
 
 // The frameless pop-up that holds the tray menu, placed next to the icon.
 class TrayMenuContainer : public QWidget {
@@ -75,8 +78,9 @@ QVector<TrayBalloon> trayBalloons(const Json::Value& notifications);
 class SystemTray : public QSystemTrayIcon {
   Q_OBJECT
  public:
-  // `menu` is the pop-up's content (the tray menu), taken by the container.
-  explicit SystemTray(QWidget* menu, QObject* parent = nullptr);
+  // Creates the tray menu and its pop-up; asks for the connection record
+  // one second later.
+  explicit SystemTray(QObject* parent = nullptr);
   ~SystemTray() override;
 
   // 0 no action on click, 1 connected, 2 not connected (see the class comment).
@@ -88,6 +92,17 @@ class SystemTray : public QSystemTrayIcon {
   // One balloon per notification, each replacing the one before.
   void showNotifications(const Json::Value& notifications);
 
+  // Handed on to the tray menu and its widgets.
+  void updateServiceStatus(ServiceStatus status, const Json::Value& content);
+  void appendLogEntries(const QList<LogEntry>& entries);
+  // The activity dialog, filled from the pop-up's kept entries.
+  void showLogWindow();
+  void updateQuota(const Json::Value& billing);
+  void setAccountName(const QString& account);
+  void setMenuEntriesVisible(bool is_vell_account, bool is_auth_fork, int backup_role);
+
+  TrayMenu* trayMenu() const { return menu_; }
+
   TrayMenuContainer* container() const { return container_; }
   QMenu* rightMenu() const { return rightMenu_; }
   TrayStatus trayStatus() const { return status_; }
@@ -95,8 +110,8 @@ class SystemTray : public QSystemTrayIcon {
   QString currentIconName() const { return iconName_; }
   PanelThemeWatcher* themeWatcher() const { return theme_; }
 
-  // While it answers true, presses outside do not close the pop-up (the
-  // menu's own drop-down is open).
+  // While it answers true, presses outside do not close the pop-up; by
+  // default while the menu's user drop-down is open.
   void setHoldOpenQuery(std::function<bool()> query) { holdOpen_ = std::move(query); }
   // Whether the desktop has a notification area; asks Qt unless a test
   // gives another answer.
@@ -118,6 +133,7 @@ class SystemTray : public QSystemTrayIcon {
   void click();
   bool trayAvailable() const;
 
+  TrayMenu* menu_ = nullptr;
   TrayMenuContainer* container_ = nullptr;
   int mode_ = 0;
   TrayStatus status_ = TrayIdle;

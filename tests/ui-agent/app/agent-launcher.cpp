@@ -44,7 +44,7 @@ int main(int argc, char** argv) {
   };
   options.createPrimary = [](bool openLog) -> std::unique_ptr<QObject> {
     say(QStringLiteral("OPEN_LOG %1").arg(openLog ? 1 : 0));
-    auto tray = std::make_unique<SystemTray>(new QWidget);
+    auto tray = std::make_unique<SystemTray>();
     tray->setVisible(true);
     return tray;
   };

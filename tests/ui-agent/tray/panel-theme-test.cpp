@@ -100,7 +100,7 @@ TEST_F(PanelTheme, PortalAnswerThenChangesFollow) {
 
 TEST_F(PanelTheme, TrayPictureFollowsTheDesktopScheme) {
   settings_.value = QVariant::fromValue(2u);  // prefers light: dark pictures
-  SystemTray tray(new QWidget);
+  SystemTray tray;
   EXPECT_TRUE(waitForIcon(tray, QStringLiteral("logo_tray_icn_connect_dark"), 5000))
       << tray.currentIconName().toStdString();
   tray.slotStatusChanged(TraySuccess);

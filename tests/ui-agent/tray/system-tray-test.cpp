@@ -17,7 +17,9 @@
 #include "style-manager.h"
 #include "ui-path-manager.h"
 #include "support/qt-print.h"
+#include "tray/quota-info-widget.h"
 #include "tray/system-tray.h"
+#include "tray/tray-menu.h"
 #include "tray/tray-theme.h"
 
 namespace {
@@ -96,7 +98,7 @@ class TrayIcon : public ::testing::Test {
     StyleManager::getInstance()->initialize({res + QStringLiteral("/agent.stylesheet")});
   }
   TrayIcon() {
-    tray_ = std::make_unique<SystemTray>(new QWidget);
+    tray_ = std::make_unique<SystemTray>();
     tray_->setTrayAvailabilitySource([this] { return trayAvailable_; });
     tray_->container()->setAvailableGeometrySource([] { return QRect(0, 0, 1280, 760); });
   }
@@ -183,6 +185,19 @@ TEST_F(TrayIcon, ClicksPerMode) {
   EXPECT_EQ(wizard.count(), 2);
 }
 
+TEST_F(TrayIcon, MenuReportsTheStateAndLeavingConnectedClearsItsEntries) {
+  emit tray_->trayMenu()->sigTrayStatusChanged(TrayWarning);
+  EXPECT_EQ(tray_->currentIconName(), QStringLiteral("logo_tray_icn_orange"));
+  tray_->setConnectionMode(1);
+  tray_->appendLogEntries({LogEntry{7, 1700000000, 3, Json::Value(Json::objectValue)}});
+  EXPECT_EQ(tray_->trayMenu()->logEntries().size(), 1);
+  tray_->setAccountName(QStringLiteral("ann@example.com"));
+  EXPECT_EQ(tray_->trayMenu()->quotaInfoWidget()->account(), QStringLiteral("ann@example.com"));
+  tray_->setConnectionMode(2);
+  EXPECT_TRUE(tray_->trayMenu()->logEntries().isEmpty());
+  EXPECT_EQ(tray_->currentIconName(), QStringLiteral("logo_tray_icn_connect"));
+}
+
 TEST_F(TrayIcon, SecondShowLeavesThePopupWhereItIs) {
   tray_->setConnectionMode(1);
   tray_->showMenuAt(QPoint(640, 780));
@@ -201,6 +216,14 @@ TEST_F(TrayIcon, PressOnTheEdgeKeepsItOpenOnePastCloses) {
   GlobalConnecter& bus = GlobalConnecter::instance();
   emit bus.sigPositionClicked(QPoint(g.x() + g.width(), g.y() + g.height()));
   EXPECT_TRUE(popup()->isVisible());
+  // The user button's drop-down is open: a press on it, outside the pop-up,
+  // leaves the pop-up alone.
+  QMenu* dropDown = tray_->trayMenu()->userMenu();
+  ASSERT_NE(dropDown, nullptr);
+  dropDown->popup(QPoint(g.right() + 10, g.top()));
+  emit bus.sigPositionClicked(QPoint(g.right() + 20, g.top() + 5));
+  EXPECT_TRUE(popup()->isVisible());
+  dropDown->hide();
   bool hold = true;
   tray_->setHoldOpenQuery([&hold] { return hold; });
   emit bus.sigPositionClicked(QPoint(0, 0));

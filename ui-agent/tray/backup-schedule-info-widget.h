@@ -1,0 +1,28 @@
+#pragma once
+// The schedule box of the status page: the time of the last backup and of
+// the next one.
+
+#include <QFrame>
+
+class QLabel;
+class VellLabel;
+
+class BackupScheduleInfoWidget : public QFrame {
+  Q_OBJECT
+
+ public:
+  explicit BackupScheduleInfoWidget(QWidget* parent = nullptr);
+
+  // Seconds since the epoch; 0 shows "Not backed up yet" / "No backup schedule".
+  void setLastBackupTime(quint64 secs);
+  void setNextBackupTime(quint64 secs);
+  // The status page writes the schedule-type texts straight into the value.
+  QLabel* nextBackupLabel() const { return next_value_; }
+  QLabel* lastBackupLabel() const { return last_value_; }
+
+ private:
+  VellLabel* last_caption_;
+  VellLabel* next_caption_;
+  QLabel* last_value_;
+  QLabel* next_value_;
+};

@@ -1,0 +1,34 @@
+#pragma once
+// The latest-event line of the pop-up's pages: the newest activity entry
+// fitted into two lines, its plain text as tool tip, and its age beside it.
+// The fitting is done once per entry; later refreshes only renew the age.
+
+#include <QString>
+
+#include <optional>
+
+#include "core/log-entry.h"
+#include "event-fit.h"
+
+class QLabel;
+
+class LatestEventLine {
+ public:
+  LatestEventLine(QLabel* event, QLabel* age);
+
+  void setEntry(const LogEntry& entry);
+  bool hasEntry() const { return entry_.has_value(); }
+  // Shows the fitted message (fitting it first if the entry changed) and
+  // the age at `now`.
+  void refresh(qint64 now);
+  // Only the age at `now`.
+  void refreshAge(qint64 now);
+
+ private:
+  QLabel* event_;
+  QLabel* age_;
+  std::optional<LogEntry> entry_;
+  bool fitted_ = false;
+  QString message_;
+  event_fit::Fitter fitter_;
+};

@@ -1,0 +1,184 @@
+#include "log-widget.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QScrollBar>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+#include "dpi-info.h"
+#include "relative-age.h"
+#include "string-display.h"
+#include "style-manager.h"
+#include "vell-button.h"
+
+namespace {
+
+constexpr int kMaxRows = 100;
+
+constexpr auto kHeaderStyle =
+    "QTableWidget { background-color: white; color: rgba(30,40,50,0.60); padding: 0px; margin: 0px; border: none;"
+    " outline: none; }"
+    " QTableWidget::item { border-bottom: 1px solid #EBF0F5; }";
+constexpr auto kTableStyle =
+    "QTableWidget { background-color: white; outline: none; color: #505A64; padding: 0px; margin: 0px;"
+    " border: none; }"
+    " QTableWidget::item { border-bottom: 1px solid #EBF0F5; }";
+
+void quiet(QTableWidget* t) {
+  t->setContentsMargins(0, 0, 0, 0);
+  t->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  t->horizontalScrollBar()->setEnabled(false);
+  t->horizontalHeader()->hide();
+  t->verticalHeader()->hide();
+  t->setSelectionMode(QAbstractItemView::NoSelection);
+  t->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  t->setShowGrid(false);
+}
+
+QLabel* cellLabel(const QString& text, const QString& style) {
+  auto* label = new QLabel(text);
+  label->setStyleSheet(style);
+  return label;
+}
+
+}  // namespace
+
+LogWidget::LogWidget(QWidget* parent) : QWidget(parent), fitter_(event_fit::Fitter::activity()) {
+  setObjectName(QStringLiteral("LogWidget"));
+  setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint);
+  setFixedSize(DPIinfo::scaled(700), DPIinfo::scaled(442));
+  QPalette pal = palette();
+  pal.setBrush(QPalette::All, QPalette::Window, QBrush(QColor(QStringLiteral("white"))));
+  setPalette(pal);
+  setAutoFillBackground(true);
+  setWindowTitle(string_display::text(Str::title_activities));
+  setAccessibleName(windowTitle());
+
+  header_ = new QTableWidget(1, 2, this);
+  header_->setObjectName(QStringLiteral("logHeaderTable"));
+  quiet(header_);
+  header_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  header_->setFocusPolicy(Qt::NoFocus);
+  header_->setColumnWidth(1, DPIinfo::scaled(449));
+  header_->setColumnWidth(0, DPIinfo::scaled(200));
+  header_->setRowHeight(0, DPIinfo::scaled(32));
+  header_->setFixedHeight(DPIinfo::scaled(30));
+  header_->setStyleSheet(DPIinfo::getScaledStyleSheet(QLatin1String(kHeaderStyle)));
+  for (int c = 0; c < 2; ++c) header_->setItem(0, c, new QTableWidgetItem);
+  header_->setCellWidget(0, 0, cellLabel(string_display::text(Str::desc_time),
+                                         getStyleSheet(QStringLiteral("log_widget_time"))));
+  header_->setCellWidget(0, 1, cellLabel(string_display::text(Str::desc_event),
+                                         getStyleSheet(QStringLiteral("component.lineedit_label"))));
+
+  auto* divider = new QFrame(this);
+  divider->setObjectName(QStringLiteral("logDivider"));
+  divider->setFrameShape(QFrame::HLine);
+  divider->setStyleSheet(getStyleSheet(QStringLiteral("hline_divider")));
+
+  table_ = new QTableWidget(0, 2, this);
+  table_->setObjectName(QStringLiteral("logTable"));
+  quiet(table_);
+  table_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  table_->setTextElideMode(Qt::ElideLeft);
+  table_->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
+  table_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Fixed);
+  table_->setColumnWidth(0, DPIinfo::scaled(200));
+  table_->verticalHeader()->setDefaultSectionSize(DPIinfo::scaled(40));
+  table_->setStyleSheet(DPIinfo::getScaledStyleSheet(QLatin1String(kTableStyle)));
+  table_->verticalScrollBar()->setStyleSheet(getStyleSheet(QStringLiteral("component.scrollbar")));
+  table_->setAccessibleName(windowTitle());
+
+  close_ = new VellButton(string_display::text(Str::btn_close), VellButton::Secondary, this);
+  close_->setObjectName(QStringLiteral("logCloseButton"));
+  close_->setStyleSheet(getStyleSheet(QStringLiteral("log_close_btn")));
+  close_->setFixedHeight(DPIinfo::scaled(32));
+  close_->setDefault(true);
+  connect(close_, &QPushButton::clicked, this, &LogWidget::slotCloseBtnClicked);
+
+  auto* bottom = new QHBoxLayout;
+  bottom->setContentsMargins(0, 0, 0, 0);
+  bottom->setSpacing(0);
+  bottom->addStretch();
+  bottom->addWidget(close_);
+
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(DPIinfo::scaled(24), DPIinfo::scaled(12), DPIinfo::scaled(24), DPIinfo::scaled(14));
+  layout->setSpacing(0);
+  layout->addWidget(header_);
+  layout->addWidget(divider);
+  layout->addWidget(table_);
+  layout->addSpacing(DPIinfo::scaled(12));
+  layout->addLayout(bottom);
+
+  setTabOrder(table_, close_);
+}
+
+LogWidget::~LogWidget() = default;
+
+void LogWidget::slotCloseBtnClicked() {
+  hide();
+}
+
+void LogWidget::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Escape:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      hide();
+      return;
+    default:
+      QWidget::keyPressEvent(event);
+  }
+}
+
+int LogWidget::rowCount() const {
+  return table_->rowCount();
+}
+
+quint64 LogWidget::rowId(int row) const {
+  const QTableWidgetItem* item = row >= 0 && row < table_->rowCount() ? table_->item(row, 1) : nullptr;
+  return item ? item->data(Qt::UserRole).toULongLong() : 0;
+}
+
+void LogWidget::fillEntries(const QList<LogEntry>& entries) {
+  table_->setUpdatesEnabled(false);
+  for (const LogEntry& entry : entries) {
+    if (table_->rowCount() > 0 && rowId(0) >= entry.id) continue;
+    insertEntry(entry);
+  }
+  if (table_->rowCount() > kMaxRows) table_->setRowCount(kMaxRows);
+  table_->setColumnWidth(0, 200);
+  table_->setColumnWidth(1, 449);
+  table_->setUpdatesEnabled(true);
+}
+
+void LogWidget::insertEntry(const LogEntry& entry) {
+  table_->insertRow(0);
+  const auto fitted = fitter_.fit(entry);
+  auto* label = new QLabel;
+  label->setStyleSheet(event_fit::Fitter::labelStyleSheet());
+  label->setWordWrap(true);
+  label->setFixedWidth(DPIinfo::scaled(441));
+  label->setText(fitter_.labelText(fitted.message));
+  label->setOpenExternalLinks(true);
+  label->adjustSize();
+
+  const QString plain = string_display::render_event_message(entry, false, 449);
+  label->setAccessibleName(plain);
+  auto* item = new QTableWidgetItem;
+  item->setToolTip(plain);
+  item->setData(Qt::UserRole, QVariant::fromValue<qulonglong>(entry.id));
+  table_->setItem(0, 1, item);
+  table_->setCellWidget(0, 1, label);
+  if (label->height() > 20) table_->setRowHeight(0, static_cast<int>(DPIinfo::getDPI() * (label->height() + 20)));
+
+  const QString when = tray_text::second_time(static_cast<qint64>(entry.time));
+  auto* time = cellLabel(when, getStyleSheet(QStringLiteral("log_widget_time")));
+  time->setToolTip(when);
+  table_->setItem(0, 0, new QTableWidgetItem);
+  table_->setCellWidget(0, 0, time);
+}

@@ -1,0 +1,27 @@
+#include "tray-menu-model.h"
+
+#include "json-access.h"
+
+namespace tray_menu_model {
+
+bool shows_progress_page(ServiceStatus status, const Json::Value& content) {
+  const std::int32_t category = service_status::category(status);
+  const bool connected = jsonx::get_bool(content, "connected");
+  // The category is a 4-bit field, compared as the unsigned number it is.
+  return category != StatusIdle && static_cast<std::uint32_t>(category) < 0xF000u && connected;
+}
+
+bool keep_entries(QList<LogEntry>& kept, const QList<LogEntry>& incoming) {
+  if (incoming.isEmpty()) return false;
+  kept.append(incoming);
+  if (kept.size() >= kKeptEntries) kept.erase(kept.begin(), kept.end() - kKeptEntries);
+  return true;
+}
+
+MenuVisibility menu_visibility(bool is_vell_account, bool is_auth_fork, int backup_role) {
+  if (is_auth_fork) return {false, false, false};
+  if (is_vell_account) return {true, true, true};
+  return {backup_role == 3, backup_role >= 2, false};
+}
+
+}  // namespace tray_menu_model

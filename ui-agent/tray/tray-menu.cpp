@@ -1,0 +1,231 @@
+#include "tray-menu.h"
+
+#include <QGraphicsDropShadowEffect>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+#include <QWidgetAction>
+
+#include "core/global-connecter.h"
+#include "dialogs/settings-widget.h"
+#include "dpi-info.h"
+#include "image-manager.h"
+#include "json-access.h"
+#include "log-widget.h"
+#include "logger.h"
+#include "quota-info-widget.h"
+#include "string-display.h"
+#include "style-manager.h"
+#include "tray-menu-model.h"
+#include "tray-progress-widget.h"
+#include "tray-status-widget.h"
+#include "vell-button.h"
+
+namespace {
+constexpr auto kBandwidthAction = "get_bandwidth_control";
+}
+
+TrayMenu::TrayMenu(QWidget* parent) : QFrame(parent) {
+  setObjectName(QStringLiteral("TrayMenu"));
+  setStyleSheet(getStyleSheet(QStringLiteral("tray_menu")));
+  setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
+  setAccessibleName(string_display::text(Str::app_name));
+
+  status_page_ = new TrayStatusWidget(this);
+  progress_page_ = new TrayProgressWidget(this);
+  quota_ = new QuotaInfoWidget;  // owned by the drop-down's widget action
+  log_ = new LogWidget;
+  settings_ = new SettingsWidget;
+  log_->hide();
+  settings_->hide();
+
+  buildMenu();
+  buildHeader();
+
+  pages_ = new QStackedWidget(this);
+  pages_->setObjectName(QStringLiteral("trayPages"));
+  pages_->addWidget(status_page_);
+  pages_->addWidget(progress_page_);
+  pages_->setCurrentWidget(status_page_);
+
+  auto* header = new QHBoxLayout;
+  header->setContentsMargins(0, 0, 0, 0);
+  header->setSpacing(0);
+  header->addWidget(picture_);
+  header->addSpacing(DPIinfo::scaled(8));
+  header->addWidget(title_);
+  header->addStretch();
+  header->addWidget(list_button_);
+  header->addSpacing(DPIinfo::scaled(12));
+  header->addWidget(user_button_);
+
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(DPIinfo::scaled(20), DPIinfo::scaled(12), DPIinfo::scaled(20), DPIinfo::scaled(12));
+  layout->setSpacing(0);
+  layout->addLayout(header);
+  layout->addSpacing(DPIinfo::scaled(24));
+  layout->addWidget(pages_);
+
+  auto* shadow = new QGraphicsDropShadowEffect(this);
+  shadow->setBlurRadius(12);
+  shadow->setOffset(0, 0);
+  shadow->setColor(QColor(0, 0, 0, 45));
+  setGraphicsEffect(shadow);
+
+  setTabOrder(list_button_, user_button_);
+
+  auto& bus = GlobalConnecter::instance();
+  connect(this, &TrayMenu::sigQueryService, &bus, &GlobalConnecter::sigQueryService);
+  connect(&bus, &GlobalConnecter::sigQueryServiceDone, this, &TrayMenu::slotQueryServiceDone);
+  connect(status_page_, &TrayStatusWidget::sigTrayStatusChanged, this, &TrayMenu::sigTrayStatusChanged);
+  connect(progress_page_, &TrayProgressWidget::sigTrayStatusChanged, this, &TrayMenu::sigTrayStatusChanged);
+  connect(list_button_, &QToolButton::clicked, this, &TrayMenu::slotSeeAllClicked);
+  connect(quota_, &QuotaInfoWidget::sigAccountChanged, this, &TrayMenu::showAccountInitial);
+}
+
+TrayMenu::~TrayMenu() {
+  // The two dialogs are windows of their own, not children.
+  delete log_;
+  delete settings_;
+}
+
+void TrayMenu::buildHeader() {
+  picture_ = new QLabel(this);
+  picture_->setObjectName(QStringLiteral("trayAppPicture"));
+  const int side = DPIinfo::scaled(24);
+  picture_->setPixmap(ImageManager::getInstance()->pixmap(QStringLiteral("app_img"), QSize(side, side)));
+  picture_->setFixedSize(side, side);
+
+  title_ = new QLabel(string_display::text(Str::app_name), this);
+  title_->setObjectName(QStringLiteral("trayTitle"));
+  title_->setStyleSheet(getStyleSheet(QStringLiteral("tray_title")));
+
+  list_button_ = new VellIconButton(QStringLiteral("icn_list"), this);
+  list_button_->setObjectName(QStringLiteral("trayListButton"));
+  list_button_->setAccessibleName(string_display::text(Str::title_activities));
+  list_button_->setToolTip(list_button_->accessibleName());
+  list_button_->setFocusPolicy(Qt::StrongFocus);
+
+  user_button_ = new VellIconButton(this);
+  user_button_->setObjectName(QStringLiteral("trayUserButton"));
+  user_button_->setText(QStringLiteral("U"));
+  user_button_->setStyleSheet(getStyleSheet(QStringLiteral("tray_user_icon")));
+  user_button_->setFixedSize(DPIinfo::scaled(24), DPIinfo::scaled(24));
+  user_button_->setMenu(menu_);
+  user_button_->setAccessibleName(string_display::text(Str::act_settings));
+  user_button_->setFocusPolicy(Qt::StrongFocus);
+}
+
+void TrayMenu::buildMenu() {
+  auto& bus = GlobalConnecter::instance();
+  menu_ = new QMenu(this);
+  menu_->setObjectName(QStringLiteral("SettingMenu"));
+  menu_->setWindowFlags(menu_->windowFlags() | Qt::Popup | Qt::NoDropShadowWindowHint);
+  menu_->setFixedWidth(DPIinfo::scaled(200));
+  menu_->setStyleSheet(getStyleSheet(QStringLiteral("tray_setting_menu")));
+
+  auto* quotaAction = new QWidgetAction(menu_);
+  quotaAction->setDefaultWidget(quota_);
+  menu_->addAction(quotaAction);
+  menu_->addSeparator();
+  web_console_ = menu_->addAction(string_display::text(Str::menu_web_console));
+  web_console_->setObjectName(QStringLiteral("actionWebConsole"));
+  connect(web_console_, &QAction::triggered, &bus, &GlobalConnecter::sigWebConsole);
+  recovery_portal_ = menu_->addAction(string_display::text(Str::menu_restore_portal));
+  recovery_portal_->setObjectName(QStringLiteral("actionRecoveryPortal"));
+  connect(recovery_portal_, &QAction::triggered, &bus, &GlobalConnecter::sigRestorePortal);
+  menu_->addSeparator();
+  QAction* settings = menu_->addAction(string_display::text(Str::act_settings));
+  settings->setObjectName(QStringLiteral("actionSettings"));
+  connect(settings, &QAction::triggered, this, &TrayMenu::slotShowSettingsWindow);
+  menu_->addSeparator();
+  QAction* help = menu_->addAction(string_display::text(Str::act_help));
+  help->setObjectName(QStringLiteral("actionHelp"));
+  connect(help, &QAction::triggered, &bus, &GlobalConnecter::sigOpenHelp);
+  QAction* about = menu_->addAction(string_display::text(Str::act_about));
+  about->setObjectName(QStringLiteral("actionAbout"));
+  connect(about, &QAction::triggered, &bus, &GlobalConnecter::sigShowAboutWindow);
+  QAction* logout = menu_->addAction(string_display::text(Str::act_tray_logout));
+  logout->setObjectName(QStringLiteral("actionLogout"));
+  connect(logout, &QAction::triggered, &bus, &GlobalConnecter::sigLogoutService);
+}
+
+void TrayMenu::showAccountInitial(const QString& account) {
+  if (account.isEmpty()) return;
+  user_button_->setText(account.left(1).toUpper());
+  user_button_->setAccessibleName(account);
+  user_button_->setToolTip(account);
+}
+
+void TrayMenu::setClock(const tray_text::Clock& clock) {
+  status_page_->setClock(clock);
+  progress_page_->setClock(clock);
+}
+
+void TrayMenu::updateServiceStatus(ServiceStatus status, const Json::Value& content) {
+  if (tray_menu_model::shows_progress_page(status, content)) {
+    pages_->setCurrentWidget(progress_page_);
+    progress_page_->updateStatus(status, content);
+  } else {
+    pages_->setCurrentWidget(status_page_);
+    status_page_->updateStatus(content);
+  }
+}
+
+void TrayMenu::appendLogEntries(const QList<LogEntry>& entries) {
+  if (!tray_menu_model::keep_entries(entries_, entries)) return;
+  status_page_->setLatestEvent(entries_.back());
+  progress_page_->setLatestEvent(entries_.back());
+}
+
+void TrayMenu::clearLogEntries() {
+  entries_.clear();
+}
+
+void TrayMenu::setMenuEntriesVisible(bool is_vell_account, bool is_auth_fork, int backup_role) {
+  const auto v = tray_menu_model::menu_visibility(is_vell_account, is_auth_fork, backup_role);
+  web_console_->setVisible(v.web_console);
+  recovery_portal_->setVisible(v.recovery_portal);
+  quota_->setUsageAreaVisible(v.quota_area);
+}
+
+void TrayMenu::slotSeeAllClicked() {
+  log_->fillEntries(entries_);
+  log_->show();
+  log_->raise();
+  log_->activateWindow();
+}
+
+void TrayMenu::slotShowSettingsWindow() {
+  Json::Value request(Json::objectValue);
+  request["action"] = kBandwidthAction;
+  emit sigQueryService(this, request);
+}
+
+void TrayMenu::slotQueryServiceDone(const QObject* /*sender*/, Json::Value response) {
+  // The settings open for any bandwidth answer, whoever asked.
+  if (jsonx::get_string(response, "action") != kBandwidthAction) return;
+  const Json::Value& server = jsonx::member(response, "server_config");
+  const Json::Value& client = jsonx::member(response, "client_config");
+  if (SettingsWidget::isValidConfig(server)) settings_->applyServerConfig(server);
+  if (SettingsWidget::isValidConfig(client)) {
+    settings_->loadClientConfig(client);
+  } else {
+    LOG_WARN("default_component", "bandwidth answer without a valid client_config: showing the defaults");
+    settings_->loadClientConfig(SettingsWidget::defaultClientConfig());
+  }
+  settings_->show();
+  settings_->raise();
+  settings_->activateWindow();
+}
+
+void TrayMenu::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape && isWindow()) {
+    hide();
+    return;
+  }
+  QFrame::keyPressEvent(event);
+}

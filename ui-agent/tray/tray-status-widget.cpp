@@ -1,0 +1,151 @@
+#include "tray-status-widget.h"
+
+#include <QFontMetrics>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QTextDocument>
+#include <QTextDocumentFragment>
+#include <QVBoxLayout>
+
+#include "backup-schedule-info-widget.h"
+#include "dpi-info.h"
+#include "image-manager.h"
+#include "latest-event.h"
+#include "status-page-model.h"
+#include "string-display.h"
+#include "style-manager.h"
+#include "vell-label.h"
+
+namespace {
+
+constexpr auto kAgeStyle = "QLabel { color: rgba(80,90,100,0.65); font-size: 12px; }";
+
+}  // namespace
+
+TrayStatusWidget::TrayStatusWidget(QWidget* parent) : QWidget(parent) {
+  setObjectName(QStringLiteral("TrayStatusWidget"));
+  picture_ = new QLabel(this);
+  picture_->setObjectName(QStringLiteral("statusPicture"));
+  picture_->setFixedSize(DPIinfo::scaled(48), DPIinfo::scaled(48));
+
+  result_ = new VellLabel(this);
+  result_->setObjectName(QStringLiteral("statusResult"));
+  result_->setStyleSheet(getStyleSheet(QStringLiteral("tray_status_display")));
+  result_->setFixedSize(DPIinfo::scaled(296), DPIinfo::scaled(28));
+  result_->setElideMode(Qt::ElideRight);
+
+  event_ = new QLabel(this);
+  event_->setObjectName(QStringLiteral("statusLatestEvent"));
+  event_->setStyleSheet(event_fit::Fitter::labelStyleSheet());
+  event_->setFixedSize(DPIinfo::scaled(177), DPIinfo::scaled(40));
+  event_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  event_->setWordWrap(true);
+  event_->setTextFormat(Qt::RichText);
+  event_->setOpenExternalLinks(true);
+
+  age_ = new QLabel(this);
+  age_->setObjectName(QStringLiteral("statusEventAge"));
+  age_->setStyleSheet(DPIinfo::getScaledStyleSheet(QLatin1String(kAgeStyle)));
+  age_->setFixedSize(DPIinfo::scaled(119), DPIinfo::scaled(40));
+  age_->setAlignment(Qt::AlignRight | Qt::AlignTop);
+
+  schedule_ = new BackupScheduleInfoWidget(this);
+  schedule_->setFixedSize(DPIinfo::scaled(376), DPIinfo::scaled(68));
+
+  latest_ = std::make_unique<LatestEventLine>(event_, age_);
+
+  // picture | column (result, latest event + age); the schedule box below.
+  auto* column = new QVBoxLayout;
+  column->setContentsMargins(0, DPIinfo::scaled(5), 0, 0);
+  column->setSpacing(0);
+  column->addWidget(result_);
+  column->addSpacing(DPIinfo::scaled(4));
+  auto* eventRow = new QHBoxLayout;
+  eventRow->setContentsMargins(0, 0, 0, 0);
+  eventRow->setSpacing(0);
+  eventRow->addWidget(event_);
+  eventRow->addWidget(age_);
+  eventRow->addStretch();
+  column->addLayout(eventRow);
+
+  auto* top = new QHBoxLayout;
+  top->setContentsMargins(0, 0, 0, 0);
+  top->setSpacing(DPIinfo::scaled(16));
+  top->addWidget(picture_, 0, Qt::AlignTop);
+  top->addLayout(column);
+  top->addStretch();
+
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  layout->addLayout(top);
+  layout->addSpacing(DPIinfo::scaled(16));
+  layout->addWidget(schedule_);
+  layout->addStretch();
+
+  const auto ready = tray_status_page::result_for(0, true);
+  setPicture(ready.picture);
+  result_->setText(string_display::text(ready.text));
+  result_->setAccessibleName(result_->fullText());
+}
+
+TrayStatusWidget::~TrayStatusWidget() = default;
+
+void TrayStatusWidget::setPicture(const char* name) {
+  const int side = DPIinfo::scaled(48);
+  picture_->setPixmap(ImageManager::getInstance()->pixmap(QLatin1String(name), QSize(side, side)));
+}
+
+void TrayStatusWidget::updateStatus(const Json::Value& content) {
+  const auto view = tray_status_page::view_for(content);
+  setPicture(view.result.picture);
+  result_->setText(string_display::text(view.result.text));
+  result_->setAccessibleName(result_->fullText());
+  picture_->setAccessibleName(result_->fullText());
+
+  if (view.error) {
+    error_shown_ = true;
+    event_->setFixedWidth(DPIinfo::scaled(296));
+    const QString& message = view.error_message;
+    // Plain messages are cut to two lines; one with a link is shown whole.
+    const QString shown = Qt::mightBeRichText(message)
+                              ? message
+                              : QFontMetrics(event_->font())
+                                    .elidedText(message, Qt::ElideRight, DPIinfo::scaled(556))
+                                    .toHtmlEscaped();
+    event_->setText(tray_text::line_div(shown));
+    const QString plain = QTextDocumentFragment::fromHtml(message).toPlainText();
+    event_->setToolTip(message);
+    event_->setAccessibleName(plain);
+    age_->hide();
+    emit sigTrayStatusChanged(TrayError);
+    return;
+  }
+
+  if (error_shown_) {
+    error_shown_ = false;
+    event_->setFixedWidth(DPIinfo::scaled(177));
+    event_->clear();
+    event_->setToolTip(QString());
+  }
+  if (view.last_backup) schedule_->lastBackupLabel()->setText(*view.last_backup);
+  QLabel* next = schedule_->nextBackupLabel();
+  if (view.next_backup) {
+    next->setToolTip(QString());
+    const QFontMetrics fm(next->font());
+    if (fm.horizontalAdvance(*view.next_backup) > next->width()) {
+      next->setText(fm.elidedText(*view.next_backup, Qt::ElideRight, next->width()));
+      next->setToolTip(*view.next_backup);
+    } else {
+      next->setText(*view.next_backup);
+    }
+  }
+  age_->show();
+  latest_->refresh(clock_());
+  emit sigTrayStatusChanged(view.result.tray);
+}
+
+void TrayStatusWidget::setLatestEvent(const LogEntry& entry) {
+  latest_->setEntry(entry);
+  if (!error_shown_) latest_->refresh(clock_());
+}
