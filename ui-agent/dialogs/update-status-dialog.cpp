@@ -1,0 +1,79 @@
+#include "update-status-dialog.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "dpi-info.h"
+#include "image-manager.h"
+#include "string-display.h"
+#include "style-manager.h"
+#include "vell-button.h"
+
+Qt::WindowFlags UpdateStatusDialog::baseWindowFlags() {
+  return Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+}
+
+UpdateStatusDialog::UpdateStatusDialog(QWidget* parent) : QDialog(parent) {
+  setObjectName(QStringLiteral("UpdateStatusDialog"));
+  using string_display::text;
+
+  icon_ = new QLabel(this);
+  icon_->setObjectName(QStringLiteral("UpdateStatusIcon"));
+  const QSize iconSize(DPIinfo::scaled(72), DPIinfo::scaled(72));
+  icon_->setFixedSize(iconSize);
+  icon_->setPixmap(ImageManager::getInstance()->pixmap(QStringLiteral("icon_agent"), iconSize));
+  icon_->setAccessibleName(text(Str::app_name));
+
+  message_ = new QLabel(this);
+  message_->setObjectName(QStringLiteral("UpdateStatusMessage"));
+  message_->setWordWrap(true);
+  message_->setStyleSheet(getStyleSheet(QStringLiteral("about_version")));
+  message_->setFixedWidth(DPIinfo::scaled(300));
+
+  ok_ = new VellButton(text(Str::btn_ok), VellButton::Secondary, this);
+  ok_->setObjectName(QStringLiteral("UpdateStatusOk"));
+  ok_->setAccessibleName(ok_->text());
+  ok_->setAutoDefault(true);
+  connect(ok_, &QPushButton::clicked, this, &QDialog::reject);
+
+  auto* top = new QHBoxLayout;
+  top->setContentsMargins(DPIinfo::scaled(10), 0, DPIinfo::scaled(10), 0);
+  top->setSpacing(0);
+  top->addWidget(icon_);
+  top->addSpacing(DPIinfo::scaled(8));
+  top->addWidget(message_);
+  top->addStretch(1);
+  auto* bottom = new QHBoxLayout;
+  const int m = DPIinfo::scaled(10);
+  bottom->setContentsMargins(m, m, m, m);
+  bottom->setSpacing(0);
+  bottom->addStretch(1);
+  bottom->addWidget(ok_);
+  auto* v = new QVBoxLayout(this);
+  v->addLayout(top);
+  v->addLayout(bottom);
+
+  setFixedSize(DPIinfo::scaled(400), DPIinfo::scaled(148));
+  QPalette pal = palette();
+  pal.setBrush(QPalette::All, backgroundRole(), QBrush(QColor(Qt::white)));
+  setPalette(pal);
+  setWindowTitle(text(Str::app_name));
+  setWindowIcon(QIcon(getGlobalImage(QStringLiteral("app_img"))));
+  setWindowFlags(baseWindowFlags());
+  setWindowModality(Qt::ApplicationModal);
+}
+
+void UpdateStatusDialog::setMessage(const QString& message) {
+  message_->setText(message);
+  setAccessibleDescription(message);
+}
+
+QString UpdateStatusDialog::message() const {
+  return message_->text();
+}
+
+void UpdateStatusDialog::setButtonVisible(bool visible) {
+  ok_->setVisible(visible);
+  if (visible) ok_->setFocus(Qt::OtherFocusReason);
+}

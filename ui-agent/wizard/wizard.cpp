@@ -1,0 +1,187 @@
+#include "wizard.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QLayout>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+#include "core/global-connecter.h"
+#include "core/service-error-text.h"
+#include "core/status-store.h"
+#include "dpi-info.h"
+#include "image-manager.h"
+#include "logger.h"
+#include "nimbra-loading-frame.h"
+#include "string-display.h"
+#include "style-manager.h"
+#include "summary-page.h"
+#include "vell-mask.h"
+#include "vell-message-sheet.h"
+#include "welcome-page.h"
+
+namespace {
+
+using string_display::text;
+
+const QColor kMaskColour(0, 0, 0, 20);
+
+}  // namespace
+
+Qt::WindowFlags Wizard::windowFlagsOfWizard() {
+  return Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+}
+
+Wizard::Wizard(QWidget* parent) : QWidget(parent) {
+  setObjectName(QStringLiteral("Wizard"));
+  stack_ = new QStackedWidget(this);
+  stack_->setObjectName(QStringLiteral("WizardPages"));
+  stack_->setContentsMargins(0, 0, 0, 0);
+  welcome_ = new WelcomePage(this);
+  summary_ = new SummaryPage(this);
+  stack_->addWidget(welcome_);
+  stack_->addWidget(summary_);
+  stack_->setCurrentWidget(welcome_);
+
+  auto* v = new QVBoxLayout(this);
+  v->setContentsMargins(0, 0, 0, 0);
+  v->setSpacing(0);
+  v->addWidget(stack_);
+
+  QPalette pal = palette();
+  pal.setColor(QPalette::All, QPalette::Window, QColor(255, 255, 255, 255));
+  setPalette(pal);
+  setAutoFillBackground(true);
+
+  connect(summary_, &SummaryPage::sigReviewSummaryDone, this, &Wizard::slotReviewSummaryDone);
+  connect(this, &Wizard::sigCreateDevice, &GlobalConnecter::instance(), &GlobalConnecter::sigCreateDevice);
+
+  setWindowTitle(text(Str::app_name));
+  setWindowIcon(QIcon(getGlobalImage(QStringLiteral("app_img"))));
+  setWindowFlags(windowFlagsOfWizard());
+  setFixedSize(DPIinfo::scaled(900), DPIinfo::scaled(600));
+  setAccessibleName(text(Str::app_name));
+}
+
+void Wizard::bringToFront() {
+  const Qt::WindowFlags forward = Qt::WindowStaysOnTopHint | Qt::BypassWindowManagerHint;
+  setWindowFlags(windowFlags() | forward);
+  show();
+  setWindowFlags(windowFlags() & ~forward);
+  setWindowState((windowState() & ~Qt::WindowMinimized) | Qt::WindowActive);
+  show();
+  activateWindow();
+  raise();
+}
+
+void Wizard::showWelcomePage() {
+  stack_->setCurrentWidget(welcome_);
+  welcome_->startButton()->setFocus(Qt::OtherFocusReason);
+}
+
+void Wizard::showSummaryPage() {
+  stack_->setCurrentWidget(summary_);
+  ServiceStatus status;
+  Json::Value content;
+  StatusStore::instance().getStatus(status, content);
+  summary_->setSiteInfo(content);
+}
+
+void Wizard::showSignInSheet() {
+  if (!signIn_) {
+    signIn_ = new VellMessageSheet(VellMessageSheet::Notice, this, true);
+    signIn_->setObjectName(QStringLiteral("WizardSignInSheet"));
+    signIn_->setFixedSize(DPIinfo::scaled(480), DPIinfo::scaled(184));
+    signIn_->setText(text(Str::title_wizard_sign_in), getStyleSheet(QStringLiteral("wizard_text_17px_1E2832")));
+    signIn_->setInformativeText(text(Str::desc_wizard_sign_in),
+                                getStyleSheet(QStringLiteral("wizard_informative_text_15px_1E2832")));
+    if (QPushButton* ok = signIn_->button(QMessageBox::Ok)) {
+      ok->setStyleSheet(getStyleSheet(QStringLiteral("nimbra_button_2")));
+      ok->setText(text(Str::btn_ok));
+      ok->setFixedSize(DPIinfo::scaled(100), DPIinfo::scaled(32));
+      ok->setAccessibleName(ok->text());
+    }
+    if (auto* box = qobject_cast<QBoxLayout*>(signIn_->layout()))
+      box->setContentsMargins(DPIinfo::scaled(12), DPIinfo::scaled(12), DPIinfo::scaled(12), DPIinfo::scaled(6));
+    signIn_->setAccessibleName(text(Str::title_wizard_sign_in));
+    VellMask::createMask(signIn_, this, kMaskColour);
+  }
+  signIn_->exec();
+}
+
+void Wizard::closeSignInSheet() {
+  if (signIn_) signIn_->quit();
+}
+
+int Wizard::showConnecting() {
+  if (!connecting_) {
+    connecting_ = new NimbraLoadingFrame(this);
+    QString label = text(Str::desc_wizard_connecting);
+    // One no-break space after the text; the catalogue may carry it already.
+    if (!label.endsWith(QChar(0x00A0))) label += QChar(0x00A0);
+    connecting_->setText(label);
+    const QSize icon(DPIinfo::scaled(16), DPIinfo::scaled(16));
+    connecting_->setIcon(ImageManager::getInstance()->pixmap(QStringLiteral("icon_agent"), icon));
+    VellMask::createMask(connecting_, this, kMaskColour);
+  }
+  return connecting_->startLoading();
+}
+
+void Wizard::hideConnecting() {
+  if (connecting_) connecting_->stopLoading();
+}
+
+void Wizard::showError(int code, const Json::Value& response) {
+  hideConnecting();
+  const QString message = service_error::message(code, response);
+  LOG_INFO(vlog::kDefaultComponent, "wizard shows error %d", code);
+  VellMessageSheet sheet(VellMessageSheet::Error, this, true);
+  sheet.setObjectName(QStringLiteral("WizardErrorSheet"));
+  sheet.setFixedWidth(DPIinfo::scaled(480));
+  sheet.setText(message, getStyleSheet(QStringLiteral("wizard_informative_text_15px_1E2832")));
+  if (QPushButton* ok = sheet.button(QMessageBox::Ok)) {
+    ok->setText(text(Str::btn_ok));
+    ok->setFixedSize(DPIinfo::scaled(100), DPIinfo::scaled(32));
+    ok->setAccessibleName(ok->text());
+  }
+  sheet.setAccessibleName(message);
+  VellMask::createMask(&sheet, this, kMaskColour);
+  sheet.exec();
+}
+
+void Wizard::slotReviewSummaryDone() {
+  emit sigCreateDevice(summary_->siteCode(), summary_->subIdForSite(), summary_->accountType());
+}
+
+void Wizard::closeEvent(QCloseEvent* event) {
+  QWidget::closeEvent(event);
+  QCoreApplication::quit();
+}
+
+QWidget* Wizard::modalCover() const {
+  const QList<VellMessageSheet*> running = VellMessageSheet::runningSheets();
+  for (auto it = running.crbegin(); it != running.crend(); ++it)
+    if ((*it)->parentWidget() == this) return *it;
+  if (connecting_ && connecting_->isVisible()) return connecting_;
+  return nullptr;
+}
+
+bool Wizard::focusNextPrevChild(bool next) {
+  // While a sheet or the connecting frame is up, Tab cycles inside it only:
+  // the masked page under it must not take keys.
+  QWidget* cover = modalCover();
+  if (!cover) return QWidget::focusNextPrevChild(next);
+  QList<QWidget*> chain;
+  for (QWidget* w : cover->findChildren<QWidget*>())
+    if ((w->focusPolicy() & Qt::TabFocus) && w->isVisibleTo(cover) && w->isEnabled()) chain << w;
+  if (chain.isEmpty()) {
+    cover->setFocus(Qt::TabFocusReason);
+    return true;
+  }
+  int at = chain.indexOf(QApplication::focusWidget());
+  at = at < 0 ? 0 : (at + (next ? 1 : chain.size() - 1)) % chain.size();
+  chain.at(at)->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+  return true;
+}
