@@ -3,6 +3,8 @@
 #include <cerrno>
 #include <cstdlib>
 
+#include <QRegularExpression>
+
 #include "json-access.h"
 #include "logger.h"
 #include "string-display.h"
@@ -50,9 +52,9 @@ bool isValidConfig(const Json::Value& config) {
   const Json::Value& range = jsonx::member(config, kRange);
   // Only a JSON bool false switches the range off; anything else asks for
   // valid times.
-  if (range.isBool() && !jsonx::to_bool(range)) return false;
-  return jsonx::has(config, kStart) && isValidTime(jsonx::get_string(config, kStart)) && jsonx::has(config, kEnd) &&
-         isValidTime(jsonx::get_string(config, kEnd));
+  if (range.isBool() && !jsonx::to_bool(range)) return true;
+  return jsonx::has(config, kStart) && isValidTime(jsonx::get_string(config, kStart)) &&
+         jsonx::has(config, kEnd) && isValidTime(jsonx::get_string(config, kEnd));
 }
 
 Json::Value defaultConfig() {
@@ -124,8 +126,8 @@ LoadedSettings loadSettings(const Json::Value& config) {
     out.rate = QString::number(value);
     if (value < kMinRate || value > kMaxRate) {
       out.rate = clampRate(out.rate);
-      LOG_WARN(vlog::kDefaultComponent, "bandwidth rate %lld out of range, showing %s", static_cast<long long>(value),
-               out.rate.toUtf8().constData());
+      LOG_WARN(vlog::kDefaultComponent, "bandwidth rate %lld out of range, showing %s",
+               static_cast<long long>(value), out.rate.toUtf8().constData());
     }
   }
 
@@ -144,7 +146,11 @@ LoadedSettings loadSettings(const Json::Value& config) {
 
 QString clampRate(const QString& text) {
   bool ok = false;
-  const qlonglong value = text.trimmed().toLongLong(&ok, 10);
+  const QString digits = text.trimmed();
+  const qlonglong value = digits.toLongLong(&ok, 10);
+  // Digits too many for any integer are above the highest rate.
+  static const QRegularExpression allDigits(QStringLiteral("^[0-9]+$"));
+  if (!ok && allDigits.match(digits).hasMatch()) return QString::number(kMaxRate);
   if (!ok || value < kMinRate) return QString::number(kMinRate);
   if (value > kMaxRate) return QString::number(kMaxRate);
   return QString::number(value);

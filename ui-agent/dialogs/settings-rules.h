@@ -46,11 +46,11 @@ QString endDisplayText(const QString& end, const QString& start, const QString& 
 
 // What a configuration puts into the controls.
 struct LoadedSettings {
-  bool limited = false;   // the limit radio, else "Maximum"
-  QString rate;           // the rate edit, a decimal number within 5..9999
+  bool limited = false;    // the limit radio, else "Maximum"
+  QString rate;            // the rate edit, a decimal number within 5..9999
   bool limitRange = true;  // the range check box
-  QString start;          // "HH:MM"
-  QString end;            // "HH:MM" (the widget adds the "Next day" suffix)
+  QString start;           // "HH:MM"
+  QString end;             // "HH:MM" (the widget adds the "Next day" suffix)
 };
 // Fields that are missing, of the wrong type or out of range take the
 // defaults (rate clamped); every such fallback is logged.

@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QDesktopServices>
+#include <QFrame>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -64,8 +65,14 @@ SettingsWidget::SettingsWidget(QWidget* parent) : QWidget(parent) {
 
   buildUi();
 
-  connect(this, &SettingsWidget::sigQueryService, &GlobalConnecter::instance(), &GlobalConnecter::sigQueryService);
+  connect(this, &SettingsWidget::sigQueryService, &GlobalConnecter::instance(),
+          &GlobalConnecter::sigQueryService);
   connect(m_limitRadio, &QRadioButton::toggled, this, &SettingsWidget::slotEnableBandWidthBtnClicked);
+  // The two radios are one Tab stop, the checked one; arrows move between them.
+  for (QRadioButton* radio :
+       {static_cast<QRadioButton*>(m_noLimitRadio), static_cast<QRadioButton*>(m_limitRadio)})
+    connect(radio, &QRadioButton::toggled, this,
+            [radio](bool checked) { radio->setFocusPolicy(checked ? Qt::StrongFocus : Qt::ClickFocus); });
   connect(m_rateEdit, &QLineEdit::textChanged, this, &SettingsWidget::slotCheckInputBandWidthVaild);
   connect(m_rangeCheckBox, &QCheckBox::stateChanged, this, &SettingsWidget::slotChangeRangeStatus);
   connect(m_startCombo, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
@@ -97,12 +104,22 @@ void SettingsWidget::buildUi() {
   m_scrollArea = new VellVerticalScrollArea(this);
   m_scrollArea->setObjectName(QStringLiteral("SettingsScrollArea"));
   m_scrollArea->setFixedHeight(px(382));
+  // The controls take the focus, not the area around them.
+  m_scrollArea->setFocusPolicy(Qt::NoFocus);
   m_content = buildContent();
   m_scrollArea->setWidget(m_content);
   outer->addWidget(m_scrollArea);
 
+  // A hairline keeps the buttons apart from content scrolled under them.
+  auto* divider = new QFrame(this);
+  divider->setObjectName(QStringLiteral("SettingsDivider"));
+  divider->setFrameShape(QFrame::HLine);
+  divider->setFixedHeight(1);
+  divider->setStyleSheet(getStyleSheet(QStringLiteral("hline_divider")));
+  outer->addWidget(divider);
+
   auto* buttons = new QHBoxLayout();
-  buttons->setContentsMargins(px(40), px(14), px(40), px(14));
+  buttons->setContentsMargins(px(40), px(13), px(40), px(14));
   buttons->setSpacing(px(12));
   buttons->addStretch();
   m_cancelButton = new VellButton(text(Str::btn_cancel), VellButton::Secondary, this);
@@ -120,7 +137,7 @@ QWidget* SettingsWidget::buildContent() {
   auto* content = new QWidget();
   content->setObjectName(QStringLiteral("SettingsContent"));
   auto* layout = new QVBoxLayout(content);
-  layout->setContentsMargins(px(40), px(24), px(40), px(16));
+  layout->setContentsMargins(px(40), px(20), px(40), px(12));
   layout->setSpacing(0);
 
   m_titleLabel = new VellLabel(withLineHeight(text(Str::bandwidth_control).toHtmlEscaped(), 24), content);
@@ -141,14 +158,16 @@ QWidget* SettingsWidget::buildContent() {
   m_learnMoreLink->setObjectName(QStringLiteral("SettingsLearnMore"));
   m_learnMoreLink->setAccessibleName(text(Str::label_learn_more));
   m_learnMoreLink->setToolTip(QString::fromLatin1(kLearnMoreUrl));
+  // Its focus frame would otherwise push the text off the description's edge.
+  m_learnMoreLink->setIndent(0);
   layout->addWidget(m_learnMoreLink, 0, Qt::AlignLeft);
-  layout->addSpacing(px(16));
+  layout->addSpacing(px(12));
 
   // The organisation's note, with the gap below it, shows only when set.
   m_noteBox = new QWidget(content);
   m_noteBox->setObjectName(QStringLiteral("SettingsServerNoteBox"));
   auto* noteLayout = new QVBoxLayout(m_noteBox);
-  noteLayout->setContentsMargins(0, 0, 0, px(16));
+  noteLayout->setContentsMargins(0, 0, 0, px(12));
   m_noteLabel = new QLabel(m_noteBox);
   m_noteLabel->setObjectName(QStringLiteral("SettingsServerNote"));
   m_noteLabel->setTextFormat(Qt::RichText);
@@ -158,7 +177,8 @@ QWidget* SettingsWidget::buildContent() {
   m_noteBox->hide();
   layout->addWidget(m_noteBox);
 
-  const QString radioSheet = getStyleSheet(QStringLiteral("component.radio_button")) + extraSheet(kRadioExtra);
+  const QString radioSheet =
+      getStyleSheet(QStringLiteral("component.radio_button")) + extraSheet(kRadioExtra);
   m_noLimitRadio = new VellRadioButton(text(Str::bandwidth_no_limit), content);
   m_noLimitRadio->setObjectName(QStringLiteral("SettingsNoLimitRadio"));
   m_noLimitRadio->setStyleSheet(radioSheet);
@@ -212,7 +232,8 @@ QWidget* SettingsWidget::buildContent() {
   const int indent = px(24);
   m_rangeCheckBox = new VellCheckBox(text(Str::retention_bandwidth_enable_range), content);
   m_rangeCheckBox->setObjectName(QStringLiteral("SettingsRangeCheckBox"));
-  m_rangeCheckBox->setStyleSheet(getStyleSheet(QStringLiteral("component.checkbox")) + extraSheet(kCheckExtra));
+  m_rangeCheckBox->setStyleSheet(getStyleSheet(QStringLiteral("component.checkbox")) +
+                                 extraSheet(kCheckExtra));
   auto* checkRow = new QHBoxLayout();
   checkRow->setContentsMargins(indent, 0, 0, 0);
   checkRow->addWidget(m_rangeCheckBox);
@@ -238,7 +259,8 @@ void SettingsWidget::buildTimeRows(QWidget* container) {
   rows->setSpacing(px(12));
   const QString labelSheet = extraSheet(kTimeLabelSheet);
 
-  auto makeRow = [&](VellLabel*& label, VellTimeComboBox*& combo, Str key, const char* name, const char* sheet) {
+  auto makeRow = [&](VellLabel*& label, VellTimeComboBox*& combo, Str key, const char* name,
+                     const char* sheet) {
     auto* row = new QHBoxLayout();
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
@@ -410,8 +432,9 @@ void SettingsWidget::applyEnabledStates() {
 }
 
 void SettingsWidget::setReadingTabOrder() {
-  QWidget* order[] = {m_learnMoreLink, m_noLimitRadio, m_limitRadio, m_rateEdit, m_rangeCheckBox,
+  QWidget* order[] = {m_learnMoreLink, m_noLimitRadio, m_limitRadio,   m_rateEdit,  m_rangeCheckBox,
                       m_startCombo,    m_endCombo,     m_cancelButton, m_saveButton};
-  for (std::size_t i = 0; i + 1 < sizeof(order) / sizeof(order[0]); ++i) QWidget::setTabOrder(order[i], order[i + 1]);
+  for (std::size_t i = 0; i + 1 < sizeof(order) / sizeof(order[0]); ++i)
+    QWidget::setTabOrder(order[i], order[i + 1]);
   m_estimateIcon->setFocusPolicy(Qt::NoFocus);
 }
