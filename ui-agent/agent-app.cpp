@@ -10,6 +10,7 @@
 #include <QThread>
 #include <QTranslator>
 
+#include "client-manager.h"
 #include "component-strings.h"
 #include "core/global-connecter.h"
 #include "image-manager.h"
@@ -20,7 +21,6 @@
 #include "single-application.h"
 #include "string-display.h"
 #include "style-manager.h"
-#include "tray/system-tray.h"
 #include "ui-path-manager.h"
 #include "vell-locale.h"
 #include "vell-message-sheet.h"
@@ -84,11 +84,12 @@ QString registerPaths() {
   return logPath;
 }
 
-// The primary instance's controller in this build: the tray icon.
-std::unique_ptr<QObject> startTray(bool) {
-  auto tray = std::make_unique<SystemTray>();
-  tray->setVisible(true);
-  return tray;
+// The client manager: its constructor starts the worker threads and builds
+// the hidden windows; start() shows the tray icon.
+std::unique_ptr<QObject> startClientManager(bool openLog) {
+  auto manager = std::make_unique<ClientManager>();
+  manager->start(openLog);
+  return manager;
 }
 
 }  // namespace
@@ -180,7 +181,7 @@ int run(int argc, char** argv, const Options& options) {
   app.setWindowIcon(QIcon(getGlobalImage(QStringLiteral("app_img"))));
   const bool openLog = wantsOpenLog(QCoreApplication::arguments());
   std::unique_ptr<QObject> controller =
-      options.createPrimary ? options.createPrimary(openLog) : startTray(openLog);
+      options.createPrimary ? options.createPrimary(openLog) : startClientManager(openLog);
   platform::installPositionSource(app);
   if (options.primaryReady) options.primaryReady();
 

@@ -23,8 +23,8 @@ struct Options {
   std::function<unsigned long()> lockUser;
   // Called once the application object exists.
   std::function<void(QApplication&)> applicationReady;
-  // Creates and starts what the primary instance runs (the controller with
-  // the tray icon); `openLog` tells whether "open_log" was an argument.
+  // Creates and starts what the primary instance runs (the client manager
+  // unless given); `openLog` tells whether "open_log" was an argument.
   std::function<std::unique_ptr<QObject>(bool openLog)> createPrimary;
   // Called in the primary instance just before the event loop runs.
   std::function<void()> primaryReady;
