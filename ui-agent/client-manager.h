@@ -45,6 +45,7 @@ class ClientManager : public QObject {
   AboutWindowContainer* aboutWindow() const { return about; }
   UpdateStatusDialog* updateStatusDialog() const { return updateDialog; }
   GetStatusWorker* statusPoller() const { return statusWorker; }
+  ServiceCommunicator* serviceCommunicator() const { return communicator; }
   int failures() const { return failureCount; }
   bool isAuthPending() const { return authPending.load(); }
   bool isOpenLogPending() const { return openLogPending; }
