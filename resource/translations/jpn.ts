@@ -5,1063 +5,1063 @@
     <name>global</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>終了</translation>
     </message>
     <message>
         <source>Copyright © %1 Corvana Inc.\nAll rights reserved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Copyright © %1 Corvana Inc.\nAll rights reserved.</translation>
     </message>
     <message>
         <source>Once log out, connection from this device will be cut off. Are you sure you want to continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>ログアウトすると、このデバイスの接続は切断されます。続行しますか？</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘルプ</translation>
     </message>
     <message>
         <source>Log out</source>
-        <translation type="unfinished"></translation>
+        <translation>ログアウト</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>バージョン情報</translation>
     </message>
     <message>
         <source>Unable to perform this action because the network connection is unstable or the service is busy. Try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワーク接続が不安定か、サービスがビジー状態のため、この操作を実行できません。しばらくしてからやり直してください。</translation>
     </message>
     <message>
         <source>Backup task started.</source>
-        <translation type="unfinished"></translation>
+        <translation>バックアップタスクを開始しました。</translation>
     </message>
     <message>
         <source>Backup task was complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>バックアップタスクが完了しました。</translation>
     </message>
     <message>
         <source>Backup task was canceled.</source>
-        <translation type="unfinished"></translation>
+        <translation>バックアップタスクがキャンセルされました。</translation>
     </message>
     <message>
         <source>Backup task failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>バックアップタスクが失敗しました。</translation>
     </message>
     <message>
         <source>Backup task was partially successful.</source>
-        <translation type="unfinished"></translation>
+        <translation>バックアップタスクは一部成功しました。</translation>
     </message>
     <message>
         <source>The scheduled backup didn&apos;t start because the device is already backing up.</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスはすでにバックアップ中のため、スケジュールされたバックアップは開始されませんでした。</translation>
     </message>
     <message>
         <source>Retrieving device information.</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイス情報を取得しています。</translation>
     </message>
     <message>
         <source>Starting to upload device information.</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイス情報のアップロードを開始します。</translation>
     </message>
     <message>
         <source>Device information successfully uploaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイス情報をアップロードしました。</translation>
     </message>
     <message>
         <source>Unable to upload the device information. Please check the network settings and try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイス情報をアップロードできませんでした。ネットワーク設定を確認し、しばらくしてからやり直してください。</translation>
     </message>
     <message>
         <source>The agent failed to be updated.</source>
-        <translation type="unfinished"></translation>
+        <translation>エージェントを更新できませんでした。</translation>
     </message>
     <message>
         <source>Successfully executed the pre-freeze script.</source>
-        <translation type="unfinished"></translation>
+        <translation>フリーズ前スクリプトを実行しました。</translation>
     </message>
     <message>
         <source>Successfully executed the post-thaw script.</source>
-        <translation type="unfinished"></translation>
+        <translation>ソー後スクリプトを実行しました。</translation>
     </message>
     <message>
         <source>Unable to access the pre-freeze/post-thaw script files on the client device.</source>
-        <translation type="unfinished"></translation>
+        <translation>クライアントデバイス上のフリーズ前/ソー後スクリプトファイルにアクセスできません。</translation>
     </message>
     <message>
         <source>Unable to access the pre-freeze/post-thaw script file on Nimbra Backup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimbra Backup 上のフリーズ前/ソー後スクリプトファイルにアクセスできません。</translation>
     </message>
     <message>
         <source>The size of the pre-freeze/post-thaw script files exceeds the 32 KB limit.</source>
-        <translation type="unfinished"></translation>
+        <translation>フリーズ前/ソー後スクリプトファイルのサイズが上限の 32 KB を超えています。</translation>
     </message>
     <message>
         <source>Unable to upload the script output.</source>
-        <translation type="unfinished"></translation>
+        <translation>スクリプトの出力をアップロードできません。</translation>
     </message>
     <message>
         <source>No available volume to take snapshot for.</source>
-        <translation type="unfinished"></translation>
+        <translation>スナップショットを作成できるボリュームがありません。</translation>
     </message>
     <message>
         <source>Backup task failed because the device time was incorrect. Sync the device time and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスの時刻が正しくないため、バックアップタスクが失敗しました。デバイスの時刻を同期してやり直してください。</translation>
     </message>
     <message>
         <source>Backup task was canceled because Nimbra Backup agent restarted. Possible reasons: Device reboot or unexpected shutdown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimbra Backup エージェントが再起動したため、バックアップタスクがキャンセルされました。考えられる原因：デバイスの再起動または予期しないシャットダウン。</translation>
     </message>
     <message>
         <source>Backup cannot continue until the System Management Controller (SMC) of this Mac is reset. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/reset-smc&quot;&gt;Learn how&lt;/a&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>この Mac のシステム管理コントローラ (SMC) をリセットするまでバックアップを続行できません。&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/reset-smc&quot;&gt;方法を見る&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Insufficient storage on local disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>ローカルディスクの空き容量が不足しています。</translation>
     </message>
     <message>
         <source>No permissions to the local disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>ローカルディスクへのアクセス許可がありません。</translation>
     </message>
     <message>
         <source>Insufficient directory quota.</source>
-        <translation type="unfinished"></translation>
+        <translation>ディレクトリのクォータが不足しています。</translation>
     </message>
     <message>
         <source>Local file system is read-only.</source>
-        <translation type="unfinished"></translation>
+        <translation>ローカルファイルシステムは読み取り専用です。</translation>
     </message>
     <message>
         <source>Local disk I/O error.</source>
-        <translation type="unfinished"></translation>
+        <translation>ローカルディスクの I/O エラーです。</translation>
     </message>
     <message>
         <source>Local backup file corrupted.</source>
-        <translation type="unfinished"></translation>
+        <translation>ローカルのバックアップファイルが破損しています。</translation>
     </message>
     <message>
         <source>Nimbra Backup storage limit already reached.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimbra Backup のストレージ上限に達しています。</translation>
     </message>
     <message>
         <source>Insufficient system memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>システムメモリが不足しています。</translation>
     </message>
     <message>
         <source>Unable to connect to the Nimbra Backup server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimbra Backup サーバーに接続できません。</translation>
     </message>
     <message>
         <source>DNS resolution failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>DNS の名前解決に失敗しました。</translation>
     </message>
     <message>
         <source>Network socket couldn&apos;t receive data because the Nimbra Backup server is busy.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimbra Backup サーバーがビジー状態のため、データを受信できませんでした。</translation>
     </message>
     <message>
         <source>Account or password authentication failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>アカウントまたはパスワードの認証に失敗しました。</translation>
     </message>
     <message>
         <source>The backup agent requires an update. Download the latest version of the agent from the Nimbra Backup console.</source>
-        <translation type="unfinished"></translation>
+        <translation>バックアップエージェントの更新が必要です。Nimbra Backup コンソールから最新バージョンのエージェントをダウンロードしてください。</translation>
     </message>
     <message>
         <source>Unauthorized account. Contact your Nimbra Backup administrator and sign in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>権限のないアカウントです。Nimbra Backup の管理者に連絡し、もう一度サインインしてください。</translation>
     </message>
     <message>
         <source>Backup task triggered by {trigger_event}.</source>
-        <translation type="unfinished"></translation>
+        <translation>バックアップタスクが {trigger_event} によって開始されました。</translation>
     </message>
     <message>
         <source>Backup task {task} is not allowed to be run during this period of time due to the configured backup window.</source>
-        <translation type="unfinished"></translation>
+        <translation>バックアップタスク {task} は、設定されたバックアップ時間帯のため、この時間には実行できません。</translation>
     </message>
     <message>
         <source>Task {task} was canceled by the configured backup window.</source>
-        <translation type="unfinished"></translation>
+        <translation>タスク {task} は設定されたバックアップ時間帯によりキャンセルされました。</translation>
     </message>
     <message>
         <source>Task {task} was resumed due to the configured backup window.</source>
-        <translation type="unfinished"></translation>
+        <translation>タスク {task} は設定されたバックアップ時間帯により再開されました。</translation>
     </message>
     <message>
         <source>Restore task started.</source>
-        <translation type="unfinished"></translation>
+        <translation>復元タスクを開始しました。</translation>
     </message>
     <message>
         <source>Restore task was canceled.</source>
-        <translation type="unfinished"></translation>
+        <translation>復元タスクがキャンセルされました。</translation>
     </message>
     <message>
         <source>Restore task was complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>復元タスクが完了しました。</translation>
     </message>
     <message>
         <source>Restore task failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>復元タスクが失敗しました。</translation>
     </message>
     <message>
         <source>Restore task was partially complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>復元タスクは一部完了しました。</translation>
     </message>
     <message>
         <source>Account %1 was signed in.</source>
-        <translation type="unfinished"></translation>
+        <translation>アカウント %1 がサインインしました。</translation>
     </message>
     <message>
         <source>Restore path {path} restored.</source>
-        <translation type="unfinished"></translation>
+        <translation>パス {path} を復元しました。</translation>
     </message>
     <message>
         <source>The path {path} was skipped (path already exists).</source>
-        <translation type="unfinished"></translation>
+        <translation>パス {path} をスキップしました (パスはすでに存在します)。</translation>
     </message>
     <message>
         <source>The path {path} was overwritten (path already exists).</source>
-        <translation type="unfinished"></translation>
+        <translation>パス {path} を上書きしました (パスはすでに存在します)。</translation>
     </message>
     <message>
         <source>Failed to create the restore path {path}.</source>
-        <translation type="unfinished"></translation>
+        <translation>復元パス {path} を作成できませんでした。</translation>
     </message>
     <message>
         <source>Unsupported file type: {path}</source>
-        <translation type="unfinished"></translation>
+        <translation>サポートされていないファイルの種類：{path}</translation>
     </message>
     <message>
         <source>No permission to restore path {path} because it might be protected by operating system settings, anti-virus software, or others.</source>
-        <translation type="unfinished"></translation>
+        <translation>パス {path} を復元する権限がありません。OS の設定やウイルス対策ソフトなどで保護されている可能性があります。</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to restore path {path}.</source>
-        <translation type="unfinished"></translation>
+        <translation>エラーコード {error_code}：パス {path} を復元できませんでした。</translation>
     </message>
     <message>
         <source>Failed to restore the metadata of {path}.</source>
-        <translation type="unfinished"></translation>
+        <translation>{path} のメタデータを復元できませんでした。</translation>
     </message>
     <message>
         <source>Starting to take a snapshot for {volume_name}.</source>
-        <translation type="unfinished"></translation>
+        <translation>{volume_name} のスナップショットの作成を開始します。</translation>
     </message>
     <message>
         <source>Snapshot for {volume_name} successfully taken.</source>
-        <translation type="unfinished"></translation>
+        <translation>{volume_name} のスナップショットを作成しました。</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to take a snapshot for {volume_name}.</source>
-        <translation type="unfinished"></translation>
+        <translation>エラーコード {error_code}：{volume_name} のスナップショットを作成できませんでした。</translation>
     </message>
     <message>
         <source>Starting to take a snapshot set for {volume_name}.</source>
-        <translation type="unfinished"></translation>
+        <translation>{volume_name} のスナップショットセットの作成を開始します。</translation>
     </message>
     <message>
         <source>Snapshot set for {volume_name} successfully taken.</source>
-        <translation type="unfinished"></translation>
+        <translation>{volume_name} のスナップショットセットを作成しました。</translation>
     </message>
     <message>
         <source>Failed to take snapshot set for {volume_name}. Retrying.</source>
-        <translation type="unfinished"></translation>
+        <translation>{volume_name} のスナップショットセットを作成できませんでした。再試行しています。</translation>
     </message>
     <message>
         <source>Reading and uploading the volume content of {volume_name}.</source>
-        <translation type="unfinished"></translation>
+        <translation>ボリューム {volume_name} の内容を読み取ってアップロードしています。</translation>
     </message>
     <message>
         <source>Successfully read the content of volume {volume_name}.</source>
-        <translation type="unfinished"></translation>
+        <translation>ボリューム {volume_name} の内容を読み取りました。</translation>
     </message>
     <message>
         <source>Failed to read and upload the volume content of {volume_name}.</source>
-        <translation type="unfinished"></translation>
+        <translation>ボリューム {volume_name} の内容を読み取ってアップロードできませんでした。</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to read the snapshot. Check and fix the disk errors.</source>
-        <translation type="unfinished"></translation>
+        <translation>エラーコード {error_code}：スナップショットを読み取れませんでした。ディスクのエラーを確認して修復してください。</translation>
     </message>
     <message>
         <source>Unable to find the snapshot of {volume_name}. The snapshot might be deleted by the operating system, third-party applications, or other reasons. Please try to back up again.</source>
-        <translation type="unfinished"></translation>
+        <translation>{volume_name} のスナップショットが見つかりません。OS やサードパーティ製アプリなどによって削除された可能性があります。もう一度バックアップしてください。</translation>
     </message>
     <message>
         <source>{volume_name} will not be backed up. (Reason: unsupported dynamic volume type)</source>
-        <translation type="unfinished"></translation>
+        <translation>{volume_name} はバックアップされません。(理由：サポートされていないダイナミックボリュームの種類)</translation>
     </message>
     <message>
         <source>{volume_name} will not be backed up. (Reason: unsupported file system type)</source>
-        <translation type="unfinished"></translation>
+        <translation>{volume_name} はバックアップされません。(理由：サポートされていないファイルシステムの種類)</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because access was denied. Check the snapshot permissions.</source>
-        <translation type="unfinished"></translation>
+        <translation>エラーコード {error_code}：{volume_name} をバックアップできませんでした。アクセスが拒否されました。スナップショットの権限を確認してください。</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because the sector can&apos;t be found. Contact Corvana Technical Support for assistance.</source>
-        <translation type="unfinished"></translation>
+        <translation>エラーコード {error_code}：{volume_name} をバックアップできませんでした。セクターが見つかりません。Corvana テクニカルサポートにお問い合わせください。</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because the path can&apos;t be found. Contact Corvana Technical Support for assistance.</source>
-        <translation type="unfinished"></translation>
+        <translation>エラーコード {error_code}：{volume_name} をバックアップできませんでした。パスが見つかりません。Corvana テクニカルサポートにお問い合わせください。</translation>
     </message>
     <message>
         <source>Failed to back up {volume_name}. (Reason: invalid function, Error Code: {error_code}) Please contact Corvana Technical Support for assistance.</source>
-        <translation type="unfinished"></translation>
+        <translation>{volume_name} をバックアップできませんでした。(理由：無効な関数、エラーコード：{error_code}) Corvana テクニカルサポートにお問い合わせください。</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to open {volume_name}. Contact Corvana Technical Support for assistance.</source>
-        <translation type="unfinished"></translation>
+        <translation>エラーコード {error_code}：{volume_name} を開けませんでした。Corvana テクニカルサポートにお問い合わせください。</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because the device is busy.</source>
-        <translation type="unfinished"></translation>
+        <translation>エラーコード {error_code}：{volume_name} をバックアップできませんでした。デバイスがビジー状態です。</translation>
     </message>
     <message>
         <source>Terminated the pre-freeze script {script_result_path} because it timed out.</source>
-        <translation type="unfinished"></translation>
+        <translation>フリーズ前スクリプト {script_result_path} がタイムアウトしたため終了しました。</translation>
     </message>
     <message>
         <source>Terminated the post-thaw script {script_result_path} because it timed out.</source>
-        <translation type="unfinished"></translation>
+        <translation>ソー後スクリプト {script_result_path} がタイムアウトしたため終了しました。</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to take a snapshot for {volume_name}. Make sure the Volume Shadow Copy service is running and the volume has enough free space. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/snapshot-failed&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>エラーコード {error_code}：{volume_name} のスナップショットを作成できませんでした。ボリューム シャドウ コピー サービスが実行中で、ボリュームに十分な空き容量があることを確認してください。&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/snapshot-failed&quot;&gt;詳細&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to read the snapshot. Check and fix the disk errors, then back up again. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/read-snapshot-error&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>エラーコード {error_code}：スナップショットを読み取れませんでした。ディスクのエラーを修復してから、もう一度バックアップしてください。&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/read-snapshot-error&quot;&gt;詳細&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to open the snapshot of {volume_name}. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/snapshot-open-error&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>エラー {error_code}: {volume_name} のスナップショット開けず。&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/snapshot-open-error&quot;&gt;詳細&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because access was denied. Check the snapshot permissions. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/access-denied&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>エラーコード {error_code}：{volume_name} をバックアップできませんでした。アクセスが拒否されました。スナップショットの権限を確認してください。&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/access-denied&quot;&gt;詳細&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because the sector can&apos;t be found. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/sector-not-found&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>エラーコード {error_code}：{volume_name} をバックアップできませんでした。セクターが見つかりません。&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/sector-not-found&quot;&gt;詳細&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because the path can&apos;t be found. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/path-not-found&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>エラーコード {error_code}：{volume_name} をバックアップできませんでした。パスが見つかりません。&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/path-not-found&quot;&gt;詳細&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because of an invalid function. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/invalid-function&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>エラーコード {error_code}：{volume_name} をバックアップできませんでした。無効な関数です。&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/invalid-function&quot;&gt;詳細&lt;/a&gt;</translation>
     </message>
     <message>
         <source>The specified volume in the %1 policy wasn&apos;t backed up. It doesn&apos;t exist on the device.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ポリシーで指定されたボリュームはデバイス上に存在しないため、バックアップされませんでした。</translation>
     </message>
     <message>
         <source>The file system check of {volume_name} found errors. Repair the volume and back up again. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/volume-check-failed&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>{volume_name} のファイルシステムチェックでエラーが見つかりました。ボリュームを修復してから、もう一度バックアップしてください。&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/volume-check-failed&quot;&gt;詳細&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Inode {inode_number} on {volume_name} is corrupted. Repair the volume and back up again. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/inode-corrupted&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>inode {inode_number} ({volume_name}) が破損しています。ボリュームを修復してから、もう一度バックアップしてください。&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/inode-corrupted&quot;&gt;詳細&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Failed to create the restoration path {path} because folder {parent_path} does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダー {parent_path} が存在しないため、復元パス {path} を作成できませんでした。</translation>
     </message>
     <message>
         <source>Failed to create the restoration path {path} because it conflicts with the file in {parent_path}.</source>
-        <translation type="unfinished"></translation>
+        <translation>復元パス {path} は {parent_path} 内のファイルと競合するため、作成できませんでした。</translation>
     </message>
     <message>
         <source>{volume_name} has a bad cluster in {interval_start} - {interval_end}. The interval is skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>{volume_name} の {interval_start} - {interval_end} に不良クラスターがあります。この範囲はスキップされます。</translation>
     </message>
     <message>
         <source>Exit code {exit_code}: Ignored the unsuccessful execution of pre-freeze script {script_result_path}.</source>
-        <translation type="unfinished"></translation>
+        <translation>終了コード {exit_code}：フリーズ前スクリプト {script_result_path} の実行失敗を無視しました。</translation>
     </message>
     <message>
         <source>Exit code {exit_code}: Cannot execute the pre-freeze script {script_result_path}.</source>
-        <translation type="unfinished"></translation>
+        <translation>終了コード {exit_code}：フリーズ前スクリプト {script_result_path} を実行できません。</translation>
     </message>
     <message>
         <source>Exit code {exit_code}: Ignored the unsuccessful execution of post-thaw script {script_result_path}.</source>
-        <translation type="unfinished"></translation>
+        <translation>終了コード {exit_code}：ソー後スクリプト {script_result_path} の実行失敗を無視しました。</translation>
     </message>
     <message>
         <source>Exit code {exit_code}: Unable to execute the post-thaw script {script_result_path}.</source>
-        <translation type="unfinished"></translation>
+        <translation>終了コード {exit_code}：ソー後スクリプト {script_result_path} を実行できません。</translation>
     </message>
     <message>
         <source>{volume_name} will not be backed up. (Reason: Unsupported removable media.)</source>
-        <translation type="unfinished"></translation>
+        <translation>{volume_name} はバックアップされません。(理由：リムーバブルメディアはサポートされていません。)</translation>
     </message>
     <message>
         <source>{volume_name} will not be backed up. (Reason: External hard drive is excluded in the task.)</source>
-        <translation type="unfinished"></translation>
+        <translation>{volume_name} はバックアップされません。(理由：外付けハードディスクはタスクから除外されています。)</translation>
     </message>
     <message>
         <source>{volume_name} will not be backed up. (Reason: Unsupported disk bus type.)</source>
-        <translation type="unfinished"></translation>
+        <translation>{volume_name} はバックアップされません。(理由：サポートされていないディスクバスの種類です。)</translation>
     </message>
     <message>
         <source>{volume_name} will not be backed up. (Reason: Unsupported disk type.)</source>
-        <translation type="unfinished"></translation>
+        <translation>{volume_name} はバックアップされません。(理由：サポートされていないディスクの種類です。)</translation>
     </message>
     <message>
         <source>{volume_name} will not be backed up. (Reason: Unsupported file system.)</source>
-        <translation type="unfinished"></translation>
+        <translation>{volume_name} はバックアップされません。(理由：サポートされていないファイルシステムです。)</translation>
     </message>
     <message>
         <source>{volume_name} will not be backed up. (Reason: Unidentified file system.)</source>
-        <translation type="unfinished"></translation>
+        <translation>{volume_name} はバックアップされません。(理由：識別できないファイルシステムです。)</translation>
     </message>
     <message>
         <source>{volume_name} will not be backed up. (Reason: Unable to obtain volume information.)</source>
-        <translation type="unfinished"></translation>
+        <translation>{volume_name} はバックアップされません。(理由：ボリューム情報を取得できません。)</translation>
     </message>
     <message>
         <source>Unable to find the shadow copy of {volume_name}. The operating system might have deleted it. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/shadow-copy-not-found&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>{volume_name} のシャドウコピーが見つかりません。OS によって削除された可能性があります。&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/shadow-copy-not-found&quot;&gt;詳細&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Starts creating Nimbra Backup data volume.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimbra Backup のデータボリュームの作成を開始します。</translation>
     </message>
     <message>
         <source>{volume_name} will not be backed up. (Reason: Unsupported file system)</source>
-        <translation type="unfinished"></translation>
+        <translation>{volume_name} はバックアップされません。(理由：サポートされていないファイルシステム)</translation>
     </message>
     <message>
         <source>Nimbra Backup needs Full Disk Access to take snapshots. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/full-disk-access&quot;&gt;Learn how to allow it&lt;/a&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>スナップショットを作成するには、Nimbra Backup にフルディスクアクセスが必要です。&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/full-disk-access&quot;&gt;許可する方法&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Failed to run asr (Apple Software Restore) on {volume_name}. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/asr-failed&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>{volume_name} で asr (Apple Software Restore) に失敗。&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/asr-failed&quot;&gt;詳細&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Failed to run asr (Apple Software Restore) on {volume_name}. Restart your Mac and run First Aid to repair the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>{volume_name} で asr (Apple Software Restore) を実行できませんでした。Mac を再起動し、First Aid でディスクを修復してください。</translation>
     </message>
     <message>
         <source>Allow the system extension of Nimbra Backup in Privacy &amp; Security to continue backing up. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/system-extension&quot;&gt;Learn how&lt;/a&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>バックアップを続行するには、「プライバシーとセキュリティ」で Nimbra Backup のシステム拡張を許可してください。&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/system-extension&quot;&gt;方法を見る&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Cannot find {volume_name} data on Nimbra Backup data volume. Performing full backup instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimbra Backup のデータボリュームに {volume_name} のデータが見つかりません。代わりにフルバックアップを実行します。</translation>
     </message>
     <message>
         <source>Cannot find snapshot of {volume_name}. Performing full backup instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>{volume_name} のスナップショットが見つかりません。代わりにフルバックアップを実行します。</translation>
     </message>
     <message>
         <source>Failed to run asr (Apple Software Restore) on {volume_name}. Performing full backup instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>{volume_name} で asr (Apple Software Restore) を実行できませんでした。代わりにフルバックアップを実行します。</translation>
     </message>
     <message>
         <source>Starts taking snapshots.</source>
-        <translation type="unfinished"></translation>
+        <translation>スナップショットの作成を開始します。</translation>
     </message>
     <message>
         <source>Finished taking snapshots.</source>
-        <translation type="unfinished"></translation>
+        <translation>スナップショットの作成が完了しました。</translation>
     </message>
     <message>
         <source>Backup failed because the backup account on this Mac could not be authenticated. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/backup-account&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>この Mac のバックアップ用アカウントを認証できなかったため、バックアップが失敗しました。&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/backup-account&quot;&gt;詳細&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Failed to mount {volume_name}. (Reason: Encrypted volumes cannot be mounted.)</source>
-        <translation type="unfinished"></translation>
+        <translation>{volume_name} をマウントできませんでした。(理由：暗号化されたボリュームはマウントできません。)</translation>
     </message>
     <message>
         <source>Backup failed because Nimbra Backup has no Full Disk Access. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/full-disk-access&quot;&gt;Learn how to allow it&lt;/a&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimbra Backup にフルディスクアクセスがないため、バックアップが失敗しました。&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/full-disk-access&quot;&gt;許可する方法&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Cannot mount the default backup volume. Restart your Mac.</source>
-        <translation type="unfinished"></translation>
+        <translation>デフォルトのバックアップボリュームをマウントできません。Mac を再起動してください。</translation>
     </message>
     <message>
         <source>Keep all versions within the last %1 months</source>
-        <translation type="unfinished"></translation>
+        <translation>過去 %1 か月以内のすべてのバージョンを保持</translation>
     </message>
     <message>
         <source>Idle</source>
-        <translation type="unfinished"></translation>
+        <translation>アイドル</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>準備完了</translation>
     </message>
     <message>
         <source>Backing up...</source>
-        <translation type="unfinished"></translation>
+        <translation>バックアップ中...</translation>
     </message>
     <message>
         <source>Successful</source>
-        <translation type="unfinished"></translation>
+        <translation>成功</translation>
     </message>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>失敗</translation>
     </message>
     <message>
         <source>Partially Successful</source>
-        <translation type="unfinished"></translation>
+        <translation>一部成功</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation>一時停止中</translation>
     </message>
     <message>
         <source>Restoring...</source>
-        <translation type="unfinished"></translation>
+        <translation>復元中...</translation>
     </message>
     <message>
         <source>Taking a snapshot...</source>
-        <translation type="unfinished"></translation>
+        <translation>スナップショットを作成中...</translation>
     </message>
     <message>
         <source>Canceled</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル済み</translation>
     </message>
     <message>
         <source>Connecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>接続中...</translation>
     </message>
     <message>
         <source>View backup status</source>
-        <translation type="unfinished"></translation>
+        <translation>バックアップの状態を表示</translation>
     </message>
     <message>
         <source>Edit connection</source>
-        <translation type="unfinished"></translation>
+        <translation>接続を編集</translation>
     </message>
     <message>
         <source>Sign In Again</source>
-        <translation type="unfinished"></translation>
+        <translation>もう一度サインイン</translation>
     </message>
     <message>
         <source>This application is already opened by another user.</source>
-        <translation type="unfinished"></translation>
+        <translation>このアプリケーションは別のユーザーがすでに開いています。</translation>
     </message>
     <message>
         <source>Internet connection error. Check your Internet connection and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>インターネット接続エラーです。インターネット接続を確認して、やり直してください。</translation>
     </message>
     <message>
         <source>You have used up your quota of capacity. Please contact the administrator for extra space.</source>
-        <translation type="unfinished"></translation>
+        <translation>ストレージの割り当て容量を使い切りました。容量を追加するには管理者にお問い合わせください。</translation>
     </message>
     <message>
         <source>This device was removed from the account.</source>
-        <translation type="unfinished"></translation>
+        <translation>このデバイスはアカウントから削除されました。</translation>
     </message>
     <message>
         <source>Agent</source>
-        <translation type="unfinished"></translation>
+        <translation>エージェント</translation>
     </message>
     <message>
         <source>Nimbra Backup</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimbra Backup</translation>
     </message>
     <message>
         <source>Preparing for backup...</source>
-        <translation type="unfinished"></translation>
+        <translation>バックアップを準備中...</translation>
     </message>
     <message>
         <source>Failed to upgrade backup service. Please contact Corvana Technical Support for assistance.</source>
-        <translation type="unfinished"></translation>
+        <translation>バックアップサービスをアップグレードできませんでした。Corvana テクニカルサポートにお問い合わせください。</translation>
     </message>
     <message>
         <source>Upgrading backup service database. Please keep this window open if you wish to launch the agent automatically after upgrade.</source>
-        <translation type="unfinished"></translation>
+        <translation>バックアップサービスのデータベースをアップグレードしています。アップグレード後にエージェントを自動で起動するには、このウィンドウを開いたままにしてください。</translation>
     </message>
     <message>
         <source>You&apos;re all set for backup. Do you want to back up this device right now?</source>
-        <translation type="unfinished"></translation>
+        <translation>バックアップの準備ができました。このデバイスを今すぐバックアップしますか？</translation>
     </message>
     <message>
         <source>Not Now</source>
-        <translation type="unfinished"></translation>
+        <translation>後で</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>設定</translation>
     </message>
     <message>
         <source>Open Nimbra Backup</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimbra Backup を開く</translation>
     </message>
     <message>
         <source>Closing this application will not stop the backup service.</source>
-        <translation type="unfinished"></translation>
+        <translation>このアプリケーションを閉じても、バックアップサービスは停止しません。</translation>
     </message>
     <message>
         <source>The service cannot be activated normally. Please reboot your device and try again. If the problem remains, please contact Corvana Technical Support.</source>
-        <translation type="unfinished"></translation>
+        <translation>サービスを正常に起動できません。デバイスを再起動してやり直してください。問題が解決しない場合は、Corvana テクニカルサポートにお問い合わせください。</translation>
     </message>
     <message>
         <source>Backup successful</source>
-        <translation type="unfinished"></translation>
+        <translation>バックアップ成功</translation>
     </message>
     <message>
         <source>Your device was backed up.</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスのバックアップが完了しました。</translation>
     </message>
     <message>
         <source>Nimbra Backup %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimbra Backup %1</translation>
     </message>
     <message>
         <source>Check the activity logs in the agent for more information.</source>
-        <translation type="unfinished"></translation>
+        <translation>詳細はエージェントのアクティビティログを確認してください。</translation>
     </message>
     <message>
         <source>Storage is almost full</source>
-        <translation type="unfinished"></translation>
+        <translation>ストレージの空きが少なくなっています</translation>
     </message>
     <message>
         <source>You have used 85% of your total storage (%1).</source>
-        <translation type="unfinished"></translation>
+        <translation>総ストレージ容量 (%1) の 85% を使用しています。</translation>
     </message>
     <message>
         <source>Storage is full</source>
-        <translation type="unfinished"></translation>
+        <translation>ストレージがいっぱいです</translation>
     </message>
     <message>
         <source>You have used 95% of your total storage (%1).</source>
-        <translation type="unfinished"></translation>
+        <translation>総ストレージ容量 (%1) の 95% を使用しています。</translation>
     </message>
     <message>
         <source>Device removed</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスが削除されました</translation>
     </message>
     <message>
         <source>This device has been removed from the account. Go to the Nimbra Backup console for more information.</source>
-        <translation type="unfinished"></translation>
+        <translation>このデバイスはアカウントから削除されました。詳細は Nimbra Backup コンソールで確認してください。</translation>
     </message>
     <message>
         <source>Full Disk Access required</source>
-        <translation type="unfinished"></translation>
+        <translation>フルディスクアクセスが必要です</translation>
     </message>
     <message>
         <source>Enable Full Disk Access in Privacy &amp; Security.</source>
-        <translation type="unfinished"></translation>
+        <translation>「プライバシーとセキュリティ」でフルディスクアクセスを有効にしてください。</translation>
     </message>
     <message>
         <source>System extension required</source>
-        <translation type="unfinished"></translation>
+        <translation>システム拡張が必要です</translation>
     </message>
     <message>
         <source>Go to Privacy &amp; Security and enable system extensions for Nimbra Backup.</source>
-        <translation type="unfinished"></translation>
+        <translation>「プライバシーとセキュリティ」で Nimbra Backup のシステム拡張を有効にしてください。</translation>
     </message>
     <message>
         <source>Nimbra Backup console</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimbra Backup コンソール</translation>
     </message>
     <message>
         <source>Recovery Portal</source>
-        <translation type="unfinished"></translation>
+        <translation>リカバリーポータル</translation>
     </message>
     <message>
         <source>Just now</source>
-        <translation type="unfinished"></translation>
+        <translation>たった今</translation>
     </message>
     <message>
         <source>%1 minute ago</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 分前</translation>
     </message>
     <message>
         <source>%1 minutes ago</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 分前</translation>
     </message>
     <message>
         <source>%1 hour ago</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 時間前</translation>
     </message>
     <message>
         <source>%1 hours ago</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 時間前</translation>
     </message>
     <message>
         <source>%1 day ago</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 日前</translation>
     </message>
     <message>
         <source>%1 days ago</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 日前</translation>
     </message>
     <message>
         <source>Est. finish</source>
-        <translation type="unfinished"></translation>
+        <translation>完了予定</translation>
     </message>
     <message>
         <source>:</source>
-        <translation type="unfinished"></translation>
+        <translation>：</translation>
     </message>
     <message>
         <source>&lt;div style=&quot;color: #0A9CFF; font-weight: bold&quot;&gt;%1&lt;/div&gt; processed</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;div style=&quot;color: #0A9CFF; font-weight: bold&quot;&gt;%1&lt;/div&gt; 処理済み</translation>
     </message>
     <message>
         <source>Not backed up yet</source>
-        <translation type="unfinished"></translation>
+        <translation>まだバックアップされていません</translation>
     </message>
     <message>
         <source>No backup schedule</source>
-        <translation type="unfinished"></translation>
+        <translation>バックアップスケジュールなし</translation>
     </message>
     <message>
         <source>Backup by event</source>
-        <translation type="unfinished"></translation>
+        <translation>イベント時にバックアップ</translation>
     </message>
     <message>
         <source>Automated daily backup</source>
-        <translation type="unfinished"></translation>
+        <translation>毎日自動バックアップ</translation>
     </message>
     <message>
         <source>Activity</source>
-        <translation type="unfinished"></translation>
+        <translation>アクティビティ</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる</translation>
     </message>
     <message>
         <source>Date &amp; Time</source>
-        <translation type="unfinished"></translation>
+        <translation>日時</translation>
     </message>
     <message>
         <source>Event</source>
-        <translation type="unfinished"></translation>
+        <translation>イベント</translation>
     </message>
     <message>
         <source>Last backup:</source>
-        <translation type="unfinished"></translation>
+        <translation>前回のバックアップ：</translation>
     </message>
     <message>
         <source>Next backup:</source>
-        <translation type="unfinished"></translation>
+        <translation>次回のバックアップ：</translation>
     </message>
     <message>
         <source>Protect your device with Nimbra Backup</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimbra Backup でデバイスを保護しましょう</translation>
     </message>
     <message>
         <source>Nimbra Backup provides protection for the entire device. All data, applications, and system configurations will be backed up according to your schedules.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimbra Backup はデバイス全体を保護します。すべてのデータ、アプリケーション、システム構成がスケジュールに従ってバックアップされます。</translation>
     </message>
     <message>
         <source>Let&apos;s Start</source>
-        <translation type="unfinished"></translation>
+        <translation>始める</translation>
     </message>
     <message>
         <source>Sign in on your browser</source>
-        <translation type="unfinished"></translation>
+        <translation>ブラウザーでサインイン</translation>
     </message>
     <message>
         <source>We&apos;ve opened a new browser tab for you to sign in. Then, we will guide you to the next step.</source>
-        <translation type="unfinished"></translation>
+        <translation>サインイン用に新しいブラウザーのタブを開きました。サインイン後、次の手順をご案内します。</translation>
     </message>
     <message>
         <source>Connecting to server...&#xa0;</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーに接続中...&#xa0;</translation>
     </message>
     <message>
         <source>Server connection error. Try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバー接続エラーです。しばらくしてからやり直してください。</translation>
     </message>
     <message>
         <source>Internet connection error. Check your Internet connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>インターネット接続エラーです。インターネット接続を確認してください。</translation>
     </message>
     <message>
         <source>The current version of the agent is older. Please update the agent.</source>
-        <translation type="unfinished"></translation>
+        <translation>エージェントのバージョンが古くなっています。エージェントを更新してください。</translation>
     </message>
     <message>
         <source>Login status error. Make sure you installed the latest version of the agent and sign in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>ログイン状態のエラーです。最新バージョンのエージェントがインストールされていることを確認し、もう一度サインインしてください。</translation>
     </message>
     <message>
         <source>Invalid certificate. Run Windows Update to renew your certificate. Refer to &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/certificate&quot;&gt;Knowledge Center&lt;/a&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>証明書が無効です。Windows Update を実行して証明書を更新してください。&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/certificate&quot;&gt;ナレッジセンター&lt;/a&gt;を参照してください。</translation>
     </message>
     <message>
         <source>This device conflicts with another device. Sign in again if you want to back up this device instead of the other one. Please note that the other device will no longer be backed up after that.</source>
-        <translation type="unfinished"></translation>
+        <translation>このデバイスは別のデバイスと競合しています。別のデバイスの代わりにこのデバイスをバックアップする場合は、もう一度サインインしてください。その後、別のデバイスはバックアップされなくなります。</translation>
     </message>
     <message>
         <source>Authentication failed. Sign out from the agent and sign in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>認証に失敗しました。エージェントからサインアウトして、もう一度サインインしてください。</translation>
     </message>
     <message>
         <source>Device time incorrect. Sync the device time before the next backup.</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスの時刻が正しくありません。次回のバックアップまでにデバイスの時刻を同期してください。</translation>
     </message>
     <message>
         <source>You haven&apos;t set up the Nimbra Encryption Key. You must set it up on the &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;%1&quot;&gt;console&lt;/a&gt; before starting to back up devices.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimbra 暗号化キーが設定されていません。デバイスのバックアップを開始する前に&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;%1&quot;&gt;コンソール&lt;/a&gt;で設定してください。</translation>
     </message>
     <message>
         <source>You haven&apos;t finish setting the Nimbra Encryption Key. Go to &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;%1&quot;&gt;Nimbra Backup console&lt;/a&gt; to complete the setup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimbra 暗号化キーの設定が完了していません。&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;%1&quot;&gt;Nimbra Backup コンソール&lt;/a&gt;で設定を完了してください。</translation>
     </message>
     <message>
         <source>Almost there</source>
-        <translation type="unfinished"></translation>
+        <translation>もう少しで完了です</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>完了</translation>
     </message>
     <message>
         <source>Backup Policy</source>
-        <translation type="unfinished"></translation>
+        <translation>バックアップポリシー</translation>
     </message>
     <message>
         <source>Data Center</source>
-        <translation type="unfinished"></translation>
+        <translation>データセンター</translation>
     </message>
     <message>
         <source>Backup schedule</source>
-        <translation type="unfinished"></translation>
+        <translation>バックアップスケジュール</translation>
     </message>
     <message>
         <source>Backup scope</source>
-        <translation type="unfinished"></translation>
+        <translation>バックアップ対象</translation>
     </message>
     <message>
         <source>More details can be found on the console.</source>
-        <translation type="unfinished"></translation>
+        <translation>詳細はコンソールで確認できます。</translation>
     </message>
     <message>
         <source>Default policy (personal computer)</source>
-        <translation type="unfinished"></translation>
+        <translation>デフォルトポリシー (パソコン)</translation>
     </message>
     <message>
         <source>Default policy (physical server)</source>
-        <translation type="unfinished"></translation>
+        <translation>デフォルトポリシー (物理サーバー)</translation>
     </message>
     <message>
         <source>We will back up this device right after finishing setting up the agent. You can configure backup policies on the &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;%1&quot;&gt;console&lt;/a&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>エージェントの設定が完了したら、すぐにこのデバイスをバックアップします。バックアップポリシーは&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;%1&quot;&gt;コンソール&lt;/a&gt;で設定できます。</translation>
     </message>
     <message>
         <source>North America - Seattle</source>
-        <translation type="unfinished"></translation>
+        <translation>北米 - シアトル</translation>
     </message>
     <message>
         <source>Europe - Frankfurt</source>
-        <translation type="unfinished"></translation>
+        <translation>ヨーロッパ - フランクフルト</translation>
     </message>
     <message>
         <source>APAC - Taiwan</source>
-        <translation type="unfinished"></translation>
+        <translation>アジア太平洋 - 台湾</translation>
     </message>
     <message>
         <source>Entire device (external drives included)</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイス全体 (外付けドライブを含む)</translation>
     </message>
     <message>
         <source>Entire device</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイス全体</translation>
     </message>
     <message>
         <source>System volume</source>
-        <translation type="unfinished"></translation>
+        <translation>システムボリューム</translation>
     </message>
     <message>
         <source>Specified volumes (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>指定したボリューム (%1)</translation>
     </message>
     <message>
         <source>Backed up daily at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>毎日 %1 にバックアップ</translation>
     </message>
     <message>
         <source>Weekly (%2 every %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>毎週 (%1 %2)</translation>
     </message>
     <message>
         <source>Screen lock</source>
-        <translation type="unfinished"></translation>
+        <translation>画面ロック</translation>
     </message>
     <message>
         <source>Signout</source>
-        <translation type="unfinished"></translation>
+        <translation>サインアウト</translation>
     </message>
     <message>
         <source>Device power on</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスの起動</translation>
     </message>
     <message>
         <source>By event: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>イベント：%1</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>最大</translation>
     </message>
     <message>
         <source>Limit to</source>
-        <translation type="unfinished"></translation>
+        <translation>制限値</translation>
     </message>
     <message>
         <source>Minimum: 5; Maximum: 9,999</source>
-        <translation type="unfinished"></translation>
+        <translation>最小：5、最大：9,999</translation>
     </message>
     <message>
         <source>Mbps (%1 MB/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mbps (%1 MB/s)</translation>
     </message>
     <message>
         <source>Limit upload speed within a specific time range every day</source>
-        <translation type="unfinished"></translation>
+        <translation>毎日、特定の時間帯にアップロード速度を制限する</translation>
     </message>
     <message>
         <source>(Custom)</source>
-        <translation type="unfinished"></translation>
+        <translation>(カスタム)</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>保存</translation>
     </message>
     <message>
         <source>Data upload speed</source>
-        <translation type="unfinished"></translation>
+        <translation>データのアップロード速度</translation>
     </message>
     <message>
         <source>Limit the upload speed to prevent backups from taking up your bandwidth. The speed limit will be applied within minutes after you save the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>バックアップが帯域幅を占有しないよう、アップロード速度を制限します。速度制限は設定の保存後、数分以内に適用されます。</translation>
     </message>
     <message>
         <source>Next day</source>
-        <translation type="unfinished"></translation>
+        <translation>翌日</translation>
     </message>
     <message>
         <source>Attention: Uploading 100 GB of data can take up to %1 hours</source>
-        <translation type="unfinished"></translation>
+        <translation>注意：100 GB のデータのアップロードには最大 %1 時間かかる場合があります</translation>
     </message>
     <message>
         <source>Attention: Uploading 100 GB of data can take up to %1 hour</source>
-        <translation type="unfinished"></translation>
+        <translation>注意：100 GB のデータのアップロードには最大 %1 時間かかる場合があります</translation>
     </message>
     <message>
         <source>Attention: Uploading 100 GB of data can take up to %1 minute</source>
-        <translation type="unfinished"></translation>
+        <translation>注意：100 GB のデータのアップロードには最大 %1 分かかる場合があります</translation>
     </message>
     <message>
         <source>Attention: Uploading 100 GB of data can take up to %1 minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>注意：100 GB のデータのアップロードには最大 %1 分かかる場合があります</translation>
     </message>
     <message>
         <source>&lt;span style=&quot;color:Blue;&quot;&gt;Note:&lt;/span&gt;The upload speed managed by your organization is set to a maximum of &lt;b&gt;%1 Mbps between %2 and %3&lt;/b&gt; every day. If you set a different limit here, the system will use the lower limit among the two.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;span style=&quot;color:Blue;&quot;&gt;注：&lt;/span&gt;組織によってアップロード速度は毎日 &lt;b&gt;%2 から %3 の間、最大 %1 Mbps&lt;/b&gt; に設定されています。ここで別の制限を設定した場合、2 つのうち低い方の制限が適用されます。</translation>
     </message>
     <message>
         <source>&lt;span style=&quot;color:Blue;&quot;&gt;Note:&lt;/span&gt;The upload speed managed by your organization is set to a maximum of &lt;b&gt;%1 Mbps between %2 and %3&lt;/b&gt;. If you set a different limit here, the system will use the lower limit among the two.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;span style=&quot;color:Blue;&quot;&gt;注：&lt;/span&gt;組織によってアップロード速度は &lt;b&gt;%2 から %3 の間、最大 %1 Mbps&lt;/b&gt; に設定されています。ここで別の制限を設定した場合、2 つのうち低い方の制限が適用されます。</translation>
     </message>
     <message>
         <source>Terms of Service</source>
-        <translation type="unfinished"></translation>
+        <translation>利用規約</translation>
     </message>
     <message>
         <source>Privacy Statement</source>
-        <translation type="unfinished"></translation>
+        <translation>プライバシーに関する声明</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>バージョン</translation>
     </message>
     <message>
         <source>Error&#xa0;</source>
-        <translation type="unfinished"></translation>
+        <translation>エラー&#xa0;</translation>
     </message>
     <message>
         <source>Start at</source>
-        <translation type="unfinished"></translation>
+        <translation>開始</translation>
     </message>
     <message>
         <source>End at</source>
-        <translation type="unfinished"></translation>
+        <translation>終了</translation>
     </message>
     <message>
         <source>Sunday</source>
-        <translation type="unfinished"></translation>
+        <translation>日曜日</translation>
     </message>
     <message>
         <source>Monday</source>
-        <translation type="unfinished"></translation>
+        <translation>月曜日</translation>
     </message>
     <message>
         <source>Tuesday</source>
-        <translation type="unfinished"></translation>
+        <translation>火曜日</translation>
     </message>
     <message>
         <source>Wednesday</source>
-        <translation type="unfinished"></translation>
+        <translation>水曜日</translation>
     </message>
     <message>
         <source>Thursday</source>
-        <translation type="unfinished"></translation>
+        <translation>木曜日</translation>
     </message>
     <message>
         <source>Friday</source>
-        <translation type="unfinished"></translation>
+        <translation>金曜日</translation>
     </message>
     <message>
         <source>Saturday</source>
-        <translation type="unfinished"></translation>
+        <translation>土曜日</translation>
     </message>
     <message>
         <source>min</source>
-        <translation type="unfinished"></translation>
+        <translation>分</translation>
     </message>
     <message>
         <source>mins</source>
-        <translation type="unfinished"></translation>
+        <translation>分</translation>
     </message>
     <message>
         <source>hour</source>
-        <translation type="unfinished"></translation>
+        <translation>時間</translation>
     </message>
     <message>
         <source>hours</source>
-        <translation type="unfinished"></translation>
+        <translation>時間</translation>
     </message>
     <message>
         <source>day</source>
-        <translation type="unfinished"></translation>
+        <translation>日</translation>
     </message>
     <message>
         <source>days</source>
-        <translation type="unfinished"></translation>
+        <translation>日</translation>
     </message>
     <message>
         <source>Learn more</source>
-        <translation type="unfinished"></translation>
+        <translation>詳細</translation>
     </message>
     <message>
         <source>Knowledge Center</source>
-        <translation type="unfinished"></translation>
+        <translation>ナレッジセンター</translation>
     </message>
 </context>
 </TS>

@@ -19,6 +19,7 @@
 #include <vector>
 
 #include "component-strings.h"
+#include "core/language-font.h"
 #include "image-manager.h"
 #include "screen-gallery.h"
 #include "string-display.h"
@@ -40,15 +41,6 @@ std::vector<Area>& areas() {
 
 double g_scale = 1.0;
 QString g_language = QStringLiteral("eng");
-
-// The application font's family for a language, as start-up picks it.
-QString fontFamily(const QString& language) {
-  if (language == QLatin1String("cht")) return QStringLiteral("Microsoft JhengHei");
-  if (language == QLatin1String("chs")) return QStringLiteral("Microsoft YaHei");
-  if (language == QLatin1String("jpn")) return QStringLiteral("Meiryo");
-  if (language == QLatin1String("krn")) return QStringLiteral("Malgun Gothic");
-  return QStringLiteral("Arial");
-}
 
 }  // namespace
 
@@ -102,7 +94,8 @@ int main(int argc, char** argv) {
        {QStringLiteral("cancel"), string_display::text(Str::btn_cancel)}});
   // 9 points as start-up sets it; the offscreen screen is 96 dpi, so the
   // point size carries the scale a high-DPI screen would give the font.
-  QFont font(fontFamily(g_language));
+  language_font::install_font_substitutions();
+  QFont font = language_font::application_font(g_language);
   font.setPointSizeF(9.0 * g_scale);
   app.setFont(font);
 

@@ -113,8 +113,8 @@ TEST(Translations, GermanRoundTrip) {
   // Escapes are expanded after translating.
   EXPECT_EQ(text(Str::desc_about_msg).arg(QStringLiteral("2024")),
             QStringLiteral("Copyright © 2024 Corvana Inc.\nAlle Rechte vorbehalten."));
-  // A row without a translation shows its English text.
-  EXPECT_EQ(text(Str::desc_status_idle), QStringLiteral("Idle"));
+  // The no-break space after the status word survives the translation.
+  EXPECT_EQ(text(Str::desc_status_error), QStringLiteral("Fehler") + QChar(0x00a0));
   ASSERT_TRUE(QCoreApplication::removeTranslator(&translator));
   EXPECT_EQ(text(Str::btn_cancel), QStringLiteral("Cancel"));
 }
