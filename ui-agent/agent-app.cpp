@@ -2,7 +2,6 @@
 
 #include <QDir>
 #include <QElapsedTimer>
-#include <QFont>
 #include <QIcon>
 #include <QLoggingCategory>
 #include <QMouseEvent>
@@ -13,6 +12,7 @@
 #include "client-manager.h"
 #include "component-strings.h"
 #include "core/global-connecter.h"
+#include "core/language-font.h"
 #include "image-manager.h"
 #include "logger.h"
 #include "machine-lock.h"
@@ -33,14 +33,6 @@ QString messageForRunning(const QStringList& arguments) {
 
 bool wantsOpenLog(const QStringList& arguments) {
   return arguments.contains(QStringLiteral("open_log"));
-}
-
-QString applicationFontFamily(const QString& language) {
-  if (language == QLatin1String("cht")) return QStringLiteral("Microsoft JhengHei");
-  if (language == QLatin1String("chs")) return QStringLiteral("Microsoft YaHei");
-  if (language == QLatin1String("jpn")) return QStringLiteral("Meiryo");
-  if (language == QLatin1String("krn")) return QStringLiteral("Malgun Gothic");
-  return QStringLiteral("Arial");
 }
 
 bool becomePrimary(const std::function<bool()>& isRunning, const std::function<qint64()>& elapsedMs,
@@ -135,16 +127,18 @@ int run(int argc, char** argv, const Options& options) {
   locale->setLanguageMap(QStringLiteral("fr"), QStringLiteral("fre"));
   locale->setLanguageMap(QStringLiteral("es"), QStringLiteral("spn"));
   locale->setLanguageMap(QStringLiteral("th"), QStringLiteral("tha"));
-  const QString language = locale->getDefaultLanguage();
+  // The desktop's messages locale (LC_ALL, LC_MESSAGES, LANG), else the
+  // system locale.
+  const QString language = language_font::desktop_language();
   QTranslator translator;
   // English is the catalogue's own language: it has no translation file.
   if (language != QLatin1String(VellLocale::kFallbackLanguage) &&
       string_display::load_translation(translator, language) && !translator.isEmpty())
     QCoreApplication::installTranslator(&translator);
 
-  // 12. Font by language.
-  QFont font(applicationFontFamily(language), 9, QFont::Normal, false);
-  QApplication::setFont(font);
+  // 12. Font by language (with readable stand-ins where a family is missing).
+  language_font::install_font_substitutions();
+  QApplication::setFont(language_font::application_font(language));
 
   // 13. The machine-wide lock: another user's agent refuses this one.
   MachineLock lock(MachineLock::kName, options.lockUser);

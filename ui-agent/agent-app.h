@@ -39,8 +39,6 @@ int run(int argc, char** argv, const Options& options = Options());
 QString messageForRunning(const QStringList& arguments);
 // True when any argument (the program path included) is exactly "open_log".
 bool wantsOpenLog(const QStringList& arguments);
-// The application font's family for a three-letter UI language.
-QString applicationFontFamily(const QString& language);
 
 // The single-instance check: asks `isRunning` until it answers false (this
 // process becomes the primary: returns true) or `budgetMs` have passed

@@ -1,5 +1,5 @@
 // Start-up's decisions: the message a second instance forwards, the
-// "open_log" switch, the font per language, the 500 ms single-instance loop,
+// "open_log" switch, the 500 ms single-instance loop,
 // and the presses that feed the bus.
 #include <gtest/gtest.h>
 
@@ -7,9 +7,6 @@
 #include <QSignalSpy>
 #include <QWidget>
 #include <QWindow>
-
-#include <ostream>
-#include <string>
 
 #include "agent-app.h"
 #include "core/global-connecter.h"
@@ -31,24 +28,6 @@ TEST(AgentStartup, OpenLogInAnyArgument) {
   EXPECT_TRUE(agent_app::wantsOpenLog({"agent", "x", "open_log"}));
   EXPECT_FALSE(agent_app::wantsOpenLog({"agent", "open_log=1", "OPEN_LOG", "nimbrabackup://x?open_log"}));
 }
-
-struct FontRow {
-  const char* language;
-  const char* family;
-};
-void PrintTo(const FontRow& r, std::ostream* os) {
-  *os << r.language;
-}
-class AgentFont : public ::testing::TestWithParam<FontRow> {};
-TEST_P(AgentFont, FamilyByLanguage) {
-  EXPECT_EQ(agent_app::applicationFontFamily(GetParam().language), QString(GetParam().family));
-}
-INSTANTIATE_TEST_SUITE_P(Rows, AgentFont,
-                         ::testing::Values(FontRow{"cht", "Microsoft JhengHei"}, FontRow{"chs", "Microsoft YaHei"},
-                                           FontRow{"jpn", "Meiryo"}, FontRow{"krn", "Malgun Gothic"},
-                                           FontRow{"ger", "Arial"}, FontRow{"enu", "Arial"},
-                                           FontRow{"JPN", "Arial"}),
-                         [](const auto& row) { return std::string(row.param.language); });
 
 // The loop against a fake clock that advances 10 ms per pause.
 struct Loop {
