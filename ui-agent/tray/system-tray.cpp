@@ -224,7 +224,12 @@ void SystemTray::slotIconActivated(QSystemTrayIcon::ActivationReason reason) {
 }
 
 void SystemTray::slotApplicationStateChanged(Qt::ApplicationState state) {
-  if (state == Qt::ApplicationActive) click();
+  if (state != Qt::ApplicationActive) return;
+  // The agent became active because one of its own windows (the wizard,
+  // the about or activity window) took the focus: that is no click.
+  QWidget* active = QApplication::activeWindow();
+  if (active && active != container_) return;
+  click();
 }
 
 void SystemTray::slotPositionClicked(QPoint p) {

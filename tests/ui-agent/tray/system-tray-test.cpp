@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -196,6 +197,20 @@ TEST_F(TrayIcon, MenuReportsTheStateAndLeavingConnectedClearsItsEntries) {
   tray_->setConnectionMode(2);
   EXPECT_TRUE(tray_->trayMenu()->logEntries().isEmpty());
   EXPECT_EQ(tray_->currentIconName(), QStringLiteral("logo_tray_icn_connect"));
+}
+
+TEST_F(TrayIcon, AnotherAgentWindowTakingTheFocusIsNoClick) {
+  tray_->setConnectionMode(1);
+  QWidget about;
+  about.show();
+  QApplication::setActiveWindow(&about);
+  ASSERT_EQ(QApplication::activeWindow(), &about);
+  tray_->slotApplicationStateChanged(Qt::ApplicationActive);
+  EXPECT_FALSE(popup()->isVisible());
+  about.hide();
+  QApplication::setActiveWindow(nullptr);
+  tray_->slotApplicationStateChanged(Qt::ApplicationActive);
+  EXPECT_TRUE(popup()->isVisible());
 }
 
 TEST_F(TrayIcon, SecondShowLeavesThePopupWhereItIs) {
