@@ -66,6 +66,14 @@ void openInBrowser(const std::string& address, const char* what) {
   QDesktopServices::openUrl(url);
 }
 
+// Changing the flags hides a window, so they are changed only when they
+// differ (the dialog is asked about every second while the service upgrades).
+void setMinimizable(QWidget* window, bool on) {
+  const Qt::WindowFlags flags = window->windowFlags();
+  const Qt::WindowFlags wanted = on ? flags | Qt::WindowMinimizeButtonHint : flags & ~Qt::WindowMinimizeButtonHint;
+  if (wanted != flags) window->setWindowFlags(wanted);
+}
+
 }  // namespace
 
 ClientManager::ClientManager() : QObject(nullptr) {
@@ -381,11 +389,11 @@ void ClientManager::onConnectionInfo(const Json::Value& response) {
     if (state == "update_error") {
       updateDialog->setMessage(text(Str::desc_update_service_fail));
       updateDialog->setButtonVisible(true);
-      updateDialog->setWindowFlags(updateDialog->windowFlags() & ~Qt::WindowMinimizeButtonHint);
+      setMinimizable(updateDialog, false);
     } else if (state == "updating") {
       updateDialog->setMessage(text(Str::desc_updating_service));
       updateDialog->setButtonVisible(false);
-      updateDialog->setWindowFlags(updateDialog->windowFlags() | Qt::WindowMinimizeButtonHint);
+      setMinimizable(updateDialog, true);
       QTimer::singleShot(1000, this, &ClientManager::slotGetConnectionInfo);
     }
     updateDialog->show();
