@@ -1,0 +1,79 @@
+// Start-up's decisions: the message a second instance forwards, the
+// "open_log" switch, the 500 ms single-instance loop,
+// and the presses that feed the bus.
+#include <gtest/gtest.h>
+
+#include <QMouseEvent>
+#include <QSignalSpy>
+#include <QWidget>
+#include <QWindow>
+
+#include "agent-app.h"
+#include "core/global-connecter.h"
+#include "support/qt-print.h"
+
+namespace {
+
+TEST(AgentStartup, ForwardsArgumentOneOrOpen) {
+  EXPECT_EQ(agent_app::messageForRunning({"agent"}), QStringLiteral("open"));
+  EXPECT_EQ(agent_app::messageForRunning({"agent", "token=abc"}), QStringLiteral("token=abc"));
+  EXPECT_EQ(agent_app::messageForRunning({"agent", "open_log", "x"}), QStringLiteral("open_log"));
+  EXPECT_EQ(agent_app::messageForRunning({"agent", ""}), QString(""));
+}
+
+TEST(AgentStartup, OpenLogInAnyArgument) {
+  EXPECT_FALSE(agent_app::wantsOpenLog({"agent"}));
+  EXPECT_TRUE(agent_app::wantsOpenLog({"agent", "open_log"}));
+  EXPECT_TRUE(agent_app::wantsOpenLog({"open_log"}));  // the program path counts too
+  EXPECT_TRUE(agent_app::wantsOpenLog({"agent", "x", "open_log"}));
+  EXPECT_FALSE(agent_app::wantsOpenLog({"agent", "open_log=1", "OPEN_LOG", "nimbrabackup://x?open_log"}));
+}
+
+// The loop against a fake clock that advances 10 ms per pause.
+struct Loop {
+  int asked = 0;
+  qint64 now = 0;
+  bool run(int runningAnswers) {
+    return agent_app::becomePrimary([&] { return ++asked <= runningAnswers; }, [&] { return now; },
+                                    [&] { now += 10; });
+  }
+};
+
+TEST(AgentSingleInstanceLoop, FirstInstanceExitingWithinBudgetLetsUsIn) {
+  Loop free;
+  EXPECT_TRUE(free.run(0));
+  EXPECT_EQ(free.asked, 1);
+  Loop exiting;
+  EXPECT_TRUE(exiting.run(30));  // stops answering after 290 ms
+  EXPECT_EQ(exiting.asked, 31);
+  Loop justInTime;
+  EXPECT_TRUE(justInTime.run(50));  // the answer at 500 ms still counts as asked in time
+  Loop running;
+  EXPECT_FALSE(running.run(1000000));
+  EXPECT_EQ(running.now, 500);
+  EXPECT_EQ(running.asked, 51);
+}
+
+TEST(AgentPositionFilter, LeftPressesOnWindowsFeedTheBus) {
+  agent_app::PositionClickFilter filter;
+  qApp->installEventFilter(&filter);
+  QSignalSpy clicked(&GlobalConnecter::instance(), &GlobalConnecter::sigPositionClicked);
+  QWidget window;
+  window.resize(200, 100);
+  window.show();
+  QWindow* handle = window.windowHandle();
+  ASSERT_NE(handle, nullptr);
+  auto press = [&](QObject* target, Qt::MouseButton button, QPoint global) {
+    QMouseEvent e(QEvent::MouseButtonPress, QPointF(5, 5), QPointF(5, 5), QPointF(global), button, button,
+                  Qt::NoModifier);
+    QCoreApplication::sendEvent(target, &e);
+  };
+  press(handle, Qt::LeftButton, QPoint(1279, -40));
+  press(handle, Qt::RightButton, QPoint(1, 1));
+  qApp->removeEventFilter(&filter);
+  press(handle, Qt::LeftButton, QPoint(2, 2));
+  ASSERT_EQ(clicked.count(), 1);  // once per press, though widgets see it too
+  EXPECT_EQ(clicked.first().first().toPoint(), QPoint(1279, -40));
+}
+
+}  // namespace

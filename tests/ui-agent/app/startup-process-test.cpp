@@ -1,0 +1,132 @@
+// Whole launches of the agent, each with its own pipe namespace, working
+// space, runtime and state folders: the second launch hands its argument to
+// the first and exits 0; another user's agent refuses to start.
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QProcessEnvironment>
+
+#include <memory>
+
+#include "agent-test.h"
+#include "machine-lock.h"
+#include "support/temp-dir.h"
+
+namespace {
+
+QString bin(const char* rel) {
+  return qEnvironmentVariable("NIMBRA_BUILD_DIR") + QLatin1String(rel);
+}
+const QString kAgent = QStringLiteral("/bin/nimbra-backup-agent");
+const QString kLauncher = QStringLiteral("/tests/bin/agent-test-launcher");
+
+class AgentLaunch : public ::testing::Test {
+ protected:
+  AgentLaunch() {
+    ::chmod(runtime_.path().c_str(), 0700);
+    env_ = QProcessEnvironment::systemEnvironment();
+    env_.insert("XDG_RUNTIME_DIR", QString::fromStdString(runtime_.path()));
+    env_.insert("XDG_STATE_HOME", QString::fromStdString(state_.path()));
+    env_.insert("QT_QPA_PLATFORM", "offscreen");
+    env_.insert("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+  }
+  ~AgentLaunch() override {
+    for (auto& p : procs_) {
+      if (p->state() != QProcess::NotRunning) {
+        p->kill();
+        p->waitForFinished(5000);
+      }
+    }
+  }
+  QProcess& start(const QString& program, const QStringList& args,
+                  const QProcessEnvironment& extra = QProcessEnvironment()) {
+    procs_.push_back(std::make_unique<QProcess>());
+    QProcess& p = *procs_.back();
+    QProcessEnvironment env = env_;
+    for (const QString& key : extra.keys()) env.insert(key, extra.value(key));
+    p.setProcessEnvironment(env);
+    p.start(bin(program.toUtf8().constData()), args);
+    return p;
+  }
+  // Reads the launcher's lines until one starts with `prefix`.
+  static QString waitLine(QProcess& p, const QString& prefix, int ms = 15000) {
+    QElapsedTimer clock;
+    clock.start();
+    while (clock.elapsed() < ms) {
+      while (p.canReadLine()) {
+        const QString line = QString::fromUtf8(p.readLine()).trimmed();
+        if (line.startsWith(prefix)) return line;
+      }
+      if (!p.waitForReadyRead(100) && p.state() == QProcess::NotRunning && !p.canReadLine()) break;
+    }
+    return QString();
+  }
+  std::string log() const { return nimbra_test::read_file(state_.path() + "/NimbraBackupAgent/log/ui.txt"); }
+
+  agent_test::Isolation isolation_;
+  nimbra_test::TempDir runtime_, state_;
+  QProcessEnvironment env_;
+  std::vector<std::unique_ptr<QProcess>> procs_;
+};
+
+TEST_F(AgentLaunch, SecondLaunchWithoutArgumentsSendsOpenAndExits) {
+  QProcess& first = start(kLauncher, {});
+  ASSERT_EQ(waitLine(first, "OPEN_LOG"), "OPEN_LOG 0");
+  ASSERT_EQ(waitLine(first, "PRIMARY"), "PRIMARY");
+  QElapsedTimer clock;
+  clock.start();
+  QProcess& second = start(kAgent, {});
+  ASSERT_TRUE(second.waitForFinished(15000));
+  const qint64 took = clock.elapsed();
+  EXPECT_EQ(second.exitStatus(), QProcess::NormalExit);
+  EXPECT_EQ(second.exitCode(), 0);
+  EXPECT_EQ(waitLine(first, "MESSAGE"), "MESSAGE open");
+  // 500 ms of asking plus 100 ms before sending, on top of the program's own start.
+  EXPECT_GE(took, 600);
+  std::printf("second launch exited after %lld ms (600 ms of waiting by design)\n", static_cast<long long>(took));
+  EXPECT_EQ(first.state(), QProcess::Running);
+}
+
+TEST_F(AgentLaunch, ArgumentOneIsForwarded) {
+  QProcessEnvironment quitAfterTwo;
+  quitAfterTwo.insert("NIMBRA_TEST_QUIT_AFTER", "2");
+  QProcess& first = start(kLauncher, {}, quitAfterTwo);
+  ASSERT_EQ(waitLine(first, "PRIMARY"), "PRIMARY");
+  QProcess& token = start(kAgent, {"token=abc"});
+  ASSERT_TRUE(token.waitForFinished(15000));
+  EXPECT_EQ(token.exitCode(), 0);
+  EXPECT_EQ(waitLine(first, "MESSAGE"), "MESSAGE token=abc");
+  QProcess& openLog = start(kAgent, {"open_log"});
+  ASSERT_TRUE(openLog.waitForFinished(15000));
+  EXPECT_EQ(waitLine(first, "MESSAGE"), "MESSAGE open_log");
+  // The primary then ends its loop and tears down with the loop's code.
+  EXPECT_EQ(waitLine(first, "EXIT"), "EXIT 0");
+  ASSERT_TRUE(first.waitForFinished(10000));
+  EXPECT_EQ(first.exitCode(), 0);
+}
+
+TEST_F(AgentLaunch, OpenLogStartsThePrimaryWithTheLogPending) {
+  QProcess& first = start(kLauncher, {"open_log"});
+  EXPECT_EQ(waitLine(first, "OPEN_LOG"), "OPEN_LOG 1");
+}
+
+TEST_F(AgentLaunch, AnotherUsersAgentRefusesThisOne) {
+  // The machine-wide lock held here; the launcher looks like another user.
+  MachineLock holder;
+  ASSERT_EQ(holder.acquire(), MachineLock::Acquired);
+  QProcessEnvironment otherUser;
+  otherUser.insert("NIMBRA_TEST_OTHER_USER", "1");
+  QProcess& refused = start(kLauncher, {}, otherUser);
+  EXPECT_EQ(waitLine(refused, "SHEET"), "SHEET Nimbra Backup|This application is already opened by another user.");
+  ASSERT_TRUE(refused.waitForFinished(10000));
+  EXPECT_EQ(refused.exitCode(), 0);
+  EXPECT_EQ(QString::fromUtf8(refused.readAllStandardOutput()).contains("PRIMARY"), false);
+  EXPECT_NE(log().find("held by another user"), std::string::npos);
+  // The same user is not refused by the lock: the single instance decides.
+  QProcess& same = start(kLauncher, {});
+  EXPECT_EQ(waitLine(same, "PRIMARY"), "PRIMARY");
+}
+
+}  // namespace

@@ -1,0 +1,102 @@
+// The sign-in return message, new log entries, failure limits and the
+// notifier's arguments.
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <string>
+
+#include "agent-test.h"
+#include "client-manager-rules.h"
+#include "support/qt-print.h"
+
+namespace {
+
+using client_manager_rules::SchemeMessage;
+
+struct SchemeRow {
+  const char* name;
+  const char* message;
+  SchemeMessage::Kind kind;
+  const char* key;
+  const char* value;
+};
+void PrintTo(const SchemeRow& r, std::ostream* os) {
+  *os << r.name;
+}
+class SchemeMessages : public ::testing::TestWithParam<SchemeRow> {};
+
+TEST_P(SchemeMessages, SplitAsTheRuleSays) {
+  const SchemeRow& r = GetParam();
+  const SchemeMessage m = client_manager_rules::parseSchemeMessage(QString::fromUtf8(r.message));
+  EXPECT_EQ(m.kind, r.kind);
+  if (r.kind == SchemeMessage::Pair) {
+    EXPECT_EQ(m.key, QString(r.key));
+    EXPECT_EQ(m.value, QString(r.value));
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, SchemeMessages,
+    ::testing::Values(
+        SchemeRow{"Token", "nimbrabackup://nimbrabackupprotocol?access_token=abc", SchemeMessage::Pair,
+                  "access_token", "abc"},
+        SchemeRow{"OpenLog", "nimbrabackup://nimbrabackupprotocol?open_log=1", SchemeMessage::Pair, "open_log",
+                  "1"},
+        SchemeRow{"EmptyValueKept", "nimbrabackup://nimbrabackupprotocol?access_token=", SchemeMessage::Pair,
+                  "access_token", ""},
+        SchemeRow{"DoubledQuestionMarkDropped", "nimbrabackup://nimbrabackupprotocol??access_token=x",
+                  SchemeMessage::Pair, "access_token", "x"},
+        SchemeRow{"NoEquals", "nimbrabackup://nimbrabackupprotocol?access_token", SchemeMessage::Malformed, "",
+                  ""},
+        SchemeRow{"TwoEquals", "nimbrabackup://nimbrabackupprotocol?access_token=a=b", SchemeMessage::Malformed,
+                  "", ""},
+        SchemeRow{"NoQuery", "nimbrabackup://nimbrabackupprotocol", SchemeMessage::Malformed, "", ""},
+        SchemeRow{"TwoQueries", "nimbrabackup://nimbrabackupprotocol?a=1?b=2", SchemeMessage::Malformed, "", ""},
+        SchemeRow{"UpperCaseIsNotTheScheme", "NIMBRABACKUP://nimbrabackupprotocol?access_token=abc",
+                  SchemeMessage::NotScheme, "", ""},
+        SchemeRow{"Open", "open", SchemeMessage::NotScheme, "", ""},
+        SchemeRow{"BareToken", "token=abc", SchemeMessage::NotScheme, "", ""}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+TEST(NewLogEntries, OnlyAboveTheLastIdAscending) {
+  const Json::Value logs = agent_test::parse(
+      R"([{"id":3,"type":1},{"id":9,"type":2},{"id":5},{"id":"12"},{"id":7,"time":1700000000}])");
+  const QList<LogEntry> e = client_manager_rules::newLogEntries(logs, 5);
+  ASSERT_EQ(e.size(), 2);
+  EXPECT_EQ(e[0].id, 7u);
+  EXPECT_EQ(e[0].time, 1700000000u);
+  EXPECT_EQ(e[1].id, 9u);
+  EXPECT_TRUE(client_manager_rules::newLogEntries(logs, 9).isEmpty());
+  EXPECT_TRUE(client_manager_rules::newLogEntries(agent_test::parse(R"({"id":10})"), 0).isEmpty());
+}
+
+TEST(FailureCount, ThirtyWhilePollingHundredTwentyBefore) {
+  using client_manager_rules::Failure;
+  int count = 0;
+  for (int i = 0; i < 30; ++i) ASSERT_EQ(client_manager_rules::countFailure(count, true), Failure::Tolerated) << i;
+  EXPECT_EQ(count, 30);
+  EXPECT_EQ(client_manager_rules::countFailure(count, true), Failure::Fatal);  // the 31st
+  count = 0;
+  for (int i = 0; i < 120; ++i) ASSERT_EQ(client_manager_rules::countFailure(count, false), Failure::Retry) << i;
+  EXPECT_EQ(client_manager_rules::countFailure(count, false), Failure::Fatal);
+  EXPECT_EQ(count, 120);
+}
+
+TEST(NotifierArguments, FourPerNotificationAfterTheHeader) {
+  QStringList args;
+  EXPECT_FALSE(client_manager_rules::notifierArguments(agent_test::parse(R"({"notifications":{}})"), args));
+  EXPECT_TRUE(args.isEmpty());
+  ASSERT_TRUE(client_manager_rules::notifierArguments(
+      agent_test::parse(R"({"site_path":"/sites/a","notifications":[
+        {"id":1,"type":7,"data":{"status":2},"action_type":3},{"type":11,"action_type":"x"},{"type":0}]})"),
+      args));
+  ASSERT_EQ(args.size(), 3 + 3 * 4);
+  EXPECT_EQ(args.mid(0, 3), QStringList({"1", "/sites/a", "3"}));
+  EXPECT_EQ(args.mid(3, 4), QStringList({"Nimbra Backup Successful", "Check the activity logs in the agent for more information.",
+                                         "Open Nimbra Backup", "3"}));
+  EXPECT_EQ(args.at(9), QStringLiteral("Settings"));
+  EXPECT_EQ(args.at(10), QStringLiteral("0"));
+  EXPECT_EQ(args.mid(11, 4), QStringList({"", "", "Open Nimbra Backup", "0"}));
+}
+
+}  // namespace

@@ -1,0 +1,364 @@
+// The client manager driven through the bus: a scripted service end answers
+// its requests, sheets and boxes are answered like a user would, and the
+// effects are read from the requests, the store, the tray and the log.
+#include <gtest/gtest.h>
+
+#include <QDesktopServices>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+#include <map>
+#include <memory>
+
+#include "agent-test.h"
+#include "client-manager.h"
+#include "core/get-status-worker.h"
+#include "core/global-connecter.h"
+#include "core/status-store.h"
+#include "dialogs/update-status-dialog.h"
+#include "image-manager.h"
+#include "service-communicator.h"
+#include "style-manager.h"
+#include "tray/log-widget.h"
+#include "tray/system-tray.h"
+#include "tray/tray-menu.h"
+#include "ui-path-manager.h"
+#include "vell-message-sheet.h"
+#include "wizard/summary-page.h"
+#include "wizard/wizard.h"
+
+namespace {
+
+const char* const kScheme = "nimbrabackup://nimbrabackupprotocol";
+
+// Catches what would go to the browser.
+class UrlCatcher : public QObject {
+  Q_OBJECT
+ public:
+  QList<QUrl> urls;
+  std::function<void()> then;
+ public slots:
+  void open(const QUrl& url) {
+    urls << url;
+    if (then) QTimer::singleShot(0, this, then);
+  }
+};
+
+class Manager : public ::testing::Test {
+ protected:
+  static void SetUpTestSuite() {
+    const QString res = qEnvironmentVariable("NIMBRA_SOURCE_DIR") + QStringLiteral("/resource");
+    UIPathManager::getInstance()->setPath(QStringLiteral("resource_path"), res);
+    ImageManager::getInstance()->initialize(0);
+    StyleManager::getInstance()->initialize(
+        {res + QStringLiteral("/agent.stylesheet"), res + QStringLiteral("/component.business.stylesheet")});
+  }
+
+  Manager() {
+    StatusStore::instance().clearConnection();
+    StatusStore::instance().setStatus(static_cast<ServiceStatus>(0), Json::Value());
+    manager_ = std::make_unique<ClientManager>();
+    GlobalConnecter& bus = GlobalConnecter::instance();
+    // The scripted service end replaces the pipe.
+    QObject::disconnect(&bus, nullptr, manager_->serviceCommunicator(), nullptr);
+    QObject::connect(&bus, &GlobalConnecter::sigQueryService, &script_,
+                     [this](const QObject* sender, Json::Value request) { serve(sender, request); });
+    QDesktopServices::setUrlHandler("https", &urls_, "open");
+    // Answers question and error sheets as a user would, and notes their texts.
+    QObject::connect(&answerer_, &QTimer::timeout, [this] {
+      for (VellMessageSheet* sheet : VellMessageSheet::runningSheets()) {
+        if (sheet->messageType() == VellMessageSheet::Notice) continue;
+        sheets_ << sheet->text();
+        sheet->quit(sheet->messageType() == VellMessageSheet::Question ? questionAnswer_ : QMessageBox::Ok);
+      }
+      if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+        boxes_ << box->text();
+        QAbstractButton* pick = nullptr;
+        for (QAbstractButton* b : box->buttons())
+          if (box->buttonRole(b) == boxRole_ || (!pick && box->buttons().size() == 1)) pick = b;
+        if (pick) pick->click();
+      }
+    });
+    answerer_.start(20);
+  }
+  ~Manager() override {
+    answerer_.stop();
+    QDesktopServices::unsetUrlHandler("https");
+    manager_.reset();
+    StatusStore::instance().clearConnection();
+  }
+
+  void serve(const QObject* sender, const Json::Value& request) {
+    if (sender != manager_.get()) return;
+    requests_.push_back(request);
+    const std::string action = request["action"].asString();
+    auto it = answers_.find(action);
+    if (it == answers_.end()) return;
+    Json::Value answer = it->second;
+    answer["action"] = action;
+    QTimer::singleShot(0, manager_.get(), [this, answer] {
+      emit GlobalConnecter::instance().sigQueryServiceDone(manager_.get(), answer);
+    });
+  }
+  void answer(const char* action, const char* json) { answers_[action] = agent_test::parse(json); }
+  void reply(const char* action, const char* json) {
+    Json::Value v = agent_test::parse(json);
+    v["action"] = action;
+    emit GlobalConnecter::instance().sigQueryServiceDone(manager_.get(), v);
+  }
+  std::vector<std::string> actions() const {
+    std::vector<std::string> out;
+    for (const Json::Value& r : requests_) out.push_back(r["action"].asString());
+    return out;
+  }
+  int count(const std::string& action) const {
+    int n = 0;
+    for (const Json::Value& r : requests_) n += r["action"].asString() == action;
+    return n;
+  }
+  // Pumps events until `done` or `ms` pass.
+  static bool until(const std::function<bool()>& done, int ms = 5000) {
+    QElapsedTimer clock;
+    clock.start();
+    while (!done() && clock.elapsed() < ms) QTest::qWait(10);
+    return done();
+  }
+  // Runs `act` inside an event loop and tells whether the agent asked the
+  // application to quit within `ms`.
+  static bool quitsDuring(const std::function<void()>& act, int ms = 8000) {
+    QEventLoop loop;
+    QTimer::singleShot(0, &loop, act);
+    QTimer::singleShot(ms, &loop, [&loop] { loop.exit(1); });
+    return loop.exec() == 0;
+  }
+  void connect() {
+    manager_->start(false);
+    reply("get_connection_info", R"({"connection":{"address":"a","email":"ann@example.com","account_type":"vell"}})");
+    ASSERT_TRUE(manager_->statusPoller()->isPolling());
+  }
+  static void send(const QString& message) { emit GlobalConnecter::instance().sigMessageReceived(message); }
+
+  agent_test::Isolation isolation_;
+  agent_test::LogCapture log_;
+  std::unique_ptr<ClientManager> manager_;
+  QObject script_;
+  QTimer answerer_;
+  UrlCatcher urls_;
+  std::map<std::string, Json::Value> answers_;
+  std::vector<Json::Value> requests_;
+  QStringList sheets_, boxes_;
+  int questionAnswer_ = QMessageBox::Apply;
+  QMessageBox::ButtonRole boxRole_ = QMessageBox::ApplyRole;
+};
+
+TEST_F(Manager, TokenWithoutSignInUnderWayIsIgnored) {
+  manager_->start(false);
+  send(QString(kScheme) + "?access_token=abc");
+  EXPECT_EQ(count("get_token"), 0);
+  // Also after a failed "get_auth".
+  answer("get_auth", R"({"error":{"code":5}})");
+  QTimer::singleShot(0, [] { emit GlobalConnecter::instance().sigGetAuthURL(); });
+  ASSERT_TRUE(until([this] { return !sheets_.isEmpty(); }));
+  ASSERT_TRUE(until([this] { return !manager_->isAuthPending() && VellMessageSheet::runningSheets().isEmpty(); }));
+  send(QString(kScheme) + "?access_token=abc");
+  EXPECT_EQ(count("get_token"), 0);
+  EXPECT_NE(log_.text().find("failed to get auth URL"), std::string::npos);
+  EXPECT_EQ(log_.text().find("abc"), std::string::npos) << "the token reached the log";
+}
+
+TEST_F(Manager, MalformedReturnIsLoggedAndSendsNothing) {
+  manager_->start(false);
+  // The sign-in notice holds its own loop: the browser's return arrives in it.
+  bool pendingAfter = false, done = false;
+  QTimer::singleShot(0, [] { emit GlobalConnecter::instance().sigGetAuthURL(); });
+  QTimer::singleShot(100, [&] {
+    send(QString(kScheme) + "?access_token");
+    pendingAfter = manager_->isAuthPending();
+    manager_->wizardWindow()->closeSignInSheet();
+    done = true;
+  });
+  ASSERT_TRUE(until([&done] { return done; }));
+  EXPECT_NE(log_.text().find("Message content is wrong"), std::string::npos);
+  EXPECT_EQ(actions(), std::vector<std::string>{"get_auth"});
+  EXPECT_TRUE(pendingAfter);
+}
+
+TEST_F(Manager, RegistrationEndToEnd) {
+  manager_->start(false);
+  answer("get_auth", R"({"redirect_to":"https://signin.example/start?x=1"})");
+  answer("get_token", "{}");
+  answer("get_site_info", R"({"data":[{"zid":"z1","name":"Home","subscription_id":"s1"}]})");
+  answer("create_device", "{}");
+  answer("get_connection_info", R"({"connection":{"address":"a","email":"ann@example.com"}})");
+  urls_.then = [] { send(QString(kScheme) + "?access_token=tok-123"); };
+  QTimer::singleShot(0, [] { emit GlobalConnecter::instance().sigGetAuthURL(); });
+  ASSERT_TRUE(until([this] { return count("get_site_info") == 1; }));
+  ASSERT_EQ(urls_.urls.size(), 1);
+  EXPECT_EQ(urls_.urls.first().host(), QStringLiteral("signin.example"));
+  const Json::Value token = requests_.at(1);
+  EXPECT_EQ(token["action"].asString(), "get_token");
+  EXPECT_EQ(token["token"].asString(), "tok-123");
+  ASSERT_TRUE(until([this] { return manager_->wizardWindow()->pageStack()->currentWidget() ==
+                                    reinterpret_cast<QWidget*>(manager_->wizardWindow()->summaryPage()); }));
+  ServiceStatus status;
+  Json::Value content;
+  StatusStore::instance().getStatus(status, content);
+  EXPECT_EQ(static_cast<int>(status), 0x1002);
+
+  QTimer::singleShot(0, [] { emit GlobalConnecter::instance().sigCreateDevice("z1", "s1", "vell"); });
+  ASSERT_TRUE(until([this] { return manager_->systemTray()->connectionMode() == 1 && count("get_connection_info") == 1; }));
+  EXPECT_EQ(actions(), (std::vector<std::string>{"get_auth", "get_token", "get_site_info", "create_device",
+                                                 "backup_now", "get_connection_info"}));
+  EXPECT_EQ(requests_.at(3)["zid"].asString(), "z1");
+  EXPECT_EQ(requests_.at(3)["subscription_id"].asString(), "s1");
+  EXPECT_EQ(requests_.at(3)["account_type"].asString(), "vell");
+  EXPECT_TRUE(sheets_.contains(QStringLiteral("You're all set for backup. Do you want to back up this device right now?")));
+  EXPECT_FALSE(manager_->wizardWindow()->isVisible());
+  EXPECT_TRUE(manager_->statusPoller()->isPolling());
+  EXPECT_FALSE(QGuiApplication::quitOnLastWindowClosed());
+  EXPECT_EQ(log_.text().find("tok-123"), std::string::npos) << "the token reached the log";
+}
+
+TEST_F(Manager, SiteInfoWithErrorButDataSucceeds) {
+  manager_->start(false);
+  reply("get_site_info", R"({"error":{"code":7},"data":[{"zid":"z"}]})");
+  ServiceStatus status;
+  Json::Value content;
+  StatusStore::instance().getStatus(status, content);
+  EXPECT_EQ(static_cast<int>(status), 0x1002);
+  EXPECT_TRUE(sheets_.isEmpty());
+  EXPECT_EQ(log_.text().find("failed to get site info"), std::string::npos);
+  // Without data it fails, with the error sheet.
+  QTimer::singleShot(0, [this] { reply("get_site_info", R"({"error":{"code":7},"data":[]})"); });
+  ASSERT_TRUE(until([this] { return !sheets_.isEmpty(); }));
+  EXPECT_NE(log_.text().find("failed to get site info"), std::string::npos);
+}
+
+TEST_F(Manager, OpenLogReturnOpensTheLogAfterTheNextStatus) {
+  connect();
+  send(QString(kScheme) + "?open_log=1");
+  EXPECT_TRUE(manager_->isOpenLogPending());
+  LogWidget* logWindow = manager_->systemTray()->trayMenu()->logWidget();
+  EXPECT_FALSE(logWindow->isVisible());
+  emit GlobalConnecter::instance().sigNotifyStatusChange(ServiceStatus(0), ServiceStatus(0x2000),
+                                                       agent_test::parse(R"({"connected":true})"));
+  EXPECT_TRUE(logWindow->isVisible());
+  EXPECT_FALSE(manager_->isOpenLogPending());
+}
+
+TEST_F(Manager, OldLogIdsDroppedNewOnesSortedAndKept) {
+  connect();
+  StatusStore::instance().setLastLogId(5);
+  GlobalConnecter& bus = GlobalConnecter::instance();
+  emit bus.sigNotifyStatusChange(ServiceStatus(0), ServiceStatus(0x2000),
+                                 agent_test::parse(R"({"logs":[{"id":3},{"id":7},{"id":5},{"id":6}]})"));
+  EXPECT_EQ(StatusStore::instance().getLastLogId(), 7u);
+  const QList<LogEntry>& kept = manager_->systemTray()->trayMenu()->logEntries();
+  ASSERT_EQ(kept.size(), 2);
+  emit bus.sigNotifyStatusChange(ServiceStatus(0), ServiceStatus(0x2000),
+                                 agent_test::parse(R"({"logs":[{"id":2},{"id":7}]})"));
+  EXPECT_EQ(StatusStore::instance().getLastLogId(), 7u);
+  EXPECT_EQ(manager_->systemTray()->trayMenu()->logEntries().size(), 2);
+  // Not linked any more: back to setup.
+  emit bus.sigNotifyStatusChange(ServiceStatus(0x2000), ServiceStatus(0x1005), Json::Value());
+  EXPECT_EQ(manager_->systemTray()->connectionMode(), 2);
+  EXPECT_FALSE(manager_->statusPoller()->isPolling());
+  EXPECT_EQ(StatusStore::instance().getLastLogId(), 0u);
+  EXPECT_TRUE(QGuiApplication::quitOnLastWindowClosed());
+  EXPECT_TRUE(manager_->wizardWindow()->isVisible());
+}
+
+TEST_F(Manager, FailuresWhilePollingResetByStatusFatalAtThirtyOne) {
+  connect();
+  GlobalConnecter& bus = GlobalConnecter::instance();
+  for (int i = 0; i < 29; ++i) emit bus.sigQueryServiceFailed();
+  EXPECT_EQ(manager_->failures(), 29);
+  emit bus.sigNotifyStatusChange(ServiceStatus(0), ServiceStatus(0x2000), Json::Value());
+  EXPECT_EQ(manager_->failures(), 0);
+  for (int i = 0; i < 30; ++i) emit bus.sigQueryServiceFailed();
+  EXPECT_TRUE(sheets_.isEmpty());
+  EXPECT_TRUE(quitsDuring([&bus] { emit bus.sigQueryServiceFailed(); }));
+  ASSERT_EQ(sheets_.size(), 1);
+  EXPECT_TRUE(sheets_.first().startsWith(QStringLiteral("The service cannot be activated normally.")));
+  // No longer listening: a further failure shows nothing.
+  emit bus.sigQueryServiceFailed();
+  QTest::qWait(100);
+  EXPECT_EQ(sheets_.size(), 1);
+}
+
+TEST_F(Manager, FailureBeforeTheConnectionRetriesInASecond) {
+  // (No tray icon: it would ask for the record on its own after a second.)
+  emit GlobalConnecter::instance().sigQueryServiceFailed();
+  EXPECT_EQ(manager_->failures(), 1);
+  EXPECT_EQ(count("get_connection_info"), 0);
+  ASSERT_TRUE(until([this] { return count("get_connection_info") >= 1; }, 3000));
+}
+
+TEST_F(Manager, UpdatingReasksEverySecondAndClosingTheDialogEnds) {
+  manager_->start(false);
+  answer("get_connection_info", R"({"update_status":"updating"})");
+  reply("get_connection_info", R"({"update_status":"updating"})");
+  UpdateStatusDialog* dialog = manager_->updateStatusDialog();
+  ASSERT_NE(dialog, nullptr);
+  EXPECT_TRUE(dialog->isVisible());
+  EXPECT_TRUE(dialog->windowFlags().testFlag(Qt::WindowMinimizeButtonHint));
+  // The tray's own ask after a second, then one more each second.
+  ASSERT_TRUE(until([this] { return count("get_connection_info") >= 3; }, 4000));
+  EXPECT_TRUE(dialog->isVisible());
+  EXPECT_TRUE(quitsDuring([dialog] { dialog->reject(); }));
+}
+
+TEST_F(Manager, UpdateErrorShowsTheButtonWithoutMinimize) {
+  manager_->start(false);
+  reply("get_connection_info", R"({"update_status":"update_error"})");
+  UpdateStatusDialog* dialog = manager_->updateStatusDialog();
+  ASSERT_NE(dialog, nullptr);
+  EXPECT_TRUE(dialog->isVisible());
+  EXPECT_FALSE(dialog->windowFlags().testFlag(Qt::WindowMinimizeButtonHint));
+  QTest::qWait(2300);
+  EXPECT_EQ(count("get_connection_info"), 1);  // the tray's own ask, no repeats
+  // The record without update_status hides the dialog.
+  reply("get_connection_info", "{}");
+  EXPECT_FALSE(dialog->isVisible());
+  EXPECT_EQ(manager_->systemTray()->connectionMode(), 2);
+}
+
+TEST_F(Manager, LogoutAfterConfirmationExitAfterNotice) {
+  connect();
+  emit GlobalConnecter::instance().sigLogoutService();
+  EXPECT_EQ(count("logout"), 1);
+  EXPECT_EQ(manager_->systemTray()->connectionMode(), 2);
+  boxRole_ = QMessageBox::RejectRole;
+  emit GlobalConnecter::instance().sigLogoutService();
+  EXPECT_EQ(count("logout"), 1);
+  EXPECT_TRUE(quitsDuring([] { emit GlobalConnecter::instance().sigExitApplication(); }));
+  EXPECT_EQ(manager_->systemTray()->connectionMode(), 0);
+  EXPECT_EQ(boxes_.last(), QStringLiteral("Closing this application will not stop the backup service."));
+}
+
+TEST_F(Manager, PortalLinksAndAnswersForOthersIgnored) {
+  connect();
+  emit GlobalConnecter::instance().sigWebConsole();
+  emit GlobalConnecter::instance().sigRestorePortal();
+  emit GlobalConnecter::instance().sigOpenHelp();
+  ASSERT_EQ(count("get_portal_link"), 3);
+  EXPECT_EQ(requests_.at(requests_.size() - 3)["subaction"].asString(), "web_console");
+  EXPECT_EQ(requests_.at(requests_.size() - 2)["subaction"].asString(), "restore_portal");
+  EXPECT_EQ(requests_.back()["subaction"].asString(), "help");
+  reply("get_portal_link", R"({"url":"https://console.example/"})");
+  ASSERT_EQ(urls_.urls.size(), 1);
+  Json::Value other = agent_test::parse(R"({"action":"get_portal_link","url":"https://other.example/"})");
+  QObject stranger;
+  emit GlobalConnecter::instance().sigQueryServiceDone(&stranger, other);
+  EXPECT_EQ(urls_.urls.size(), 1);
+}
+
+}  // namespace
+
+#include "client-manager-test.moc"

@@ -1,0 +1,115 @@
+// The panel colour from the settings portal, served on a private session
+// bus: the first answer, a change of scheme re-picking the tray picture, and
+// values of the wrong type.
+#include <gtest/gtest.h>
+
+#include <QDBusAbstractAdaptor>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+
+#include "support/temp-dir.h"
+#include "tray/system-tray.h"
+#include "tray/tray-theme.h"
+
+namespace {
+
+// Pumps events until `name` is the tray's picture or `ms` have passed.
+bool waitForIcon(const SystemTray& tray, const QString& name, int ms) {
+  QElapsedTimer clock;
+  clock.start();
+  while (tray.currentIconName() != name && clock.elapsed() < ms) QTest::qWait(10);
+  return tray.currentIconName() == name;
+}
+
+// The portal's Settings interface, answering color-scheme as the portal
+// does: a variant inside a variant.
+class FakeSettings : public QObject {
+  Q_OBJECT
+  Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
+ public:
+  QVariant value = QVariant::fromValue(1u);
+
+ public slots:
+  QDBusVariant Read(const QString& nameSpace, const QString& key) {
+    if (nameSpace != QLatin1String("org.freedesktop.appearance") || key != QLatin1String("color-scheme")) {
+      return QDBusVariant(QVariant());
+    }
+    return QDBusVariant(QVariant::fromValue(QDBusVariant(value)));
+  }
+};
+
+class PanelTheme : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    daemon_.start(QStringLiteral("dbus-daemon"), {"--session", "--nofork", "--print-address=1"});
+    ASSERT_TRUE(daemon_.waitForReadyRead(10000)) << "dbus-daemon did not start";
+    address_ = QString::fromUtf8(daemon_.readLine().trimmed());
+    env_ = std::make_unique<nimbra_test::ScopedEnv>("DBUS_SESSION_BUS_ADDRESS", qPrintable(address_));
+    portalBus_ = std::make_unique<QDBusConnection>(QDBusConnection::connectToBus(address_, "portal"));
+    ASSERT_TRUE(portalBus_->isConnected());
+    ASSERT_TRUE(portalBus_->registerObject("/org/freedesktop/portal/desktop", &settings_,
+                                           QDBusConnection::ExportAllSlots));
+    ASSERT_TRUE(portalBus_->registerService("org.freedesktop.portal.Desktop"));
+  }
+  void TearDown() override {
+    if (portalBus_) QDBusConnection::disconnectFromBus("portal");
+    daemon_.kill();
+    daemon_.waitForFinished(3000);
+  }
+  void changeScheme(const QVariant& v) {
+    QDBusMessage signal = QDBusMessage::createSignal("/org/freedesktop/portal/desktop",
+                                                     "org.freedesktop.portal.Settings", "SettingChanged");
+    signal << QStringLiteral("org.freedesktop.appearance") << QStringLiteral("color-scheme")
+           << QVariant::fromValue(QDBusVariant(v));
+    ASSERT_TRUE(portalBus_->send(signal));
+  }
+
+  QProcess daemon_;
+  QString address_;
+  std::unique_ptr<nimbra_test::ScopedEnv> env_;
+  std::unique_ptr<QDBusConnection> portalBus_;
+  FakeSettings settings_;
+};
+
+TEST_F(PanelTheme, PortalAnswerThenChangesFollow) {
+  QDBusConnection bus = QDBusConnection::connectToBus(address_, "watcher");
+  PanelThemeWatcher watcher(bus, nullptr);
+  QSignalSpy changed(&watcher, &PanelThemeWatcher::changed);
+  ASSERT_TRUE(changed.wait(5000));
+  EXPECT_EQ(watcher.portalScheme(), tray_theme::Scheme::Dark);
+  EXPECT_TRUE(watcher.isSystemDarkTheme());
+
+  changeScheme(QVariant::fromValue(2u));
+  ASSERT_TRUE(changed.wait(5000));
+  EXPECT_EQ(watcher.portalScheme(), tray_theme::Scheme::Light);
+  EXPECT_FALSE(watcher.isSystemDarkTheme());
+
+  // A string where the number belongs tells nothing: back to "dark when unknown".
+  changeScheme(QVariant(QStringLiteral("dark")));
+  ASSERT_TRUE(changed.wait(5000));
+  EXPECT_EQ(watcher.portalScheme(), tray_theme::Scheme::Unknown);
+  EXPECT_TRUE(watcher.isSystemDarkTheme());
+  QDBusConnection::disconnectFromBus("watcher");
+}
+
+TEST_F(PanelTheme, TrayPictureFollowsTheDesktopScheme) {
+  settings_.value = QVariant::fromValue(2u);  // prefers light: dark pictures
+  SystemTray tray;
+  EXPECT_TRUE(waitForIcon(tray, QStringLiteral("logo_tray_icn_connect_dark"), 5000))
+      << tray.currentIconName().toStdString();
+  tray.slotStatusChanged(TraySuccess);
+  EXPECT_EQ(tray.currentIconName(), QStringLiteral("logo_tray_icn_green_dark"));
+  changeScheme(QVariant::fromValue(1u));
+  // Re-picked within a second of the change.
+  EXPECT_TRUE(waitForIcon(tray, QStringLiteral("logo_tray_icn_green"), 1000)) << tray.currentIconName().toStdString();
+}
+
+}  // namespace
+
+#include "panel-theme-test.moc"

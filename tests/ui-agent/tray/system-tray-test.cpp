@@ -1,0 +1,273 @@
+// The tray icon: pictures per state and panel, modes with the right-click
+// menu, clicks per mode, presses outside the pop-up, balloons.
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+#include <ostream>
+#include <string>
+
+#include "agent-test.h"
+#include "core/global-connecter.h"
+#include "dpi-info.h"
+#include "image-manager.h"
+#include "style-manager.h"
+#include "ui-path-manager.h"
+#include "support/qt-print.h"
+#include "tray/quota-info-widget.h"
+#include "tray/system-tray.h"
+#include "tray/tray-menu.h"
+#include "tray/tray-theme.h"
+
+namespace {
+
+struct IconRow {
+  const char* name;
+  int status;
+  bool darkPanel;
+  const char* picture;
+};
+void PrintTo(const IconRow& r, std::ostream* os) {
+  *os << r.name;
+}
+
+class TrayIconName : public ::testing::TestWithParam<IconRow> {};
+
+TEST_P(TrayIconName, PictureForStateAndPanel) {
+  const IconRow& r = GetParam();
+  EXPECT_EQ(tray_theme::iconName(static_cast<TrayStatus>(r.status), r.darkPanel), QString(r.picture));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, TrayIconName,
+    ::testing::Values(IconRow{"IdleDark", 0, true, "logo_tray_icn_connect"},
+                      IconRow{"IdleLight", 0, false, "logo_tray_icn_connect_dark"},
+                      IconRow{"SuccessDark", 1, true, "logo_tray_icn_green"},
+                      IconRow{"SuccessLight", 1, false, "logo_tray_icn_green_dark"},
+                      IconRow{"RunningDark", 2, true, "logo_tray_icn_blue"},
+                      IconRow{"RunningLight", 2, false, "logo_tray_icn_blue_dark"},
+                      IconRow{"ErrorDark", 3, true, "logo_tray_icn_red"},
+                      IconRow{"ErrorLight", 3, false, "logo_tray_icn_red_dark"},
+                      IconRow{"WarningDark", 4, true, "logo_tray_icn_orange"},
+                      IconRow{"WarningLight", 4, false, "logo_tray_icn_orange_dark"},
+                      IconRow{"FiveShowsConnect", 5, true, "logo_tray_icn_connect"},
+                      IconRow{"SevenShowsConnectLight", 7, false, "logo_tray_icn_connect_dark"},
+                      IconRow{"NegativeShowsConnect", -1, true, "logo_tray_icn_connect"}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+TEST(PanelScheme, PortalThenPaletteThenDark) {
+  using tray_theme::Scheme;
+  EXPECT_EQ(tray_theme::schemeFromPortal(1), Scheme::Dark);
+  EXPECT_EQ(tray_theme::schemeFromPortal(2), Scheme::Light);
+  EXPECT_EQ(tray_theme::schemeFromPortal(0), Scheme::Unknown);
+  EXPECT_EQ(tray_theme::schemeFromPortal(3), Scheme::Unknown);
+  EXPECT_TRUE(tray_theme::isDark(Scheme::Dark, Scheme::Light));
+  EXPECT_FALSE(tray_theme::isDark(Scheme::Light, Scheme::Dark));
+  EXPECT_FALSE(tray_theme::isDark(Scheme::Unknown, Scheme::Light));
+  EXPECT_TRUE(tray_theme::isDark(Scheme::Unknown, Scheme::Dark));
+  EXPECT_TRUE(tray_theme::isDark(Scheme::Unknown, Scheme::Unknown));
+
+  QPalette standard(QColor("#efefef"));
+  EXPECT_EQ(tray_theme::schemeFromPalette(standard, standard), Scheme::Unknown);
+  EXPECT_EQ(tray_theme::schemeFromPalette(QPalette(QColor("#202124")), standard), Scheme::Dark);
+  EXPECT_EQ(tray_theme::schemeFromPalette(QPalette(QColor("#fafafa")), standard), Scheme::Light);
+}
+
+TEST(TrayBalloons, OnePerNotificationInOrder) {
+  EXPECT_TRUE(trayBalloons(agent_test::parse(R"({"type":7})")).isEmpty());
+  EXPECT_TRUE(trayBalloons(agent_test::parse("[]")).isEmpty());
+  const QVector<TrayBalloon> b = trayBalloons(agent_test::parse(
+      R"([{"type":7,"data":{"status":4}},{"type":0},"junk",{"type":8,"data":{"total_size":1073741824}}])"));
+  ASSERT_EQ(b.size(), 4);
+  EXPECT_EQ(b[0].title, QStringLiteral("Nimbra Backup Failed"));
+  EXPECT_EQ(b[1].title, QString());
+  EXPECT_EQ(b[1].text, QString());
+  EXPECT_EQ(b[2].title, QString());
+  EXPECT_TRUE(b[3].text.contains(QStringLiteral("1 GB"))) << b[3].text.toStdString();
+}
+
+class TrayIcon : public ::testing::Test {
+ protected:
+  static void SetUpTestSuite() {
+    const QString res = qEnvironmentVariable("NIMBRA_SOURCE_DIR") + QStringLiteral("/resource");
+    UIPathManager::getInstance()->setPath(QStringLiteral("resource_path"), res);
+    ImageManager::getInstance()->initialize(0);
+    StyleManager::getInstance()->initialize({res + QStringLiteral("/agent.stylesheet")});
+  }
+  TrayIcon() {
+    tray_ = std::make_unique<SystemTray>();
+    tray_->setTrayAvailabilitySource([this] { return trayAvailable_; });
+    tray_->container()->setAvailableGeometrySource([] { return QRect(0, 0, 1280, 760); });
+  }
+  ~TrayIcon() override { tray_.reset(); }
+  TrayMenuContainer* popup() const { return tray_->container(); }
+
+  bool trayAvailable_ = true;
+  std::unique_ptr<SystemTray> tray_;
+};
+
+TEST_F(TrayIcon, BuiltIdleAsksForTheConnectionAfterASecond) {
+  QSignalSpy asked(&GlobalConnecter::instance(), &GlobalConnecter::sigGetConnectionInfo);
+  EXPECT_EQ(tray_->connectionMode(), 0);
+  EXPECT_EQ(tray_->rightMenu(), nullptr);
+  EXPECT_EQ(tray_->toolTip(), QStringLiteral("Nimbra Backup"));
+  // No portal, no platform palette: a dark panel, so the light picture.
+  EXPECT_EQ(tray_->currentIconName(), QStringLiteral("logo_tray_icn_connect"));
+  EXPECT_FALSE(tray_->icon().isNull());
+  EXPECT_EQ(popup()->content()->size(), QSize(DPIinfo::scaled(400), DPIinfo::scaled(232)));
+  EXPECT_TRUE(tray_->rightMenu() == nullptr);
+  EXPECT_EQ(asked.count(), 0);
+  ASSERT_TRUE(asked.wait(3000));
+  QTest::qWait(200);
+  EXPECT_EQ(asked.count(), 1);
+}
+
+TEST_F(TrayIcon, StatusPicksThePicture) {
+  tray_->slotStatusChanged(TrayRunning);
+  EXPECT_EQ(tray_->currentIconName(), QStringLiteral("logo_tray_icn_blue"));
+  tray_->slotStatusChanged(static_cast<TrayStatus>(5));
+  EXPECT_EQ(tray_->currentIconName(), QStringLiteral("logo_tray_icn_connect"));
+}
+
+TEST_F(TrayIcon, ExitMenuExistsExactlyInModeOne) {
+  QSignalSpy exit(&GlobalConnecter::instance(), &GlobalConnecter::sigExitApplication);
+  tray_->setConnectionMode(1);
+  QMenu* menu = tray_->rightMenu();
+  ASSERT_NE(menu, nullptr);
+  EXPECT_EQ(tray_->contextMenu(), menu);
+  EXPECT_EQ(menu->objectName(), QStringLiteral("RightMenu"));
+  ASSERT_EQ(menu->actions().size(), 1);
+  EXPECT_EQ(menu->actions().first()->text(), QStringLiteral("Exit"));
+  tray_->setConnectionMode(1);
+  EXPECT_EQ(tray_->rightMenu(), menu);  // the same menu, not a second one
+  menu->actions().first()->trigger();
+  EXPECT_EQ(exit.count(), 1);
+
+  tray_->slotStatusChanged(TrayError);
+  tray_->setConnectionMode(2);
+  EXPECT_EQ(tray_->rightMenu(), nullptr);
+  EXPECT_EQ(tray_->contextMenu(), nullptr);
+  EXPECT_EQ(tray_->currentIconName(), QStringLiteral("logo_tray_icn_connect"));
+  tray_->setConnectionMode(1);
+  ASSERT_NE(tray_->rightMenu(), nullptr);
+  tray_->setConnectionMode(0);
+  EXPECT_EQ(tray_->rightMenu(), nullptr);
+}
+
+TEST_F(TrayIcon, ClicksPerMode) {
+  QSignalSpy wizard(&GlobalConnecter::instance(), &GlobalConnecter::sigTrayClickedWithoutConnection);
+  // Mode 0: nothing.
+  tray_->slotIconActivated(QSystemTrayIcon::Trigger);
+  tray_->slotApplicationStateChanged(Qt::ApplicationActive);
+  EXPECT_FALSE(popup()->isVisible());
+  EXPECT_EQ(wizard.count(), 0);
+  // Mode 2: asks for the wizard, never opens the pop-up.
+  tray_->setConnectionMode(2);
+  tray_->slotIconActivated(QSystemTrayIcon::Trigger);
+  tray_->slotApplicationStateChanged(Qt::ApplicationActive);
+  EXPECT_EQ(wizard.count(), 2);
+  EXPECT_FALSE(popup()->isVisible());
+  tray_->showMenuAt(QPoint(640, 780));
+  EXPECT_FALSE(popup()->isVisible());
+  // Mode 1: other reasons do nothing, a plain click opens the pop-up.
+  tray_->setConnectionMode(1);
+  for (auto reason : {QSystemTrayIcon::Context, QSystemTrayIcon::DoubleClick, QSystemTrayIcon::MiddleClick})
+    tray_->slotIconActivated(reason);
+  tray_->slotApplicationStateChanged(Qt::ApplicationInactive);
+  EXPECT_FALSE(popup()->isVisible());
+  tray_->slotIconActivated(QSystemTrayIcon::Trigger);
+  EXPECT_TRUE(popup()->isVisible());
+  EXPECT_FALSE(popup()->isWindowMode());
+  EXPECT_TRUE(popup()->windowFlags().testFlag(Qt::Popup));
+  EXPECT_EQ(wizard.count(), 2);
+}
+
+TEST_F(TrayIcon, MenuReportsTheStateAndLeavingConnectedClearsItsEntries) {
+  emit tray_->trayMenu()->sigTrayStatusChanged(TrayWarning);
+  EXPECT_EQ(tray_->currentIconName(), QStringLiteral("logo_tray_icn_orange"));
+  tray_->setConnectionMode(1);
+  tray_->appendLogEntries({LogEntry{7, 1700000000, 3, Json::Value(Json::objectValue)}});
+  EXPECT_EQ(tray_->trayMenu()->logEntries().size(), 1);
+  tray_->setAccountName(QStringLiteral("ann@example.com"));
+  EXPECT_EQ(tray_->trayMenu()->quotaInfoWidget()->account(), QStringLiteral("ann@example.com"));
+  tray_->setConnectionMode(2);
+  EXPECT_TRUE(tray_->trayMenu()->logEntries().isEmpty());
+  EXPECT_EQ(tray_->currentIconName(), QStringLiteral("logo_tray_icn_connect"));
+}
+
+TEST_F(TrayIcon, AnotherAgentWindowTakingTheFocusIsNoClick) {
+  tray_->setConnectionMode(1);
+  QWidget about;
+  about.show();
+  QApplication::setActiveWindow(&about);
+  ASSERT_EQ(QApplication::activeWindow(), &about);
+  tray_->slotApplicationStateChanged(Qt::ApplicationActive);
+  EXPECT_FALSE(popup()->isVisible());
+  about.hide();
+  QApplication::setActiveWindow(nullptr);
+  tray_->slotApplicationStateChanged(Qt::ApplicationActive);
+  EXPECT_TRUE(popup()->isVisible());
+}
+
+TEST_F(TrayIcon, SecondShowLeavesThePopupWhereItIs) {
+  tray_->setConnectionMode(1);
+  tray_->showMenuAt(QPoint(640, 780));
+  ASSERT_TRUE(popup()->isVisible());
+  const QPoint first = popup()->pos();
+  EXPECT_EQ(popup()->side(), 2);
+  tray_->showMenuAt(QPoint(100, 780));
+  EXPECT_EQ(popup()->pos(), first);
+}
+
+TEST_F(TrayIcon, PressOnTheEdgeKeepsItOpenOnePastCloses) {
+  tray_->setConnectionMode(1);
+  tray_->showMenuAt(QPoint(640, 780));
+  ASSERT_TRUE(popup()->isVisible());
+  const QRect g = popup()->geometry();
+  GlobalConnecter& bus = GlobalConnecter::instance();
+  emit bus.sigPositionClicked(QPoint(g.x() + g.width(), g.y() + g.height()));
+  EXPECT_TRUE(popup()->isVisible());
+  // The user button's drop-down is open: a press on it, outside the pop-up,
+  // leaves the pop-up alone.
+  QMenu* dropDown = tray_->trayMenu()->userMenu();
+  ASSERT_NE(dropDown, nullptr);
+  dropDown->popup(QPoint(g.right() + 10, g.top()));
+  emit bus.sigPositionClicked(QPoint(g.right() + 20, g.top() + 5));
+  EXPECT_TRUE(popup()->isVisible());
+  dropDown->hide();
+  bool hold = true;
+  tray_->setHoldOpenQuery([&hold] { return hold; });
+  emit bus.sigPositionClicked(QPoint(0, 0));
+  EXPECT_TRUE(popup()->isVisible());  // its own drop-down is open
+  hold = false;
+  emit bus.sigPositionClicked(QPoint(g.x() + g.width() + 1, g.y()));
+  EXPECT_FALSE(popup()->isVisible());
+}
+
+TEST_F(TrayIcon, WithoutANotificationAreaShowsAnOrdinaryWindow) {
+  trayAvailable_ = false;
+  tray_->setConnectionMode(1);
+  tray_->showMenuAt(QPoint());
+  ASSERT_TRUE(popup()->isVisible());
+  EXPECT_TRUE(popup()->isWindowMode());
+  EXPECT_FALSE(popup()->windowFlags().testFlag(Qt::Popup));
+  EXPECT_EQ(popup()->windowTitle(), QStringLiteral("Nimbra Backup"));
+  EXPECT_TRUE(QRect(0, 0, 1280, 760).contains(popup()->frameGeometry().center()));
+  // An ordinary window: a press elsewhere leaves it, a click raises it.
+  emit GlobalConnecter::instance().sigPositionClicked(QPoint(5000, 5000));
+  EXPECT_TRUE(popup()->isVisible());
+  tray_->slotApplicationStateChanged(Qt::ApplicationActive);
+  EXPECT_TRUE(popup()->isWindowMode());
+  // A panel that appears later gets the pop-up back.
+  popup()->hide();
+  trayAvailable_ = true;
+  tray_->showMenuAt(QPoint(640, 780));
+  EXPECT_FALSE(popup()->isWindowMode());
+  EXPECT_TRUE(popup()->windowFlags().testFlag(Qt::Popup));
+}
+
+}  // namespace

@@ -1,0 +1,54 @@
+#pragma once
+// The client manager's decisions as pure functions: the sign-in return
+// message, the new activity-log entries of a status, the failure count, the
+// notifier's arguments.
+
+#include <json/value.h>
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include "core/log-entry.h"
+
+namespace client_manager_rules {
+
+// The prefix of the browser's return to the agent (case-sensitive).
+inline constexpr const char* kSchemePrefix = "nimbrabackup://nimbrabackupprotocol";
+
+struct SchemeMessage {
+  enum Kind {
+    NotScheme,  // not the scheme: "open", "open_log", anything else
+    Malformed,  // the scheme without exactly one "?" part and one "=" pair
+    Pair,       // key and value below
+  };
+  Kind kind = NotScheme;
+  QString key;
+  QString value;
+};
+// Splits "nimbrabackup://nimbrabackupprotocol?key=value": the text split at
+// "?" without empty parts must give two parts, the second split at "=" with
+// empty parts two parts as well.
+SchemeMessage parseSchemeMessage(const QString& message);
+
+// The elements of `logs` whose id is above `lastId`, ascending by id.
+QList<LogEntry> newLogEntries(const Json::Value& logs, quint64 lastId);
+
+// What a failed exchange means with `count` failures counted so far.
+enum class Failure {
+  Tolerated,  // counted; polling goes on
+  Retry,      // counted; ask for the connection record again in a second
+  Fatal,      // the limit was reached: warn and end the agent
+};
+inline constexpr int kPollingFailureLimit = 30;
+inline constexpr int kStartFailureLimit = 120;
+// Counts one failure into `count` (unless it is fatal).
+Failure countFailure(int& count, bool polling);
+
+// The notifier's arguments for the object the service pushed: "1", its
+// site_path, the number of notifications, then title, text, button label
+// and action type of each. False (and no arguments) when the object has no
+// "notifications" array.
+bool notifierArguments(const Json::Value& object, QStringList& arguments);
+
+}  // namespace client_manager_rules

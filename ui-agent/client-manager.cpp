@@ -1,0 +1,524 @@
+#include "client-manager.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QMessageBox>
+#include <QProcess>
+#include <QPushButton>
+#include <QTimer>
+#include <QUrl>
+
+#include <stdexcept>
+
+#include "client-manager-rules.h"
+#include "component-strings.h"
+#include "core/get-status-worker.h"
+#include "core/global-connecter.h"
+#include "core/service-error-text.h"
+#include "core/status-store.h"
+#include "dialogs/about-window.h"
+#include "dialogs/update-status-dialog.h"
+#include "dpi-info.h"
+#include "json-access.h"
+#include "logger.h"
+#include "service-communicator.h"
+#include "string-display.h"
+#include "style-manager.h"
+#include "tray/system-tray.h"
+#include "vell-mask.h"
+#include "vell-message-sheet.h"
+#include "wizard/wizard.h"
+
+using client_manager_rules::SchemeMessage;
+using string_display::text;
+
+#define CM_LOG_ERROR(...) LOG_ERROR(vlog::kClientManager, __VA_ARGS__)
+#define CM_LOG_INFO(...) LOG_INFO(vlog::kClientManager, __VA_ARGS__)
+
+namespace {
+
+// The status category of a device that is not linked to an account.
+constexpr int kNotLinked = 0x1000;
+// What the summary page reads the sites from.
+constexpr int kSiteInfoStatus = 0x1002;
+
+std::string styled(const Json::Value& v) {
+  return v.toStyledString();
+}
+
+// A message as it may appear in the log: the sign-in token masked.
+QString loggable(const QString& msg) {
+  const SchemeMessage m = client_manager_rules::parseSchemeMessage(msg);
+  if (m.kind == SchemeMessage::Pair && m.key == QLatin1String("access_token"))
+    return QString::fromLatin1(client_manager_rules::kSchemePrefix) + QStringLiteral("?access_token=***");
+  if (m.kind == SchemeMessage::Malformed && msg.contains(QLatin1String("access_token")))
+    return QString::fromLatin1(client_manager_rules::kSchemePrefix) + QStringLiteral("?access_token***");
+  return msg;
+}
+
+// Only web addresses go to the browser.
+void openInBrowser(const std::string& address, const char* what) {
+  const QUrl url(QString::fromStdString(address), QUrl::StrictMode);
+  if (!url.isValid() || (url.scheme() != QLatin1String("https") && url.scheme() != QLatin1String("http"))) {
+    CM_LOG_ERROR("%s: not a web address, not opened", what);
+    return;
+  }
+  QDesktopServices::openUrl(url);
+}
+
+// Changing the flags hides a window, so they are changed only when they
+// differ (the dialog is asked about every second while the service upgrades).
+void setMinimizable(QWidget* window, bool on) {
+  const Qt::WindowFlags flags = window->windowFlags();
+  const Qt::WindowFlags wanted = on ? flags | Qt::WindowMinimizeButtonHint : flags & ~Qt::WindowMinimizeButtonHint;
+  if (wanted != flags) window->setWindowFlags(wanted);
+}
+
+}  // namespace
+
+ClientManager::ClientManager() : QObject(nullptr) {
+  GlobalConnecter* bus = &GlobalConnecter::instance();
+  connect(bus, SIGNAL(sigGetConnectionInfo()), this, SLOT(slotGetConnectionInfo()));
+  connect(bus, SIGNAL(sigGetAuthURL()), this, SLOT(slotGetAuthURL()));
+  connect(bus, SIGNAL(sigCreateDevice(const QString&, const QString&, const QString&)), this,
+          SLOT(slotCreateDevice(const QString&, const QString&, const QString&)));
+  connect(bus, SIGNAL(sigRestorePortal()), this, SLOT(slotRestorePortal()));
+  connect(bus, &GlobalConnecter::sigWebConsole, this, &ClientManager::slotWebConsole);
+  connect(bus, SIGNAL(sigOpenHelp()), this, SLOT(slotOpenHelp()));
+  connect(bus, SIGNAL(sigUpdateQuota()), this, SLOT(slotUpdateQuota()));
+  connect(bus, SIGNAL(sigShowAboutWindow()), this, SLOT(slotShowAboutWindow()));
+  connect(bus, SIGNAL(sigTrayClickedWithoutConnection()), this, SLOT(slotTrayClickedWithoutConnection()));
+  connect(bus, SIGNAL(sigLogoutService()), this, SLOT(slotLogoutService()));
+  connect(bus, SIGNAL(sigExitApplication()), this, SLOT(slotExitApplication()));
+  connect(bus, SIGNAL(sigMessageReceived(const QString&)), this, SLOT(slotMessageReceived(const QString&)));
+  connect(bus, SIGNAL(sigNotifyStatusChange(ServiceStatus, ServiceStatus, Json::Value)), this,
+          SLOT(slotHandleStatusChange(ServiceStatus, ServiceStatus, Json::Value)));
+  connect(bus, SIGNAL(sigHandleNotifications(const Json::Value&)), this,
+          SLOT(slotHandleNotifications(const Json::Value&)));
+  connect(bus, SIGNAL(sigQueryServiceDone(const QObject*, Json::Value)), this,
+          SLOT(slotQueryServiceDone(const QObject*, Json::Value)));
+  connect(bus, SIGNAL(sigQueryServiceFailed()), this, SLOT(slotQueryServiceFailed()));
+  connect(this, SIGNAL(sigQueryService(const QObject*, Json::Value)), bus,
+          SIGNAL(sigQueryService(const QObject*, Json::Value)));
+  connect(this, SIGNAL(sigShowMessage(QString, QString)), bus, SIGNAL(sigShowMessage(QString, QString)));
+
+  communicatorThread = new QThread(this);
+  communicator = new ServiceCommunicator();
+  communicator->moveToThread(communicatorThread);
+  communicatorThread->start(QThread::InheritPriority);
+
+  ipcServer = new ServiceIpcServer(this);
+  try {
+    ipcServer->init();
+    ipcServer->start(QThread::InheritPriority);
+  } catch (const std::exception& e) {
+    // Without its own pipe the agent still works; pushed notifications are lost.
+    CM_LOG_ERROR("agent pipe not served: %s", e.what());
+  }
+
+  statusThread = new QThread(this);
+  statusWorker = new GetStatusWorker();
+  statusWorker->moveToThread(statusThread);
+  statusThread->start(QThread::InheritPriority);
+
+  wizard = new Wizard();
+  wizard->setFixedSize(DPIinfo::scaled(900), DPIinfo::scaled(540));
+  wizard->hide();
+  about = new AboutWindowContainer();
+  about->hide();
+}
+
+ClientManager::~ClientManager() {
+  // The three threads, then the windows.
+  ipcServer->stop();
+  ipcServer->wait();
+  statusWorker->stopPolling();
+  statusThread->quit();
+  statusThread->wait();
+  delete statusWorker;
+  communicatorThread->quit();
+  communicatorThread->wait();
+  delete communicator;
+  delete tray;
+  delete updateDialog;
+  delete about;
+  delete wizard;
+}
+
+void ClientManager::start(bool openLog) {
+  CM_LOG_INFO("Application start with log %d", openLog ? 1 : 0);
+  openLogPending = openLog;
+  if (!tray) tray = new SystemTray();
+  tray->setVisible(true);
+}
+
+void ClientManager::send(const Json::Value& request) {
+  emit sigQueryService(this, request);
+}
+
+void ClientManager::sendAction(const char* action) {
+  Json::Value request(Json::objectValue);
+  request["action"] = action;
+  send(request);
+}
+
+void ClientManager::showMenuAtIcon() {
+  if (!tray) return;
+  const QRect icon = tray->geometry();
+  tray->showMenuAt(QPoint(icon.x(), icon.y()));
+}
+
+// ---- requests ----------------------------------------------------------------
+
+void ClientManager::slotGetConnectionInfo() {
+  sendAction("get_connection_info");
+}
+
+void ClientManager::slotGetAuthURL() {
+  sendAction("get_auth");
+  authPending.exchange(true);
+  wizard->showSignInSheet();
+}
+
+void ClientManager::slotCreateDevice(const QString& zid, const QString& subscription_id,
+                                     const QString& account_type) {
+  Json::Value request(Json::objectValue);
+  request["action"] = "create_device";
+  request["zid"] = zid.toStdString();
+  request["subscription_id"] = subscription_id.toStdString();
+  request["account_type"] = account_type.toStdString();
+  send(request);
+  wizard->showConnecting();
+}
+
+static Json::Value portalRequest(const char* subaction) {
+  Json::Value request(Json::objectValue);
+  request["action"] = "get_portal_link";
+  request["subaction"] = subaction;
+  return request;
+}
+
+void ClientManager::slotRestorePortal() {
+  send(portalRequest("restore_portal"));
+}
+
+void ClientManager::slotWebConsole() {
+  send(portalRequest("web_console"));
+}
+
+void ClientManager::slotOpenHelp() {
+  send(portalRequest("help"));
+}
+
+void ClientManager::slotUpdateQuota() {
+  sendAction("update_tray_menu");
+}
+
+void ClientManager::slotShowAboutWindow() {
+  about->show();
+  about->raise();
+  about->activateWindow();
+}
+
+void ClientManager::slotTrayClickedWithoutConnection() {
+  wizard->bringToFront();
+}
+
+void ClientManager::slotLogoutService() {
+  QMessageBox box;
+  box.setObjectName(QStringLiteral("LogoutConfirm"));
+  box.setWindowTitle(text(Str::app_name));
+  box.setText(text(Str::desc_confirm_logout));
+  box.setStyleSheet(getStyleSheet(QStringLiteral("component.confirm_message_box")));
+  QPushButton* cancel = box.addButton(QMessageBox::Cancel);
+  cancel->setText(ComponentStrings::getInstance()->string(QStringLiteral("cancel")));
+  cancel->setStyleSheet(getStyleSheet(QStringLiteral("component.cancel_button")));
+  QPushButton* apply =
+      box.addButton(ComponentStrings::getInstance()->string(QStringLiteral("ok")), QMessageBox::ApplyRole);
+  apply->setStyleSheet(getStyleSheet(QStringLiteral("component.apply_button")));
+  box.setDefaultButton(cancel);
+  box.setEscapeButton(cancel);
+  box.exec();
+  if (box.clickedButton() != apply) return;
+  sendAction("logout");
+  if (tray) tray->setConnectionMode(2);
+}
+
+void ClientManager::slotExitApplication() {
+  if (tray) tray->setConnectionMode(0);
+  QMessageBox box;
+  box.setObjectName(QStringLiteral("ExitNotice"));
+  box.setWindowTitle(text(Str::app_name));
+  box.setText(text(Str::desc_exit_app));
+  box.setStyleSheet(getStyleSheet(QStringLiteral("component.info_message_box")));
+  QPushButton* ok = box.addButton(QMessageBox::Ok);
+  ok->setText(ComponentStrings::getInstance()->string(QStringLiteral("ok")));
+  ok->setStyleSheet(getStyleSheet(QStringLiteral("component.apply_button")));
+  box.exec();
+  QCoreApplication::quit();
+}
+
+// ---- messages from a second launch ------------------------------------------
+
+void ClientManager::slotMessageReceived(const QString& msg) {
+  CM_LOG_INFO("Got message from local peer: %s (%p)", qUtf8Printable(loggable(msg)), static_cast<void*>(this));
+  if (msg == QLatin1String("open")) {
+    ConnectionInfo info;
+    if (StatusStore::instance().getConnectionInfo(info) == 0) showMenuAtIcon();
+    return;
+  }
+  if (msg == QLatin1String("open_log")) {
+    openLogPending = true;
+    return;
+  }
+  const SchemeMessage m = client_manager_rules::parseSchemeMessage(msg);
+  if (m.kind == SchemeMessage::NotScheme) return;
+  if (m.kind == SchemeMessage::Malformed) {
+    CM_LOG_ERROR("Message content is wrong: %s", qUtf8Printable(loggable(msg)));
+    return;
+  }
+  if (m.key == QLatin1String("open_log")) {
+    openLogPending = true;
+  } else if (m.key == QLatin1String("access_token")) {
+    if (!authPending.exchange(false)) {
+      CM_LOG_INFO("sign-in token ignored: no sign-in is under way");
+      return;
+    }
+    Json::Value request(Json::objectValue);
+    request["action"] = "get_token";
+    request["token"] = m.value.toStdString();
+    send(request);
+    wizard->closeSignInSheet();
+    wizard->bringToFront();
+    wizard->showConnecting();
+  }
+}
+
+// ---- status and notifications -------------------------------------------------
+
+void ClientManager::slotHandleStatusChange(ServiceStatus, ServiceStatus current, Json::Value current_content) {
+  failureCount = 0;
+  StatusStore& store = StatusStore::instance();
+  if ((static_cast<int>(current) & 0xF000) == kNotLinked) {
+    QGuiApplication::setQuitOnLastWindowClosed(true);
+    statusWorker->stopPolling();
+    store.clearConnection();
+    store.setLastLogId(0);
+    if (tray) tray->setConnectionMode(2);
+    wizard->showWelcomePage();
+    wizard->bringToFront();
+    return;
+  }
+  if (tray) {
+    tray->updateServiceStatus(current, current_content);
+    ConnectionInfo info;
+    store.getConnectionInfo(info);
+    tray->setMenuEntriesVisible(info.is_vell_account, info.is_auth_fork, info.backup_role);
+    if (jsonx::has(current_content, "billing")) tray->updateQuota(jsonx::member(current_content, "billing"));
+  }
+  const QList<LogEntry> entries =
+      client_manager_rules::newLogEntries(jsonx::member(current_content, "logs"), store.getLastLogId());
+  if (!entries.isEmpty()) {
+    store.setLastLogId(entries.last().id);
+    if (tray) tray->appendLogEntries(entries);
+  }
+  if (openLogPending && tray) {
+    tray->showLogWindow();
+    openLogPending = false;
+  }
+}
+
+void ClientManager::slotHandleNotifications(const Json::Value& notifications) {
+  if (client_manager_platform::useNotifier()) {
+    runNotifier(notifications);
+  } else if (tray) {
+    tray->showNotifications(jsonx::member(notifications, "notifications"));
+  }
+}
+
+void ClientManager::runNotifier(const Json::Value& notifications) {
+  QStringList arguments;
+  if (!client_manager_rules::notifierArguments(notifications, arguments)) {
+    CM_LOG_ERROR("format invalid");
+    return;
+  }
+  QProcess notifier;
+  notifier.start(client_manager_platform::notifierProgram(), arguments, QIODevice::ReadWrite);
+  if (!notifier.waitForStarted(30000)) {
+    CM_LOG_ERROR("can't wait started");
+    // No notifier to show them: the tray's balloons do.
+    if (tray) tray->showNotifications(jsonx::member(notifications, "notifications"));
+    return;
+  }
+  if (!notifier.waitForFinished(30000)) CM_LOG_ERROR("can't wait finished");
+  const QByteArray output = notifier.readAll();
+  const int code = notifier.exitCode();
+  if (code != 0) {
+    CM_LOG_ERROR("command execution error occurred, code: %d, output: %s", code, output.constData());
+    if (code == client_manager_platform::kNoNotificationService && tray)
+      tray->showNotifications(jsonx::member(notifications, "notifications"));
+  }
+}
+
+// ---- answers -------------------------------------------------------------------
+
+void ClientManager::slotQueryServiceDone(const QObject* sender, Json::Value response) {
+  if (sender != this) return;
+  const std::string action = jsonx::get_string(response, "action");
+  if (action == "get_connection_info")
+    onConnectionInfo(response);
+  else if (action == "get_portal_link")
+    onPortalLink(response);
+  else if (action == "create_device")
+    onCreateDevice(response);
+  else if (action == "get_site_info")
+    onSiteInfo(response);
+  else if (action == "get_auth")
+    onAuth(response);
+  else if (action == "get_token")
+    onToken(response);
+}
+
+void ClientManager::onConnectionInfo(const Json::Value& response) {
+  if (!updateDialog) {
+    updateDialog = new UpdateStatusDialog();
+    connect(updateDialog, &QDialog::finished, qApp, &QCoreApplication::quit);
+  }
+  if (jsonx::has(response, "update_status")) {
+    const std::string state = jsonx::get_string(response, "update_status");
+    if (state == "update_error") {
+      updateDialog->setMessage(text(Str::desc_update_service_fail));
+      updateDialog->setButtonVisible(true);
+      setMinimizable(updateDialog, false);
+    } else if (state == "updating") {
+      updateDialog->setMessage(text(Str::desc_updating_service));
+      updateDialog->setButtonVisible(false);
+      setMinimizable(updateDialog, true);
+      QTimer::singleShot(1000, this, &ClientManager::slotGetConnectionInfo);
+    }
+    updateDialog->show();
+    return;
+  }
+  updateDialog->hide();
+  if (!jsonx::has(response, "connection")) {
+    if (tray) tray->setConnectionMode(2);
+    wizard->bringToFront();
+    wizard->showWelcomePage();
+    return;
+  }
+  const Json::Value& link = jsonx::member(response, "connection");
+  connection = fillConnectionInfo(link, jsonx::member(response, "proxy"), SslTrust::Read);
+  StatusStore::instance().setConnectionInfo(connection);
+  if (tray) tray->setConnectionMode(1);
+  QGuiApplication::setQuitOnLastWindowClosed(false);
+  statusWorker->startPolling();
+  if (tray) {
+    tray->setAccountName(QString::fromStdString(jsonx::get_string(link, "email")));
+    tray->setMenuEntriesVisible(connection.is_vell_account, connection.is_auth_fork, connection.backup_role);
+  }
+  if (showMenuWhenConnected) {
+    showMenuAtIcon();
+    showMenuWhenConnected = false;
+  }
+}
+
+void ClientManager::onPortalLink(const Json::Value& response) {
+  if (jsonx::has(response, "url")) {
+    openInBrowser(jsonx::get_string(response, "url"), "portal link");
+  } else if (jsonx::has(response, "error")) {
+    showWarningMsg(text(Str::app_name),
+                   service_error::message(service_error::code_of(response), response));
+  }
+}
+
+void ClientManager::onAuth(const Json::Value& response) {
+  if (!jsonx::has(response, "error")) {
+    openInBrowser(jsonx::get_string(response, "redirect_to"), "sign-in address");
+    return;
+  }
+  CM_LOG_ERROR("failed to get auth URL [%s]", styled(response).c_str());
+  authPending.exchange(false);
+  wizard->closeSignInSheet();
+  wizard->showError(service_error::code_of(response), response);
+  wizard->showWelcomePage();
+}
+
+void ClientManager::onToken(const Json::Value& response) {
+  if (jsonx::has(response, "error")) {
+    CM_LOG_ERROR("failed to get token [%s]", styled(response).c_str());
+    wizard->hideConnecting();
+    wizard->showError(service_error::code_of(response), response);
+    wizard->showWelcomePage();
+    return;
+  }
+  sendAction("get_site_info");
+}
+
+void ClientManager::onSiteInfo(const Json::Value& response) {
+  wizard->hideConnecting();
+  if (jsonx::has(response, "error") && jsonx::member(response, "data").empty()) {
+    CM_LOG_ERROR("failed to get site info [%s]", styled(response).c_str());
+    wizard->showError(service_error::code_of(response), response);
+    wizard->showWelcomePage();
+    return;
+  }
+  StatusStore::instance().setStatus(static_cast<ServiceStatus>(kSiteInfoStatus), response);
+  wizard->showSummaryPage();
+}
+
+bool ClientManager::askBackupNow() {
+  VellMessageSheet sheet(VellMessageSheet::Question, wizard, true, QMessageBox::Discard | QMessageBox::Apply);
+  sheet.setObjectName(QStringLiteral("BackupNowSheet"));
+  sheet.setFixedHeight(DPIinfo::scaled(158));
+  sheet.setMaximumWidth(DPIinfo::scaled(480));
+  VellMask::createMask(&sheet, wizard, QColor(0, 0, 0, 20));
+  sheet.setText(text(Str::desc_backup_confirm));
+  const QSize buttonSize(DPIinfo::scaled(100), DPIinfo::scaled(32));
+  if (QPushButton* notNow = sheet.button(QMessageBox::Discard)) {
+    notNow->setText(text(Str::btn_not_now));
+    notNow->setStyleSheet(getStyleSheet(QStringLiteral("nimbra_button_normal")));
+    notNow->setFixedSize(buttonSize);
+  }
+  if (QPushButton* ok = sheet.button(QMessageBox::Apply)) {
+    ok->setText(text(Str::btn_ok));
+    ok->setStyleSheet(getStyleSheet(QStringLiteral("nimbra_button_2")));
+    ok->setFixedSize(buttonSize);
+  }
+  const bool now = sheet.exec() == QMessageBox::Apply;
+  sheet.quit();
+  return now;
+}
+
+void ClientManager::onCreateDevice(const Json::Value& response) {
+  wizard->hideConnecting();
+  if (jsonx::has(response, "error")) {
+    CM_LOG_ERROR("failed to create device [%s]", styled(response).c_str());
+    wizard->showError(service_error::code_of(response), response);
+    wizard->showWelcomePage();
+    return;
+  }
+  QGuiApplication::setQuitOnLastWindowClosed(false);
+  if (askBackupNow()) {
+    showMenuWhenConnected = true;
+    sendAction("backup_now");
+  }
+  wizard->hide();
+  sendAction("get_connection_info");
+  statusWorker->startPolling();
+  if (tray) tray->setConnectionMode(1);
+  showMenuAtIcon();
+}
+
+void ClientManager::slotQueryServiceFailed() {
+  const client_manager_rules::Failure verdict =
+      client_manager_rules::countFailure(failureCount, statusWorker->isPolling());
+  if (verdict == client_manager_rules::Failure::Retry) {
+    QTimer::singleShot(1000, this, &ClientManager::slotGetConnectionInfo);
+    return;
+  }
+  if (verdict == client_manager_rules::Failure::Tolerated) return;
+  CM_LOG_ERROR("service unreachable after %d failures: the agent ends", failureCount);
+  disconnect(&GlobalConnecter::instance(), SIGNAL(sigQueryServiceFailed()), this, SLOT(slotQueryServiceFailed()));
+  showWarningMsg(text(Str::app_name), text(Str::err_query_service_failed));
+  QCoreApplication::quit();
+}

@@ -1,0 +1,26 @@
+# agent_app: start-up (and the controller that start-up creates), and the
+# executable nimbra-backup-agent, whose main() only calls start-up.
+if(TARGET agent_ui)
+  # The screens' platform halves (agent_ui's glob leaves -posix/-windows out).
+  nimbra_platform_sources(agent_ui_platform_sources ${CMAKE_CURRENT_SOURCE_DIR}/tray/tray-theme)
+  target_sources(agent_ui PRIVATE ${agent_ui_platform_sources})
+  target_link_libraries(agent_ui PUBLIC agent_platform Qt5::DBus)
+
+  file(GLOB agent_app_sources CONFIGURE_DEPENDS
+       ${CMAKE_CURRENT_SOURCE_DIR}/agent-app*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/client-manager*.cpp)
+  list(FILTER agent_app_sources EXCLUDE REGEX "-(posix|windows)\\.cpp$")
+  file(GLOB agent_app_headers CONFIGURE_DEPENDS
+       ${CMAKE_CURRENT_SOURCE_DIR}/agent-app*.h ${CMAKE_CURRENT_SOURCE_DIR}/client-manager*.h)
+  set(agent_app_twins agent-app)
+  if(EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/client-manager-posix.cpp)
+    list(APPEND agent_app_twins client-manager)
+  endif()
+  nimbra_platform_sources(agent_app_platform_sources ${agent_app_twins})
+  add_library(agent_app STATIC ${agent_app_sources} ${agent_app_headers} ${agent_app_platform_sources})
+  target_include_directories(agent_app PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+  target_link_libraries(agent_app PUBLIC agent_ui agent_platform)
+
+  add_executable(nimbra-backup-agent main.cpp)
+  target_link_libraries(nimbra-backup-agent PRIVATE agent_app)
+  install(TARGETS nimbra-backup-agent RUNTIME DESTINATION bin)
+endif()

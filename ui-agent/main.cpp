@@ -1,0 +1,5 @@
+#include "agent-app.h"
+
+int main(int argc, char** argv) {
+  return agent_app::run(argc, argv);
+}

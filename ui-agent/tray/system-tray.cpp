@@ -1,0 +1,273 @@
+#include "tray/system-tray.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDesktopWidget>
+#include <QGuiApplication>
+#include <QIcon>
+#include <QPainter>
+#include <QScreen>
+#include <QStyleOption>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "core/global-connecter.h"
+#include "core/notification-text.h"
+#include "dpi-info.h"
+#include "image-manager.h"
+#include "json-access.h"
+#include "logger.h"
+#include "string-display.h"
+#include "style-manager.h"
+#include "tray/quota-info-widget.h"
+#include "tray/tray-menu.h"
+#include "tray/tray-placement.h"
+#include "tray/tray-theme.h"
+
+// ---- TrayMenuContainer ----------------------------------------------------
+
+TrayMenuContainer::TrayMenuContainer(QWidget* content, QWidget* parent) : QWidget(parent), content_(content) {
+  setObjectName(QStringLiteral("TrayMenuContainer"));
+  setAccessibleName(string_display::text(Str::app_name));
+  setWindowTitle(string_display::text(Str::app_name));
+  setAttribute(Qt::WA_TranslucentBackground);
+  setPopupMode(true);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  if (content_) layout->addWidget(content_);
+}
+
+void TrayMenuContainer::setPopupMode(bool popup) {
+  const bool wasVisible = isVisible();
+  if (popup) {
+    setWindowFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
+    setAttribute(Qt::WA_TranslucentBackground, true);
+  } else {
+    setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
+                   Qt::WindowMinimizeButtonHint);
+    setAttribute(Qt::WA_TranslucentBackground, false);
+  }
+  windowMode_ = !popup;
+  if (wasVisible) show();
+}
+
+QRect TrayMenuContainer::availableGeometry() const {
+  if (available_) return available_();
+  QScreen* screen = QGuiApplication::primaryScreen();
+  return screen ? screen->availableGeometry() : QRect(0, 0, 1024, 768);
+}
+
+void TrayMenuContainer::placeAt(QPoint anchor) {
+  const tray_placement::Placement p = tray_placement::place(availableGeometry(), sizeHint(), anchor, side_);
+  side_ = p.side;
+  anchor_ = anchor;
+  move(p.pos);
+}
+
+void TrayMenuContainer::showAt(QPoint anchor) {
+  if (isVisible() && !windowMode_) return;
+  if (windowMode_) {
+    hide();
+    setPopupMode(true);
+  }
+  side_ = tray_placement::NotPlaced;
+  placeAt(anchor);
+  adjustSize();
+  show();
+}
+
+void TrayMenuContainer::showAsWindow() {
+  if (windowMode_ && isVisible()) {
+    raise();
+    activateWindow();
+    return;
+  }
+  if (!windowMode_) {
+    hide();
+    setPopupMode(false);
+  }
+  adjustSize();
+  const QRect area = availableGeometry();
+  const QSize size = sizeHint();
+  move(area.center() - QPoint(size.width() / 2, size.height() / 2));
+  showNormal();
+  raise();
+  activateWindow();
+}
+
+void TrayMenuContainer::paintEvent(QPaintEvent*) {
+  // Through the style, so that the style sheet's background applies.
+  QStyleOption option;
+  option.initFrom(this);
+  QPainter painter(this);
+  style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
+}
+
+void TrayMenuContainer::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  if (isVisible() && !windowMode_ && side_ != tray_placement::NotPlaced) placeAt(anchor_);
+}
+
+// ---- balloons --------------------------------------------------------------
+
+QVector<TrayBalloon> trayBalloons(const Json::Value& notifications) {
+  QVector<TrayBalloon> out;
+  if (!notifications.isArray() || notifications.empty()) return out;
+  for (const Json::Value& element : notifications) {
+    const int type = jsonx::get_int32(element, "type");
+    const Json::Value& data = jsonx::member(element, "data");
+    out.push_back({notification_text(type, data, true), notification_text(type, data, false)});
+  }
+  return out;
+}
+
+// ---- SystemTray --------------------------------------------------------------
+
+SystemTray::SystemTray(QObject* parent) : QSystemTrayIcon(parent) {
+  menu_ = new TrayMenu();
+  container_ = new TrayMenuContainer(menu_);
+  menu_->setFixedSize(DPIinfo::scaled(400), DPIinfo::scaled(232));
+  holdOpen_ = [this] { return menu_->userMenu() && menu_->userMenu()->isVisible(); };
+  theme_ = new PanelThemeWatcher(this);
+  applyIcon();
+  setToolTip(string_display::text(Str::app_name));
+
+  GlobalConnecter& bus = GlobalConnecter::instance();
+  connect(&bus, &GlobalConnecter::sigPositionClicked, this, &SystemTray::slotPositionClicked);
+  connect(this, &QSystemTrayIcon::activated, this, &SystemTray::slotIconActivated);
+  connect(&bus, &GlobalConnecter::sigShowMessage, this, &SystemTray::slotShowMessage);
+  connect(menu_, &TrayMenu::sigTrayStatusChanged, this, &SystemTray::slotStatusChanged);
+  connect(&bus, &GlobalConnecter::sigApplicationStateChanged, this, &SystemTray::slotApplicationStateChanged);
+  connect(this, &SystemTray::sigGetConnectionInfo, &bus, &GlobalConnecter::sigGetConnectionInfo);
+  connect(this, &SystemTray::sigTrayClickedWithoutConnection, &bus,
+          &GlobalConnecter::sigTrayClickedWithoutConnection);
+  // A change of the desktop's colour scheme picks the picture again.
+  connect(theme_, &PanelThemeWatcher::changed, this, &SystemTray::applyIcon);
+
+  QTimer::singleShot(1000, this, [this]() { emit sigGetConnectionInfo(); });
+}
+
+SystemTray::~SystemTray() {
+  delete container_;
+  delete rightMenu_;
+}
+
+void SystemTray::applyIcon() {
+  const QString name = tray_theme::iconName(status_, theme_->isSystemDarkTheme());
+  if (name == iconName_ && !icon().isNull()) return;
+  iconName_ = name;
+  // Rendered sharp for each size a panel may ask for.
+  QIcon picture;
+  ImageManager* images = ImageManager::getInstance();
+  for (int size : {16, 20, 22, 24, 32, 48, 64}) picture.addPixmap(images->pixmap(name, QSize(size, size), 1.0));
+  setIcon(picture);
+}
+
+void SystemTray::slotStatusChanged(TrayStatus s) {
+  status_ = tray_status::from_int(static_cast<int>(s));
+  applyIcon();
+}
+
+void SystemTray::setConnectionMode(int mode) {
+  mode_ = mode;
+  if (mode != 1 && rightMenu_) {
+    setContextMenu(nullptr);
+    rightMenu_->deleteLater();
+    rightMenu_ = nullptr;
+    menu_->clearLogEntries();
+    status_ = TrayIdle;
+    applyIcon();
+  } else if (mode == 1 && !rightMenu_) {
+    rightMenu_ = new QMenu();
+    rightMenu_->setObjectName(QStringLiteral("RightMenu"));
+    rightMenu_->setFixedWidth(DPIinfo::scaled(100));
+    rightMenu_->setStyleSheet(getStyleSheet(QStringLiteral("tray_right_menu")));
+    QAction* quit = rightMenu_->addAction(string_display::text(Str::act_tray_quit));
+    quit->setObjectName(QStringLiteral("ExitAction"));
+    connect(quit, &QAction::triggered, &GlobalConnecter::instance(), &GlobalConnecter::sigExitApplication);
+    setContextMenu(rightMenu_);
+  }
+}
+
+void SystemTray::showMenuAt(QPoint p) {
+  if (mode_ != 1) return;
+  if (!trayAvailable()) {
+    container_->showAsWindow();
+    return;
+  }
+  container_->showAt(p);
+  container_->raise();
+  container_->activateWindow();
+}
+
+bool SystemTray::trayAvailable() const {
+  return trayAvailable_ ? trayAvailable_() : QSystemTrayIcon::isSystemTrayAvailable();
+}
+
+void SystemTray::click() {
+  if (mode_ == 2) {
+    emit sigTrayClickedWithoutConnection();
+  } else if (mode_ == 1) {
+    if (!trayAvailable()) {
+      container_->showAsWindow();
+      return;
+    }
+    container_->showAt(geometry().center());
+    container_->raise();
+    container_->activateWindow();
+  }
+}
+
+void SystemTray::slotIconActivated(QSystemTrayIcon::ActivationReason reason) {
+  if (reason == QSystemTrayIcon::Trigger) click();
+}
+
+void SystemTray::slotApplicationStateChanged(Qt::ApplicationState state) {
+  if (state != Qt::ApplicationActive) return;
+  // The agent became active because one of its own windows (the wizard,
+  // the about or activity window) took the focus: that is no click.
+  QWidget* active = QApplication::activeWindow();
+  if (active && active != container_) return;
+  click();
+}
+
+void SystemTray::slotPositionClicked(QPoint p) {
+  if (!container_->isVisible() || container_->isWindowMode()) return;
+  if (holdOpen_ && holdOpen_()) return;
+  if (tray_placement::pressInside(container_->geometry(), p)) return;
+  container_->hide();
+}
+
+void SystemTray::slotShowMessage(QString title, QString message) {
+  showMessage(title, message, QSystemTrayIcon::Information, 0);
+}
+
+void SystemTray::showNotifications(const Json::Value& notifications) {
+  for (const TrayBalloon& b : trayBalloons(notifications))
+    showMessage(b.title, b.text, QSystemTrayIcon::Information, 10000);
+}
+
+void SystemTray::updateServiceStatus(ServiceStatus status, const Json::Value& content) {
+  menu_->updateServiceStatus(status, content);
+}
+
+void SystemTray::appendLogEntries(const QList<LogEntry>& entries) {
+  menu_->appendLogEntries(entries);
+}
+
+void SystemTray::showLogWindow() {
+  menu_->slotSeeAllClicked();
+}
+
+void SystemTray::updateQuota(const Json::Value& billing) {
+  menu_->quotaInfoWidget()->setUsage(billing);
+}
+
+void SystemTray::setAccountName(const QString& account) {
+  menu_->quotaInfoWidget()->setAccount(account);
+}
+
+void SystemTray::setMenuEntriesVisible(bool is_vell_account, bool is_auth_fork, int backup_role) {
+  menu_->setMenuEntriesVisible(is_vell_account, is_auth_fork, backup_role);
+}

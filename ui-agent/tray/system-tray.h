@@ -1,0 +1,145 @@
+#pragma once
+// The agent's notification-area icon and the frameless pop-up beside it.
+//
+// SystemTray shows the tray state as the icon's colour (with the panel's
+// colour deciding between the light and the dark picture), opens the pop-up
+// on a click while connected or asks for the wizard while not, closes the
+// pop-up on a press outside it, shows balloons and carries the right-click
+// menu with "Exit", which exists exactly while connected (mode 1).
+//
+// Without a notification area (a desktop without a tray), the pop-up is
+// shown as an ordinary small window when the agent is asked to show itself.
+
+#include <json/value.h>
+
+#include <QMenu>
+#include <QPoint>
+#include <QSystemTrayIcon>
+#include <QVector>
+#include <QWidget>
+
+#include <functional>
+
+#include "core/log-entry.h"
+#include "core/service-status.h"
+#include "core/tray-status.h"
+
+class PanelThemeWatcher;
+class TrayMenu;
+
+// The frameless pop-up that holds the tray menu, placed next to the icon.
+class TrayMenuContainer : public QWidget {
+  Q_OBJECT
+ public:
+  // Takes `content` into its layout (and ownership).
+  explicit TrayMenuContainer(QWidget* content, QWidget* parent = nullptr);
+
+  // Places the pop-up at `anchor` (the icon's centre) and shows it; nothing
+  // when it is already visible.
+  void showAt(QPoint anchor);
+  // Shows the content as an ordinary small window with a title bar, centred
+  // in the work area (no notification area to place it beside).
+  void showAsWindow();
+  bool isWindowMode() const { return windowMode_; }
+
+  QWidget* content() const { return content_; }
+  QPoint anchor() const { return anchor_; }
+  int side() const { return side_; }
+
+  // The work area to place in; the primary screen's available geometry
+  // unless a test gives another.
+  void setAvailableGeometrySource(std::function<QRect()> source) { available_ = std::move(source); }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  QRect availableGeometry() const;
+  void setPopupMode(bool popup);
+  void placeAt(QPoint anchor);
+
+  QWidget* content_;
+  QPoint anchor_;
+  int side_ = 0;
+  bool windowMode_ = false;
+  std::function<QRect()> available_;
+};
+
+// One balloon: title and text of a pushed notification.
+struct TrayBalloon {
+  QString title;
+  QString text;
+};
+// The balloons for the service's `notifications` array, in order; none when
+// it is not an array or is empty.
+QVector<TrayBalloon> trayBalloons(const Json::Value& notifications);
+
+class SystemTray : public QSystemTrayIcon {
+  Q_OBJECT
+ public:
+  // Creates the tray menu and its pop-up; asks for the connection record
+  // one second later.
+  explicit SystemTray(QObject* parent = nullptr);
+  ~SystemTray() override;
+
+  // 0 no action on click, 1 connected, 2 not connected (see the class comment).
+  void setConnectionMode(int mode);
+  int connectionMode() const { return mode_; }
+  // In mode 1: places and shows the pop-up at `p`, raises and activates it;
+  // as a window when there is no notification area.
+  void showMenuAt(QPoint p);
+  // One balloon per notification, each replacing the one before.
+  void showNotifications(const Json::Value& notifications);
+
+  // Handed on to the tray menu and its widgets.
+  void updateServiceStatus(ServiceStatus status, const Json::Value& content);
+  void appendLogEntries(const QList<LogEntry>& entries);
+  // The activity dialog, filled from the pop-up's kept entries.
+  void showLogWindow();
+  void updateQuota(const Json::Value& billing);
+  void setAccountName(const QString& account);
+  void setMenuEntriesVisible(bool is_vell_account, bool is_auth_fork, int backup_role);
+
+  TrayMenu* trayMenu() const { return menu_; }
+
+  TrayMenuContainer* container() const { return container_; }
+  QMenu* rightMenu() const { return rightMenu_; }
+  TrayStatus trayStatus() const { return status_; }
+  // The picture name now shown, "_dark" included.
+  QString currentIconName() const { return iconName_; }
+  PanelThemeWatcher* themeWatcher() const { return theme_; }
+
+  // While it answers true, presses outside do not close the pop-up; by
+  // default while the menu's user drop-down is open.
+  void setHoldOpenQuery(std::function<bool()> query) { holdOpen_ = std::move(query); }
+  // Whether the desktop has a notification area; asks Qt unless a test
+  // gives another answer.
+  void setTrayAvailabilitySource(std::function<bool()> source) { trayAvailable_ = std::move(source); }
+
+ signals:
+  void sigGetConnectionInfo();
+  void sigTrayClickedWithoutConnection();
+
+ public slots:
+  void slotPositionClicked(QPoint p);
+  void slotIconActivated(QSystemTrayIcon::ActivationReason reason);
+  void slotShowMessage(QString title, QString message);
+  void slotStatusChanged(TrayStatus s);
+  void slotApplicationStateChanged(Qt::ApplicationState state);
+
+ private:
+  void applyIcon();
+  void click();
+  bool trayAvailable() const;
+
+  TrayMenu* menu_ = nullptr;
+  TrayMenuContainer* container_ = nullptr;
+  int mode_ = 0;
+  TrayStatus status_ = TrayIdle;
+  QMenu* rightMenu_ = nullptr;
+  QString iconName_;
+  PanelThemeWatcher* theme_ = nullptr;
+  std::function<bool()> holdOpen_;
+  std::function<bool()> trayAvailable_;
+};

@@ -1,0 +1,100 @@
+// Linux: the desktop's colour scheme from the settings portal, then the
+// platform palette.
+#include <QApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QEvent>
+#include <QStyle>
+
+#include "logger.h"
+#include "tray/tray-theme.h"
+
+namespace {
+
+const char* const kPortalService = "org.freedesktop.portal.Desktop";
+const char* const kPortalPath = "/org/freedesktop/portal/desktop";
+const char* const kSettings = "org.freedesktop.portal.Settings";
+const char* const kAppearance = "org.freedesktop.appearance";
+const char* const kColorScheme = "color-scheme";
+
+// The portal wraps the value in one or two variants, depending on its version.
+tray_theme::Scheme schemeFromMessageValue(QVariant v) {
+  for (int depth = 0; depth < 4 && v.userType() == qMetaTypeId<QDBusVariant>(); ++depth)
+    v = v.value<QDBusVariant>().variant();
+  bool ok = false;
+  const uint value = v.toUInt(&ok);
+  if (!ok || (v.userType() != QMetaType::UInt && v.userType() != QMetaType::Int)) {
+    LOG_WARN(vlog::kDefaultComponent, "settings portal: color-scheme of type [%s] ignored", v.typeName());
+    return tray_theme::Scheme::Unknown;
+  }
+  return tray_theme::schemeFromPortal(value);
+}
+
+}  // namespace
+
+struct PanelThemeWatcher::Impl {
+  tray_theme::Scheme portal = tray_theme::Scheme::Unknown;
+};
+
+PanelThemeWatcher::PanelThemeWatcher(QObject* parent) : PanelThemeWatcher(QDBusConnection::sessionBus(), parent) {}
+
+PanelThemeWatcher::PanelThemeWatcher(const QDBusConnection& busIn, QObject* parent)
+    : QObject(parent), d(new Impl) {
+  if (qApp) qApp->installEventFilter(this);
+  QDBusConnection bus(busIn);
+  if (!bus.isConnected()) {
+    LOG_INFO(vlog::kDefaultComponent, "no session bus: the panel colour follows the palette");
+    return;
+  }
+  bus.connect(QString::fromLatin1(kPortalService), QString::fromLatin1(kPortalPath),
+              QString::fromLatin1(kSettings), QStringLiteral("SettingChanged"), this,
+              SLOT(onSettingChanged(QString, QString, QDBusVariant)));
+  QDBusMessage read = QDBusMessage::createMethodCall(QString::fromLatin1(kPortalService),
+                                                     QString::fromLatin1(kPortalPath),
+                                                     QString::fromLatin1(kSettings), QStringLiteral("Read"));
+  read << QString::fromLatin1(kAppearance) << QString::fromLatin1(kColorScheme);
+  // Asked without waiting: the answer arrives through the event loop.
+  auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(read, 3000), this);
+  connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* call) {
+    call->deleteLater();
+    QDBusPendingReply<QVariant> reply = *call;
+    if (reply.isError()) {
+      LOG_INFO(vlog::kDefaultComponent, "settings portal: no color-scheme (%s)",
+               qUtf8Printable(reply.error().name()));
+      return;
+    }
+    const tray_theme::Scheme scheme = schemeFromMessageValue(reply.value());
+    if (scheme != d->portal) {
+      d->portal = scheme;
+      emit changed();
+    }
+  });
+}
+
+PanelThemeWatcher::~PanelThemeWatcher() = default;
+
+tray_theme::Scheme PanelThemeWatcher::portalScheme() const {
+  return d->portal;
+}
+
+bool PanelThemeWatcher::isSystemDarkTheme() const {
+  tray_theme::Scheme palette = tray_theme::Scheme::Unknown;
+  if (qobject_cast<QApplication*>(QCoreApplication::instance()) && QApplication::style())
+    palette = tray_theme::schemeFromPalette(QGuiApplication::palette(), QApplication::style()->standardPalette());
+  return tray_theme::isDark(d->portal, palette);
+}
+
+void PanelThemeWatcher::onSettingChanged(const QString& nameSpace, const QString& key, const QDBusVariant& value) {
+  if (nameSpace != QLatin1String(kAppearance) || key != QLatin1String(kColorScheme)) return;
+  const tray_theme::Scheme scheme = schemeFromMessageValue(value.variant());
+  if (scheme == d->portal) return;
+  d->portal = scheme;
+  emit changed();
+}
+
+bool PanelThemeWatcher::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange) emit changed();
+  return QObject::eventFilter(watched, event);
+}

@@ -1,0 +1,36 @@
+#include "tray/tray-theme.h"
+
+namespace tray_theme {
+
+Scheme schemeFromPortal(quint32 value) {
+  switch (value) {
+    case 1:
+      return Scheme::Dark;
+    case 2:
+      return Scheme::Light;
+    default:
+      return Scheme::Unknown;
+  }
+}
+
+Scheme schemeFromPalette(const QPalette& application, const QPalette& styleStandard) {
+  const QColor window = application.color(QPalette::Active, QPalette::Window);
+  if (window == styleStandard.color(QPalette::Active, QPalette::Window) &&
+      application.color(QPalette::Active, QPalette::WindowText) ==
+          styleStandard.color(QPalette::Active, QPalette::WindowText))
+    return Scheme::Unknown;
+  return window.lightness() < 128 ? Scheme::Dark : Scheme::Light;
+}
+
+bool isDark(Scheme portal, Scheme palette) {
+  if (portal != Scheme::Unknown) return portal == Scheme::Dark;
+  if (palette != Scheme::Unknown) return palette == Scheme::Dark;
+  return true;
+}
+
+QString iconName(TrayStatus status, bool darkPanel) {
+  const QString base = QString::fromLatin1(tray_status::icon_name(status));
+  return darkPanel ? base : base + QStringLiteral("_dark");
+}
+
+}  // namespace tray_theme

@@ -1,0 +1,68 @@
+#pragma once
+// The tray icon's picture: the base name for the tray state, and the
+// panel's colour deciding between the light picture (a dark panel) and the
+// dark one ("_dark", a light panel).
+//
+// Windows: the taskbar theme value of the registry (see os-services.h).
+// Linux: the desktop's colour scheme, org.freedesktop.appearance
+// color-scheme read through the settings portal over D-Bus; when the portal
+// has no preference, the platform's palette; dark when neither tells.
+
+#include <QDBusVariant>
+#include <QObject>
+#include <QPalette>
+#include <QString>
+
+#include <memory>
+
+#include "core/tray-status.h"
+
+class QDBusConnection;
+
+namespace tray_theme {
+
+enum class Scheme { Unknown, Dark, Light };
+
+// The portal's color-scheme value: 1 prefers dark, 2 prefers light, anything
+// else (0 "no preference", other numbers) tells nothing.
+Scheme schemeFromPortal(quint32 value);
+// The application palette against the style's own: the same palette means
+// the platform gave none (unknown); otherwise a dark window colour is dark.
+Scheme schemeFromPalette(const QPalette& application, const QPalette& styleStandard);
+// The portal first, then the palette, dark when neither knows.
+bool isDark(Scheme portal, Scheme palette);
+
+// The picture for `status` on a panel: the base name on a dark panel, with
+// "_dark" appended on a light one.
+QString iconName(TrayStatus status, bool darkPanel);
+
+}  // namespace tray_theme
+
+// Follows the panel's colour: isSystemDarkTheme() answers from the latest
+// known values and changed() is emitted when the desktop's scheme or the
+// palette changes.
+class PanelThemeWatcher : public QObject {
+  Q_OBJECT
+ public:
+  explicit PanelThemeWatcher(QObject* parent = nullptr);
+  // Watches the portal on `bus` (tests give a private bus).
+  PanelThemeWatcher(const QDBusConnection& bus, QObject* parent);
+  ~PanelThemeWatcher() override;
+
+  bool isSystemDarkTheme() const;
+  // What the portal said last (Unknown until it answered).
+  tray_theme::Scheme portalScheme() const;
+
+ signals:
+  void changed();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private slots:
+  void onSettingChanged(const QString& nameSpace, const QString& key, const QDBusVariant& value);
+
+ private:
+  struct Impl;
+  std::unique_ptr<Impl> d;
+};
