@@ -14,7 +14,8 @@
 #include <algorithm>
 #include <memory>
 
-#include "core/event-message-fit.h"
+#include "tray/event-fit.h"
+#include "tray/relative-age.h"
 #include "dpi-info.h"
 #include "screen-gallery.h"
 #include "string-display.h"
@@ -96,15 +97,17 @@ std::vector<LogEntry> longest_events(size_t count) {
 std::vector<std::vector<Cell>> event_rows() {
   std::vector<std::vector<Cell>> rows;
   std::vector<Cell> popup, dialog;
+  event_fit::Fitter tray_fit = event_fit::Fitter::tray();
+  event_fit::Fitter activity_fit = event_fit::Fitter::activity();
   for (const LogEntry& e : longest_events(8)) {
     const QString caption = QString::number(e.type);
     // The pop-up's label has a fixed size: what does not fit is cut off.
-    std::unique_ptr<QLabel> p(label(event_fit::line_height_div(event_fit::fit_popup(e).message),
+    std::unique_ptr<QLabel> p(label(tray_text::line_div(tray_fit.fit(e).message),
                                     QString(), DPIinfo::scaled(177), true));
     p->setFixedHeight(DPIinfo::scaled(40));
     p->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     popup.push_back({caption, in_room(p.get(), {DPIinfo::scaled(177), DPIinfo::scaled(40)})});
-    std::unique_ptr<QLabel> d(label(event_fit::line_height_div(event_fit::fit_activity_dialog(e).message),
+    std::unique_ptr<QLabel> d(label(tray_text::line_div(activity_fit.fit(e).message),
                                     QStringLiteral("component.lineedit_label"), DPIinfo::scaled(441), true));
     dialog.push_back({caption, in_room(d.get(), {DPIinfo::scaled(441), 60})});
     if (popup.size() == 4) {

@@ -11,10 +11,10 @@
 #include <map>
 
 #include "agent-test.h"
-#include "core/event-message-fit.h"
 #include "core/language-font.h"
 #include "string-display.h"
 #include "support/qt-print.h"
+#include "tray/event-fit.h"
 
 namespace {
 
@@ -57,22 +57,35 @@ int whole_values(const QString& fitted, const QStringList& values) {
   return kept;
 }
 
+struct Fitted {
+  QString message;  // rich text at the limit found
+  int limit = 0;
+  bool fits = false;  // false: even the smallest limit overflows
+};
+
+Fitted fit_with(event_fit::Fitter& fitter, const LogEntry& entry) {
+  const auto found = fitter.fit(entry);
+  return {found.message, found.limit, fitter.fits(found.message)};
+}
+
 struct Fit {
   QStringList values;  // the bold values of the unshortened message
-  event_fit::Fitted popup;
-  event_fit::Fitted dialog;
+  Fitted popup;
+  Fitted dialog;
 };
 
 // Every message with values fitted in the current language and font.
 std::map<quint32, Fit> fit_all() {
   std::map<quint32, Fit> fits;
+  event_fit::Fitter popup = event_fit::Fitter::tray();
+  event_fit::Fitter dialog = event_fit::Fitter::activity();
   LogEntry entry;
   entry.body = sample_body();
   for (quint32 type : types_with_values()) {
     entry.type = type;
     const QStringList values = bold_values(render_event_message(entry, true, 100000));
     if (values.isEmpty()) continue;  // placeholders whose members never hold text
-    fits[type] = {values, event_fit::fit_popup(entry), event_fit::fit_activity_dialog(entry)};
+    fits[type] = {values, fit_with(popup, entry), fit_with(dialog, entry)};
   }
   return fits;
 }
