@@ -77,12 +77,16 @@ int read_message(ChunkSource& source, std::string& out, const Limits& limits, co
         // A NUL inside the data cuts the chunk short.
         const std::size_t text = std::strlen(buffer);
         const std::size_t old_size = out.size();
-        // Grow by doubling, but never past what the cap can need.
+        // Grow by doubling, but never past what the cap can need. (reserve()
+        // on the string itself may round up to twice its capacity.)
         if (old_size + text > out.capacity()) {
           std::size_t want = out.capacity() * 2;
           if (want < old_size + text) want = old_size + text;
           if (want > capacity_limit) want = capacity_limit;
-          out.reserve(want);
+          std::string bigger;
+          bigger.reserve(want);
+          bigger.append(out);
+          out.swap(bigger);
         }
         out.append(buffer, text);
         if (timed && count > 0) last = source.now_ms();

@@ -235,17 +235,22 @@ TEST(ReadLimits, MemoryStaysNearTheCapWhateverThePeerStreams) {
    public:
     Result read_some(char* buffer, std::size_t size) override {
       std::memset(buffer, 'e', size);
+      if (out != nullptr && out->capacity() > largest) largest = out->capacity();
       ++reads;
       return Result{Status::kOk, size, 0, 0};
     }
     void wait() override {}
     std::size_t reads = 0;
+    std::size_t largest = 0;
+    const std::string* out = nullptr;
   } endless;
   ipc_test::LogCapture log;
   std::string out;
+  endless.out = &out;
   const WinIpc::Limits limits{1 << 20, 0, 0};
   EXPECT_EQ(WinIpc::framing::read_message(endless, out, limits, nullptr), -1);
   EXPECT_EQ(endless.reads, (std::size_t{1} << 20) / 4095 + 1);
+  EXPECT_LE(endless.largest, (std::size_t{1} << 20) + 2 * 4096) << "capacity of the text buffer";
 }
 
 // A sink that takes nothing for its first `stalls` writes (a full pipe in
