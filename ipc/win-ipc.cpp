@@ -98,7 +98,8 @@ int read_message(ChunkSource& source, std::string& out, const Limits& limits, co
           return 0;
         }
         if (p != std::string::npos || out.size() > keep_at_most) {
-          LOG_ERROR(vlog::kWinIpc, "read pipe: message over %zu bytes, dropped", limits.max_bytes);
+          LOG_ERROR(vlog::kWinIpc, "read pipe: message over %llu bytes, dropped",
+                    static_cast<unsigned long long>(limits.max_bytes));
           give_back(out);
           return -1;
         }
@@ -133,11 +134,11 @@ int write_message(ChunkSink& sink, const std::string& message, const Limits& lim
     if (timed) {
       const int passed = passed_limit(limits, start, last, sink.now_ms());
       if (passed < 0) {
-        LOG_ERROR(vlog::kWinIpc, "write pipe: nothing taken for %d ms, %zu of %zu bytes written", -passed, done,
-                  framed.size());
+        LOG_ERROR(vlog::kWinIpc, "write pipe: nothing taken for %d ms, %llu of %llu bytes written", -passed,
+                  static_cast<unsigned long long>(done), static_cast<unsigned long long>(framed.size()));
       } else if (passed > 0) {
-        LOG_ERROR(vlog::kWinIpc, "write pipe: not done after %d ms, %zu of %zu bytes written", passed, done,
-                  framed.size());
+        LOG_ERROR(vlog::kWinIpc, "write pipe: not done after %d ms, %llu of %llu bytes written", passed,
+                  static_cast<unsigned long long>(done), static_cast<unsigned long long>(framed.size()));
       }
       if (passed != 0) return -1;
     }
@@ -164,7 +165,8 @@ int write_message(ChunkSink& sink, const std::string& message, const Limits& lim
         break;
       default:
         // Sizes only: the message may carry what a log must not show.
-        LOG_ERROR(vlog::kWinIpc, "failed to write named pipe: %zu bytes, %u", framed.size(), r.error);
+        LOG_ERROR(vlog::kWinIpc, "failed to write named pipe: %llu bytes, %u",
+                  static_cast<unsigned long long>(framed.size()), r.error);
         return -1;
     }
   }
