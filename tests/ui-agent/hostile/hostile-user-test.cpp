@@ -240,7 +240,7 @@ class Client : public Hostile {
     delete communicator_;
     QCoreApplication::processEvents();
   }
-  void ask(const Json::Value& request) { emit GlobalConnecter::instance().sigQueryService(this_, request); }
+  void ask(const Json::Value& request) { emit GlobalConnecter::instance().sigQueryService(&sender_, request); }
 
   static Json::Value tokenRequest() {
     Json::Value r = agent_test::parse(R"({"action":"get_token","content":{"type":"sso"}})");
@@ -250,7 +250,7 @@ class Client : public Hostile {
     return r;
   }
 
-  QObject* this_ = reinterpret_cast<QObject*>(0x1);
+  QObject sender_;
   QThread thread_;
   ServiceCommunicator* communicator_ = new ServiceCommunicator;
   QSignalSpy failed_{&GlobalConnecter::instance(), &GlobalConnecter::sigQueryServiceFailed};
