@@ -6,6 +6,7 @@
 // code, and win-ipc.cpp writes the log line, so that all lines of this layer
 // carry the source name win-ipc.cpp.
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -100,17 +101,33 @@ std::size_t write_piece_limit();
 // After a whole message is written (FlushFileBuffers on Windows).
 void flush(Native handle);
 
+// The credentials of the process at the other end of a connected handle
+// (unknown on Windows), and the user running this process.
+Peer peer_of(Native handle);
+unsigned long current_user();
+// Whether a peer whose identity cannot be read may be talked to.
+bool unknown_peer_trusted();
+
 }  // namespace platform
 
 namespace framing {
 
 // Where the framed reader takes its chunks from: the pipe in win-ipc.cpp, a
 // scripted sequence in tests and in the fuzz target.
+// Milliseconds of the steady clock: the time limits' clock.
+inline std::int64_t steady_ms() {
+  return std::chrono::duration_cast<std::chrono::milliseconds>(
+             std::chrono::steady_clock::now().time_since_epoch())
+      .count();
+}
+
 class ChunkSource {
  public:
   virtual ~ChunkSource() = default;
   virtual platform::Result read_some(char* buffer, std::size_t size) = 0;
   virtual void wait() = 0;
+  // The clock the time limits are measured with (tests script it).
+  virtual std::int64_t now_ms() { return steady_ms(); }
 };
 
 class ChunkSink {
@@ -120,12 +137,18 @@ class ChunkSink {
   virtual void wait() = 0;
   virtual void flush() = 0;
   virtual std::size_t piece_limit() const = 0;
+  virtual std::int64_t now_ms() { return steady_ms(); }
 };
 
 // Reads one framed message from `source` into `out` (text without marker).
+// Over `limits` it fails with one log line and leaves `out` empty with its
+// memory given back. Without limits the default cap applies.
 int read_message(ChunkSource& source, std::string& out, const CancelFlag* cancel);
-// Writes `message` followed by the end marker.
+int read_message(ChunkSource& source, std::string& out, const Limits& limits, const CancelFlag* cancel);
+// Writes `message` followed by the end marker. A write that moves nothing
+// waits before the next attempt; the time limits of `limits` apply.
 int write_message(ChunkSink& sink, const std::string& message, const CancelFlag* cancel);
+int write_message(ChunkSink& sink, const std::string& message, const Limits& limits, const CancelFlag* cancel);
 
 // Offset where the search for the marker starts after `old_size` bytes had
 // been searched without success: the last kEndMarkerSize - 1 of them may hold

@@ -249,5 +249,28 @@ void flush(Native) {
   // The bytes are in the peer's queue once send() returns.
 }
 
+Peer peer_of(Native handle) {
+  Peer peer;
+  ucred cred{};
+  socklen_t length = sizeof cred;
+  if (::getsockopt(static_cast<int>(handle), SOL_SOCKET, SO_PEERCRED, &cred, &length) == 0 &&
+      length == sizeof cred) {
+    peer.known = true;
+    peer.uid = static_cast<unsigned long>(cred.uid);
+    peer.pid = static_cast<long>(cred.pid);
+  }
+  return peer;
+}
+
+unsigned long current_user() {
+  return static_cast<unsigned long>(::geteuid());
+}
+
+bool unknown_peer_trusted() {
+  // Every local user can reach an abstract socket: who cannot be named is
+  // not talked to.
+  return false;
+}
+
 }  // namespace platform
 }  // namespace WinIpc

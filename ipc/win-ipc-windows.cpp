@@ -2,6 +2,12 @@
 // instance per server, open to Everyone on this machine and closed to remote
 // clients, polled with fixed sleeps (100 ms at connect and accept, 10 ms at
 // read and write).
+//
+// The client end is switched to non-blocking mode as well, so that a server
+// that stops talking never blocks a read or write past the caller's cancel
+// flag, and it lets the server identify it but never act as it
+// (SECURITY_IDENTIFICATION): whoever serves the pipe name cannot use the
+// agent's rights.
 
 #include <windows.h>
 // after windows.h
@@ -37,9 +43,15 @@ std::string native_name(const std::string& name) {
 Result connect_client(const std::string& name, int, Native& out) {
   Result r;
   close_handle(out);
-  const HANDLE h =
-      ::CreateFileA(name.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+  const HANDLE h = ::CreateFileA(name.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
+                                  SECURITY_SQOS_PRESENT | SECURITY_IDENTIFICATION, nullptr);
   if (h != INVALID_HANDLE_VALUE) {
+    DWORD mode = PIPE_READMODE_BYTE | PIPE_NOWAIT;
+    if (!::SetNamedPipeHandleState(h, &mode, nullptr, nullptr)) {
+      r.error = ::GetLastError();
+      ::CloseHandle(h);
+      return r;
+    }
     out = to_native(h);
     r.status = Status::kOk;
     return r;
@@ -206,7 +218,8 @@ Result write_some(Native handle, const char* data, std::size_t size) {
     return r;
   }
   const DWORD err = ::GetLastError();
-  if (err == ERROR_PIPE_NOT_CONNECTED || err == ERROR_IO_PENDING) {
+  // ERROR_PIPE_NOT_CONNECTED means the peer is gone: waiting cannot help.
+  if (err == ERROR_IO_PENDING) {
     r.status = Status::kRetry;
   } else {
     r.error = err;
@@ -230,6 +243,19 @@ std::size_t write_piece_limit() {
 
 void flush(Native handle) {
   ::FlushFileBuffers(to_handle(handle));
+}
+
+Peer peer_of(Native) {
+  // The pipe's access list decides who may connect.
+  return Peer();
+}
+
+unsigned long current_user() {
+  return 0;
+}
+
+bool unknown_peer_trusted() {
+  return true;
 }
 
 }  // namespace platform

@@ -13,28 +13,95 @@ namespace WinIpc {
 
 namespace framing {
 
+namespace {
+
+// Where a time limit stands after `now`: 0 within both limits, else the
+// limit that was passed (its length in milliseconds, negative for idle).
+int passed_limit(const Limits& limits, std::int64_t start, std::int64_t last, std::int64_t now) {
+  if (limits.idle_ms > 0 && now - last >= limits.idle_ms) return -limits.idle_ms;
+  if (limits.deadline_ms > 0 && now - start >= limits.deadline_ms) return limits.deadline_ms;
+  return 0;
+}
+
+bool has_time_limit(const Limits& limits) {
+  return limits.idle_ms > 0 || limits.deadline_ms > 0;
+}
+
+// Empties `out` and gives its memory back.
+void give_back(std::string& out) {
+  std::string().swap(out);
+}
+
+}  // namespace
+
 int read_message(ChunkSource& source, std::string& out, const CancelFlag* cancel) {
-  out.clear();
+  return read_message(source, out, Limits(), cancel);
+}
+
+int read_message(ChunkSource& source, std::string& out, const Limits& limits, const CancelFlag* cancel) {
+  give_back(out);
   char buffer[platform::kBufferSize];
+  const bool timed = has_time_limit(limits);
+  const std::int64_t start = timed ? source.now_ms() : 0;
+  std::int64_t last = start;
+  // The text may reach max_bytes; up to 12 more bytes may still turn out to
+  // be the start of the marker. One chunk more is never needed.
+  const std::size_t keep_at_most = limits.max_bytes + (kEndMarkerSize - 1);
+  const std::size_t capacity_limit = keep_at_most + platform::kBufferSize;
   for (;;) {
-    if (cancel != nullptr && cancel->load()) return -1;
+    if (cancel != nullptr && cancel->load()) {
+      give_back(out);
+      return -1;
+    }
+    if (timed) {
+      const int passed = passed_limit(limits, start, last, source.now_ms());
+      if (passed < 0) {
+        LOG_ERROR(vlog::kWinIpc, "read pipe: nothing received for %d ms, dropped", -passed);
+      } else if (passed > 0) {
+        LOG_ERROR(vlog::kWinIpc, "read pipe: message not complete after %d ms, dropped", passed);
+      }
+      if (passed != 0) {
+        give_back(out);
+        return -1;
+      }
+    }
     const platform::Result r = source.read_some(buffer, platform::kBufferSize - 1);
     switch (r.status) {
       case platform::Status::kOk: {
-        if (r.count == 0) return -1;
+        if (r.count == 0) {
+          give_back(out);
+          return -1;
+        }
         const std::size_t count = r.count < platform::kBufferSize ? r.count : platform::kBufferSize - 1;
         buffer[count] = '\0';
         // A NUL inside the data cuts the chunk short.
         const std::size_t text = std::strlen(buffer);
         const std::size_t old_size = out.size();
+        // Grow by doubling, but never past what the cap can need. (reserve()
+        // on the string itself may round up to twice its capacity.)
+        if (old_size + text > out.capacity()) {
+          std::size_t want = out.capacity() * 2;
+          if (want < old_size + text) want = old_size + text;
+          if (want > capacity_limit) want = capacity_limit;
+          std::string bigger;
+          bigger.reserve(want);
+          bigger.append(out);
+          out.swap(bigger);
+        }
         out.append(buffer, text);
-        if (out.size() >= kEndMarkerSize) {
-          const std::size_t p = out.find(kEndMarker, search_start(old_size), kEndMarkerSize);
-          if (p != std::string::npos) {
-            // Whatever followed the marker in this chunk is dropped.
-            out.resize(p);
-            return 0;
-          }
+        if (timed && count > 0) last = source.now_ms();
+        std::size_t p = std::string::npos;
+        if (out.size() >= kEndMarkerSize) p = out.find(kEndMarker, search_start(old_size), kEndMarkerSize);
+        if (p != std::string::npos && p <= limits.max_bytes) {
+          // Whatever followed the marker in this chunk is dropped.
+          out.resize(p);
+          return 0;
+        }
+        if (p != std::string::npos || out.size() > keep_at_most) {
+          LOG_ERROR(vlog::kWinIpc, "read pipe: message over %llu bytes, dropped",
+                    static_cast<unsigned long long>(limits.max_bytes));
+          give_back(out);
+          return -1;
         }
         break;
       }
@@ -43,25 +110,50 @@ int read_message(ChunkSource& source, std::string& out, const CancelFlag* cancel
         break;
       default:
         LOG_ERROR(vlog::kWinIpc, "read pipe failed, %u", r.error);
+        give_back(out);
         return -1;
     }
   }
 }
 
 int write_message(ChunkSink& sink, const std::string& message, const CancelFlag* cancel) {
+  return write_message(sink, message, Limits(), cancel);
+}
+
+int write_message(ChunkSink& sink, const std::string& message, const Limits& limits, const CancelFlag* cancel) {
   std::string framed;
   framed.reserve(message.size() + kEndMarkerSize);
   framed.append(message).append(kEndMarker, kEndMarkerSize);
   const std::size_t limit = sink.piece_limit() > 0 ? sink.piece_limit() : framed.size();
+  const bool timed = has_time_limit(limits);
+  const std::int64_t start = timed ? sink.now_ms() : 0;
+  std::int64_t last = start;
   std::size_t done = 0;
   for (;;) {
     if (cancel != nullptr && cancel->load()) return -1;
+    if (timed) {
+      const int passed = passed_limit(limits, start, last, sink.now_ms());
+      if (passed < 0) {
+        LOG_ERROR(vlog::kWinIpc, "write pipe: nothing taken for %d ms, %llu of %llu bytes written", -passed,
+                  static_cast<unsigned long long>(done), static_cast<unsigned long long>(framed.size()));
+      } else if (passed > 0) {
+        LOG_ERROR(vlog::kWinIpc, "write pipe: not done after %d ms, %llu of %llu bytes written", passed,
+                  static_cast<unsigned long long>(done), static_cast<unsigned long long>(framed.size()));
+      }
+      if (passed != 0) return -1;
+    }
     const std::size_t rest = framed.size() - done;
     const std::size_t piece = rest < limit ? rest : limit;
     const platform::Result r = sink.write_some(framed.data() + done, piece);
     switch (r.status) {
       case platform::Status::kOk:
+        if (r.count == 0) {
+          // Nothing taken (a full pipe in non-blocking mode): wait, never spin.
+          sink.wait();
+          break;
+        }
         done += r.count < piece ? r.count : piece;
+        if (timed) last = sink.now_ms();
         if (done == framed.size()) {
           sink.flush();
           return 0;
@@ -72,7 +164,9 @@ int write_message(ChunkSink& sink, const std::string& message, const CancelFlag*
         sink.wait();
         break;
       default:
-        LOG_ERROR(vlog::kWinIpc, "failed to write named pipe: '%s', %u", framed.c_str(), r.error);
+        // Sizes only: the message may carry what a log must not show.
+        LOG_ERROR(vlog::kWinIpc, "failed to write named pipe: %llu bytes, %u",
+                  static_cast<unsigned long long>(framed.size()), r.error);
         return -1;
     }
   }
@@ -81,6 +175,9 @@ int write_message(ChunkSink& sink, const std::string& message, const CancelFlag*
 }  // namespace framing
 
 namespace {
+
+// Longest wait inside one connect attempt when the caller has a cancel flag.
+constexpr int kCancelSliceMs = 100;
 
 class HandleSource final : public framing::ChunkSource {
  public:
@@ -96,32 +193,57 @@ class HandleSource final : public framing::ChunkSource {
 
 class HandleSink final : public framing::ChunkSink {
  public:
-  explicit HandleSink(platform::Native h) : h_(h) {}
+  HandleSink(platform::Native h, bool flush) : h_(h), flush_(flush) {}
   platform::Result write_some(const char* data, std::size_t size) override {
     return platform::write_some(h_, data, size);
   }
   void wait() override { platform::wait_writable(h_); }
-  void flush() override { platform::flush(h_); }
+  void flush() override {
+    if (flush_) platform::flush(h_);
+  }
   std::size_t piece_limit() const override { return platform::write_piece_limit(); }
 
  private:
   platform::Native h_;
+  bool flush_;
 };
 
-int read_on(platform::Native h, std::string& out, const CancelFlag* cancel) {
+int read_on(platform::Native h, std::string& out, const Limits& limits, const CancelFlag* cancel) {
   HandleSource source(h);
-  return framing::read_message(source, out, cancel);
+  return framing::read_message(source, out, limits, cancel);
 }
 
-int write_on(platform::Native h, const std::string& message, const CancelFlag* cancel) {
-  HandleSink sink(h);
-  return framing::write_message(sink, message, cancel);
+// Only the server end flushes: it drops the client right after the reply,
+// which would discard what the client has not read yet. A client's bytes stay
+// readable after it closes, and flushing there would wait for as long as a
+// hung server does not read.
+int write_on(platform::Native h, const std::string& message, const Limits& limits, const CancelFlag* cancel,
+             bool server_end) {
+  HandleSink sink(h, server_end);
+  return framing::write_message(sink, message, limits, cancel);
 }
 
 }  // namespace
 
 std::string platform_pipe_name(const std::string& name) {
   return platform::native_name(name);
+}
+
+bool trusted_peer(const Peer& peer) {
+  if (!peer.known) return platform::unknown_peer_trusted();
+  return peer.uid == 0 || peer.uid == platform::current_user();
+}
+
+unsigned long current_user() {
+  return platform::current_user();
+}
+
+Peer pipe_holder(const std::string& name) {
+  platform::Native h = platform::kInvalid;
+  Peer holder;
+  if (platform::connect_client(name, 0, h).status == platform::Status::kOk) holder = platform::peer_of(h);
+  platform::close_handle(h);
+  return holder;
 }
 
 // ---------------------------------------------------------------- client end
@@ -137,13 +259,17 @@ IpcClient::~IpcClient() {
   delete handle_;
 }
 
-int IpcClient::connect(const std::string& name, int timeout_ms) {
+int IpcClient::connect(const std::string& name, int timeout_ms, const CancelFlag* cancel) {
   if (timeout_ms == 0) return -1;
   close();
   int elapsed = 0;
   for (;;) {
-    const int remaining = timeout_ms - elapsed;
-    const platform::Result r = platform::connect_client(name, remaining > 0 ? remaining : 0, handle_->native);
+    if (cancel != nullptr && cancel->load()) return -1;
+    int remaining = timeout_ms - elapsed;
+    if (remaining < 0) remaining = 0;
+    // With a cancel flag the kernel's wait for room is cut into slices.
+    if (cancel != nullptr && remaining > kCancelSliceMs) remaining = kCancelSliceMs;
+    const platform::Result r = platform::connect_client(name, remaining, handle_->native);
     switch (r.status) {
       case platform::Status::kOk:
         return 0;
@@ -160,11 +286,23 @@ int IpcClient::connect(const std::string& name, int timeout_ms) {
 }
 
 int IpcClient::read(std::string& out, const CancelFlag* cancel) {
-  return read_on(handle_->native, out, cancel);
+  return read_on(handle_->native, out, Limits(), cancel);
+}
+
+int IpcClient::read(std::string& out, const Limits& limits, const CancelFlag* cancel) {
+  return read_on(handle_->native, out, limits, cancel);
 }
 
 int IpcClient::write(const std::string& message, const CancelFlag* cancel) {
-  return write_on(handle_->native, message, cancel);
+  return write_on(handle_->native, message, Limits(), cancel, false);
+}
+
+int IpcClient::write(const std::string& message, const Limits& limits, const CancelFlag* cancel) {
+  return write_on(handle_->native, message, limits, cancel, false);
+}
+
+Peer IpcClient::peer() const {
+  return handle_->native == platform::kInvalid ? Peer() : platform::peer_of(handle_->native);
 }
 
 void IpcClient::close() {
@@ -250,11 +388,23 @@ bool IpcServer::disconnect() {
 }
 
 int IpcServer::read(std::string& out, const CancelFlag* cancel) {
-  return read_on(handle_->ends.client, out, cancel);
+  return read_on(handle_->ends.client, out, Limits(), cancel);
+}
+
+int IpcServer::read(std::string& out, const Limits& limits, const CancelFlag* cancel) {
+  return read_on(handle_->ends.client, out, limits, cancel);
 }
 
 int IpcServer::write(const std::string& message, const CancelFlag* cancel) {
-  return write_on(handle_->ends.client, message, cancel);
+  return write_on(handle_->ends.client, message, Limits(), cancel, true);
+}
+
+int IpcServer::write(const std::string& message, const Limits& limits, const CancelFlag* cancel) {
+  return write_on(handle_->ends.client, message, limits, cancel, true);
+}
+
+Peer IpcServer::peer() const {
+  return handle_->ends.client == platform::kInvalid ? Peer() : platform::peer_of(handle_->ends.client);
 }
 
 void IpcServer::close() {

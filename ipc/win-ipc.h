@@ -8,7 +8,14 @@
 // front when it is set, so that test runs and demos do not meet each other.
 //
 // Every operation reports failure by its return value and one error line in
-// the log (component "win_ipc"); nothing here throws.
+// the log (component "win_ipc"); nothing here throws. Log lines carry names,
+// sizes and error codes, never the text of a message.
+//
+// Every read has a size cap (64 MiB unless the caller gives another), and a
+// caller may bound a read or write in time: `idle_ms` drops a peer that moves
+// nothing for that long, `deadline_ms` one whose whole message takes longer.
+// Over a limit the exchange fails with one log line and the memory taken for
+// the message is given back.
 
 #include <atomic>
 #include <cstddef>
@@ -27,6 +34,44 @@ inline constexpr char kAgentPipe[] = "\\\\.\\pipe\\nimbrabackup-ui";
 
 // Budget of one accept round on the server end, in milliseconds.
 inline constexpr int kAcceptTimeoutMs = 3000;
+
+// The size caps in use: what the agent's own pipe accepts from a client, and
+// what the agent accepts as one answer of the service (also the default cap).
+inline constexpr std::size_t kAgentMessageCap = std::size_t{1} << 20;     // 1 MiB
+inline constexpr std::size_t kServiceAnswerCap = std::size_t{64} << 20;  // 64 MiB
+// The agent's own pipe drops a client that sends nothing for this long, and
+// one whose request is not complete after kAgentDeadlineMs.
+inline constexpr int kAgentIdleMs = 5000;
+inline constexpr int kAgentDeadlineMs = 10000;
+
+// Bounds of one read or write. Zero time limits mean none; `max_bytes` (the
+// text without the marker) applies to reads only.
+struct Limits {
+  std::size_t max_bytes = kServiceAnswerCap;
+  int idle_ms = 0;
+  int deadline_ms = 0;
+};
+
+// The limits of the agent's own pipe.
+inline Limits agent_pipe_limits() {
+  return Limits{kAgentMessageCap, kAgentIdleMs, kAgentDeadlineMs};
+}
+
+// Who is at the other end of a connection. POSIX reads it with SO_PEERCRED
+// (the process that connected, or the one that created the listening end);
+// Windows leaves it unknown and relies on the pipe's access list.
+struct Peer {
+  bool known = false;
+  unsigned long uid = 0;
+  long pid = 0;
+};
+
+// True for a peer the agent may talk to: the system (uid 0) or the user
+// running this process. An unknown peer is trusted only on Windows, where the
+// pipe's access list and identification-level impersonation do that work.
+bool trusted_peer(const Peer& peer);
+// The user running this process (uid on POSIX, 0 on Windows).
+unsigned long current_user();
 
 // Optional cancel flag of read and write: when it becomes true the loop gives
 // up with -1 (looked at least every 100 ms while waiting).
@@ -47,13 +92,20 @@ class IpcClient {
 
   // 0 on success, -1 on failure. A busy pipe is retried silently until
   // `timeout_ms` has passed; an absent one fails at once with a log line.
-  // A time-out of 0 fails at once without a line.
-  int connect(const std::string& name, int timeout_ms);
-  // One framed message: 0 on success, -1 on failure.
+  // A time-out of 0 fails at once without a line. With `cancel` the wait
+  // for a busy pipe is cut in slices of at most 100 ms and given up when the
+  // flag becomes true.
+  int connect(const std::string& name, int timeout_ms, const CancelFlag* cancel = nullptr);
+  // One framed message: 0 on success, -1 on failure. Without limits a read is
+  // capped at kServiceAnswerCap and has no time limit.
   int read(std::string& out, const CancelFlag* cancel = nullptr);
+  int read(std::string& out, const Limits& limits, const CancelFlag* cancel = nullptr);
   int write(const std::string& message, const CancelFlag* cancel = nullptr);
+  int write(const std::string& message, const Limits& limits, const CancelFlag* cancel = nullptr);
   void close();
   bool is_open() const;
+  // The process serving the pipe (known on POSIX once connected).
+  Peer peer() const;
 
  private:
   struct Handle;
@@ -76,9 +128,13 @@ class IpcServer {
   // Drops the connected client; true on success.
   bool disconnect();
   int read(std::string& out, const CancelFlag* cancel = nullptr);
+  int read(std::string& out, const Limits& limits, const CancelFlag* cancel = nullptr);
   int write(const std::string& message, const CancelFlag* cancel = nullptr);
+  int write(const std::string& message, const Limits& limits, const CancelFlag* cancel = nullptr);
   void close();
   bool is_open() const;
+  // The connected client (known on POSIX between accept and disconnect).
+  Peer peer() const;
 
   int timeout_ms() const { return timeout_ms_; }
   void set_timeout_ms(int ms) { timeout_ms_ = ms; }
@@ -88,5 +144,9 @@ class IpcServer {
   int timeout_ms_ = kAcceptTimeoutMs;
   Handle* handle_;
 };
+
+// Who holds the pipe `name` now, asked without a log line: unknown when
+// nobody listens (or on Windows).
+Peer pipe_holder(const std::string& name);
 
 }  // namespace WinIpc

@@ -39,8 +39,24 @@ std::string narrow(const std::wstring& w) {
 }
 
 FILE* open_append(const std::wstring& path) {
-  // "e": O_CLOEXEC, the POSIX form of a non-inheritable handle.
-  return std::fopen(narrow(path).c_str(), "ae");
+  // Readable by the user only, never through a symbolic link, and never a
+  // FIFO or device someone put in its place (O_NONBLOCK keeps a FIFO from
+  // blocking the open). O_CLOEXEC: the POSIX form of a non-inheritable handle.
+  const int fd = ::open(narrow(path).c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK,
+                        S_IRUSR | S_IWUSR);
+  if (fd < 0) return nullptr;
+  struct stat st {};
+  if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode)) {
+    ::close(fd);
+    return nullptr;
+  }
+  // A file left by an older version may be readable by others: tighten it.
+  if ((st.st_mode & (S_IRWXG | S_IRWXO)) != 0 && st.st_uid == ::geteuid()) (void)::fchmod(fd, S_IRUSR | S_IWUSR);
+  const int flags = ::fcntl(fd, F_GETFL);
+  if (flags >= 0) (void)::fcntl(fd, F_SETFL, flags & ~O_NONBLOCK);
+  FILE* f = ::fdopen(fd, "a");
+  if (!f) ::close(fd);
+  return f;
 }
 
 std::uint64_t file_size(const std::wstring& path, FILE* stream) {

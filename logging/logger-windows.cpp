@@ -33,6 +33,9 @@ std::string narrow(const std::wstring& w) {
 }
 
 FILE* open_append(const std::wstring& path) {
+  // Never through a symbolic link or junction put in the file's place.
+  const DWORD attributes = ::GetFileAttributesW(path.c_str());
+  if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) return nullptr;
   FILE* f = ::_wfopen(path.c_str(), L"a,ccs=UTF-8");
   if (!f) return nullptr;
   auto handle = reinterpret_cast<HANDLE>(::_get_osfhandle(::_fileno(f)));

@@ -121,19 +121,22 @@ void read_settings(const std::wstring& settings_path, std::map<std::string, int>
   }
 }
 
-// vsnprintf into a buffer that grows as needed.
+// The formatted line, cut to kMaxLineBytes: a longer one keeps its first
+// bytes (up to a character boundary), ends with "... [N bytes cut]" and keeps
+// its final line feed. The whole line is never built, however long it is.
 std::string format_message(const char* format, va_list args) {
-  char stack_buf[512];
-  va_list copy;
-  va_copy(copy, args);
-  const int n = std::vsnprintf(stack_buf, sizeof stack_buf, format, copy);
-  va_end(copy);
+  char buf[kMaxLineBytes + 2];  // the line, its line feed and the NUL
+  const int n = std::vsnprintf(buf, sizeof buf, format, args);
   if (n < 0) return std::string();
-  if (static_cast<std::size_t>(n) < sizeof stack_buf)
-    return std::string(stack_buf, static_cast<std::size_t>(n));
-  std::string out(static_cast<std::size_t>(n) + 1, '\0');
-  std::vsnprintf(out.data(), out.size(), format, args);
-  out.resize(static_cast<std::size_t>(n));
+  const bool line_feed = format[0] != '\0' && format[std::strlen(format) - 1] == '\n';
+  const std::size_t full = static_cast<std::size_t>(n);
+  const std::size_t text = full - (line_feed && full > 0 ? 1 : 0);
+  if (text <= kMaxLineBytes) return std::string(buf, full);
+  std::size_t keep = kMaxLineBytes;
+  while (keep > 0 && (static_cast<unsigned char>(buf[keep]) & 0xC0) == 0x80) --keep;
+  std::string out(buf, keep);
+  out += "... [" + std::to_string(text - keep) + " bytes cut]";
+  if (line_feed) out.push_back('\n');
   return out;
 }
 

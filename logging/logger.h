@@ -10,6 +10,7 @@
 //
 // writes "<stamp>[ERROR][win-ipc.cpp:318](pid,tid){trace} read pipe failed, 109".
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -37,6 +38,10 @@ inline constexpr const char* kClientManager = "client_manager_debug";
 
 // The logger every macro writes to.
 inline constexpr const char* kDefaultLogger = "DEFAULT";
+
+// Longest line written, in bytes (time stamp not counted); a longer one is
+// cut and ends with "... [N bytes cut]".
+constexpr std::size_t kMaxLineBytes = 4096;
 
 // Threshold of a component that "agent.debug" does not name.
 constexpr int kDefaultThreshold = kWarning;

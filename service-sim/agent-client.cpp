@@ -26,7 +26,8 @@ Exchange exchange(const std::string& pipe_name, const std::string& message, int 
     result.error = "cannot write the request to " + pipe_name;
     return result;
   }
-  if (client.read(result.answer) != 0) {
+  // An answer is capped and must come within the budget plus a grace of 30 s.
+  if (client.read(result.answer, WinIpc::Limits{WinIpc::kServiceAnswerCap, 0, timeout_ms + 30000}) != 0) {
     result.error = "no answer from " + pipe_name + " (the peer closed the connection)";
     result.answer.clear();
     return result;

@@ -120,7 +120,9 @@ void PipeService::serve_client() {
     return;
   }
   std::string text;
-  if (impl_->server.read(text, &stop_) != 0) {
+  // As the agent's own pipe: capped, and a client that sends nothing for 5 s
+  // or takes longer than 10 s for its request is dropped.
+  if (impl_->server.read(text, WinIpc::agent_pipe_limits(), &stop_) != 0) {
     if (!stop_.load()) SIM_WARN("a client connected but sent no complete request");
     return;
   }
@@ -149,7 +151,7 @@ void PipeService::serve_client() {
   if (delay > 0 && !wait_interruptibly(delay)) return;
   // Counted before the write, so a client that has its answer sees the count.
   ++answered_;
-  if (impl_->server.write(answer, &stop_) != 0) {
+  if (impl_->server.write(answer, WinIpc::Limits{0, WinIpc::kAgentIdleMs, WinIpc::kAgentDeadlineMs}, &stop_) != 0) {
     --answered_;
     if (!stop_.load())
       SIM_WARN("could not write the answer to request %llu", static_cast<unsigned long long>(n));

@@ -3,6 +3,7 @@
 #include <QHostAddress>
 #include <QTcpServer>
 #include <QTcpSocket>
+#include <QTimer>
 #include <QUrlQuery>
 
 #include "device-model.h"
@@ -68,6 +69,14 @@ QByteArray SigninServer::page_html(const QString& email) {
 void SigninServer::onNewConnection() {
   while (QTcpSocket* socket = server_->nextPendingConnection()) {
     pending_.insert(socket, QByteArray());
+    // A connection that never completes its request is not kept for ever.
+    QTimer::singleShot(idle_timeout_ms_, socket, [this, socket] {
+      if (!pending_.contains(socket)) return;
+      SIM_WARN("sign-in page: connection without a complete request for %d ms dropped", idle_timeout_ms_);
+      pending_.remove(socket);
+      socket->abort();
+      socket->deleteLater();
+    });
     connect(socket, &QTcpSocket::readyRead, this, [this, socket] { onReadyRead(socket); });
     connect(socket, &QTcpSocket::disconnected, this, [this, socket] {
       pending_.remove(socket);

@@ -32,6 +32,13 @@ class SigninServer : public QObject {
 
   static QByteArray page_html(const QString& email);
 
+  // A connection whose request is not complete this long after it opened
+  // is dropped (10 s unless changed; tests shorten it).
+  static constexpr int kIdleTimeoutMs = 10000;
+  void setIdleTimeoutMs(int ms) { idle_timeout_ms_ = ms; }
+  // Connections not yet answered.
+  int pendingConnections() const { return pending_.size(); }
+
  signals:
   void tokenIssued(const QString& token);
 
@@ -46,6 +53,7 @@ class SigninServer : public QObject {
   QString email_;
   QTcpServer* server_;
   QHash<QTcpSocket*, QByteArray> pending_;
+  int idle_timeout_ms_ = kIdleTimeoutMs;
 };
 
 }  // namespace sim

@@ -3,6 +3,10 @@
 #include <json/reader.h>
 #include <json/writer.h>
 
+#include <QCoreApplication>
+#include <QThread>
+
+#include <algorithm>
 #include <fstream>
 #include <memory>
 #include <sstream>
@@ -18,7 +22,15 @@ namespace {
 // Budget for reaching the service's pipe while it is busy with another client.
 constexpr int kConnectBudgetMs = 3000;
 
-const char* const kMaskedKeys[] = {"password", "otp", "proxy_password"};
+// How long the agent's pipe waits for a taken name to come free: starting
+// at one second and doubling up to half a minute.
+constexpr int kRetakeFirstMs = 1000;
+constexpr int kRetakeLongestMs = 30000;
+
+// The reply of the agent's pipe goes to a client that must take it in time.
+WinIpc::Limits replyLimits() {
+  return WinIpc::Limits{0, WinIpc::kAgentIdleMs, WinIpc::kAgentDeadlineMs};
+}
 
 }  // namespace
 
@@ -32,22 +44,18 @@ ServiceCommunicator::ServiceCommunicator(QObject* parent) : QObject(parent) {
   connect(this, SIGNAL(sigQueryServiceDone(const QObject*, Json::Value)), bus,
           SIGNAL(sigQueryServiceDone(const QObject*, Json::Value)));
   connect(this, SIGNAL(sigQueryServiceFailed()), bus, SIGNAL(sigQueryServiceFailed()));
+  // Runs on the thread that quits (the main thread), while this object's
+  // thread may be inside an exchange.
+  if (QCoreApplication* app = QCoreApplication::instance())
+    connect(app, &QCoreApplication::aboutToQuit, this, [this] { cancelRequests(); }, Qt::DirectConnection);
 }
 
 std::string ServiceCommunicator::maskedForLog(const Json::Value& request) {
-  Json::Value copy = request;
-  if (copy.isObject() && copy.isMember("content") && copy["content"].isObject()) {
-    Json::Value& content = copy["content"];
-    for (const char* key : kMaskedKeys) {
-      if (!content.isMember(key)) continue;
-      const Json::Value& v = content[key];
-      // An empty (or null) value stays visible: it tells the reader of the log
-      // that nothing was entered. Anything else, of whatever type, is hidden.
-      if (v.isNull() || (v.isString() && jsonx::to_string(v).empty())) continue;
-      content[key] = "***";
-    }
-  }
-  return copy.toStyledString();
+  return jsonx::masked(request).toStyledString();
+}
+
+void ServiceCommunicator::cancelRequests() {
+  quit_ = true;
 }
 
 std::string ServiceCommunicator::updateStatusFromFile() {
@@ -82,7 +90,11 @@ void ServiceCommunicator::slotQueryService(const QObject* sender, Json::Value re
   } else {
     result = query(request, response);
     if (result != 0) {
-      LOG_ERROR(vlog::kDefaultComponent, "Failed to query service '%s'", maskedForLog(request).c_str());
+      if (quit_.load()) {
+        LOG_INFO(vlog::kDefaultComponent, "request '%s' not sent: the agent is quitting", action.c_str());
+      } else {
+        LOG_ERROR(vlog::kDefaultComponent, "Failed to query service '%s'", maskedForLog(request).c_str());
+      }
       response = Json::Value();
     }
   }
@@ -103,19 +115,30 @@ void ServiceCommunicator::slotQueryService(const QObject* sender, Json::Value re
 }
 
 int ServiceCommunicator::query(const Json::Value& request, Json::Value& response) {
+  if (quit_.load()) return -1;
   WinIpc::IpcClient client;
-  if (client.connect(WinIpc::kServicePipe, kConnectBudgetMs) != 0) {
-    LOG_ERROR(vlog::kDefaultComponent, "Failed to connect to service");
+  if (client.connect(WinIpc::kServicePipe, kConnectBudgetMs, &quit_) != 0) {
+    if (!quit_.load()) LOG_ERROR(vlog::kDefaultComponent, "Failed to connect to service");
     return -1;
   }
-  if (client.write(request.toStyledString()) != 0) {
-    LOG_ERROR(vlog::kDefaultComponent, "Failed to send request to service '%s'",
-              maskedForLog(request).c_str());
+  // Whoever serves the name while the service is down must not get the
+  // request (it may carry a token) nor be able to answer it.
+  const WinIpc::Peer peer = client.peer();
+  if (!WinIpc::trusted_peer(peer)) {
+    LOG_ERROR(vlog::kDefaultComponent, "service pipe is served by uid %lu (pid %ld), not by the service: nothing sent",
+              peer.uid, peer.pid);
+    return -1;
+  }
+  if (client.write(request.toStyledString(), &quit_) != 0) {
+    if (!quit_.load())
+      LOG_ERROR(vlog::kDefaultComponent, "Failed to send request to service '%s'", maskedForLog(request).c_str());
     return -1;
   }
   std::string text;
-  if (client.read(text) != 0) {
-    LOG_ERROR(vlog::kDefaultComponent, "Failed to recv response from service");
+  // No overall time limit (a long answer may take the service a while), but
+  // a size cap, and quitting ends the wait.
+  if (client.read(text, WinIpc::Limits{WinIpc::kServiceAnswerCap, 0, 0}, &quit_) != 0) {
+    if (!quit_.load()) LOG_ERROR(vlog::kDefaultComponent, "Failed to recv response from service");
     return -1;
   }
   std::string error;
@@ -170,6 +193,7 @@ ServiceIpcServer::ServiceIpcServer(QObject* parent) : QThread(parent) {}
 ServiceIpcServer::~ServiceIpcServer() {
   if (isRunning()) {
     stop();
+    // Bounded: every wait of the thread looks at the stop flag.
     wait();
   }
   server_.close();
@@ -182,8 +206,24 @@ void ServiceIpcServer::init() {
   connect(this, SIGNAL(sigHandleNotifications(const Json::Value&)), bus,
           SIGNAL(sigHandleNotifications(const Json::Value&)), Qt::UniqueConnection);
   stop_ = false;
-  if (server_.create(WinIpc::kAgentPipe) != 0) {
+  retakeDelayMs_ = 0;
+  if (server_.create(WinIpc::kAgentPipe) == 0) {
+    serving_ = true;
+    return;
+  }
+  serving_ = false;
+  const WinIpc::Peer holder = WinIpc::pipe_holder(WinIpc::kAgentPipe);
+  if (holder.known && holder.uid == WinIpc::current_user()) {
+    // Another agent of this user serves it.
     throw std::runtime_error("can't open port or socket, ipc broken");
+  }
+  // Anyone can take a name first: the agent starts all the same and takes
+  // the pipe over once it is free.
+  if (holder.known) {
+    LOG_ERROR(vlog::kDefaultComponent, "agent pipe held by uid %lu (pid %ld); notifications wait until it is free",
+              holder.uid, holder.pid);
+  } else {
+    LOG_ERROR(vlog::kDefaultComponent, "agent pipe held by an unknown process; notifications wait until it is free");
   }
 }
 
@@ -191,19 +231,48 @@ void ServiceIpcServer::stop() {
   stop_ = true;
 }
 
+void ServiceIpcServer::retakePipe() {
+  retakeDelayMs_ = retakeDelayMs_ == 0 ? kRetakeFirstMs : std::min(retakeDelayMs_ * 2, kRetakeLongestMs);
+  for (int waited = 0; waited < retakeDelayMs_ && !stop_; waited += 100) QThread::msleep(100);
+  if (stop_) return;
+  // Asked quietly first, so that a name still taken costs no log line.
+  const WinIpc::Peer holder = WinIpc::pipe_holder(WinIpc::kAgentPipe);
+  if (holder.known) return;
+  if (server_.create(WinIpc::kAgentPipe) == 0) {
+    serving_ = true;
+    retakeDelayMs_ = 0;
+    LOG_NOTICE(vlog::kDefaultComponent, "agent pipe taken over, notifications are served again");
+  }
+}
+
 void ServiceIpcServer::run() {
   LOG_INFO(vlog::kDefaultComponent, "ipc server thread start");
   while (!stop_) {
+    if (!serving_) {
+      retakePipe();
+      continue;
+    }
     if (server_.accept()) handleConnection();
   }
   server_.close();
+  serving_ = false;
   LOG_INFO(vlog::kDefaultComponent, "ipc server thread stop");
 }
 
 void ServiceIpcServer::handleConnection() {
+  const WinIpc::Peer peer = server_.peer();
+  if (!WinIpc::trusted_peer(peer)) {
+    // Not the service and not this user: nothing is read and nothing answered.
+    LOG_ERROR(vlog::kDefaultComponent, "refused a client of uid %lu (pid %ld) on the agent pipe", peer.uid,
+              peer.pid);
+    server_.disconnect();
+    return;
+  }
   std::string text;
-  if (server_.read(text) != 0) {
-    LOG_ERROR(vlog::kDefaultComponent, "failed to recv request");
+  // Capped and bounded in time: a client that sends nothing, streams without
+  // end or never finishes is dropped, and stop() is seen while waiting.
+  if (server_.read(text, WinIpc::agent_pipe_limits(), &stop_) != 0) {
+    if (!stop_) LOG_ERROR(vlog::kDefaultComponent, "failed to recv request");
   } else {
     Json::Value request;
     std::string errors;
@@ -213,10 +282,12 @@ void ServiceIpcServer::handleConnection() {
     } catch (const std::exception&) {  // pathological nesting
       request = Json::Value();
     }
+    std::string().swap(text);
     Json::Value reply(Json::objectValue);
     reply["success"] = dispatch(request);
     const std::string out = writeCompact(reply);
-    if (server_.write(out) != 0) LOG_ERROR(vlog::kDefaultComponent, "failed to send resp: %s", out.c_str());
+    if (server_.write(out, replyLimits(), &stop_) != 0 && !stop_)
+      LOG_ERROR(vlog::kDefaultComponent, "failed to send resp: %s", out.c_str());
   }
   server_.disconnect();
 }
@@ -227,9 +298,9 @@ bool ServiceIpcServer::dispatch(const Json::Value& request) {
       emit sigHandleNotifications(request);
       return true;
     }
-    LOG_ERROR(vlog::kDefaultComponent, "not support action: %s", writeCompact(request).c_str());
+    LOG_ERROR(vlog::kDefaultComponent, "not support action: %s", writeCompact(jsonx::masked(request)).c_str());
     return false;
   }
-  LOG_ERROR(vlog::kDefaultComponent, "format invalid: %s", writeCompact(request).c_str());
+  LOG_ERROR(vlog::kDefaultComponent, "format invalid: %s", writeCompact(jsonx::masked(request)).c_str());
   return false;
 }

@@ -10,6 +10,10 @@
 //
 // ServiceIpcServer is the agent's own pipe, on which the service pushes
 // notifications; they go out on the bus as sigHandleNotifications.
+//
+// Both ends check who is on the other side: requests go only to a service
+// end run by the system (uid 0) or by the agent's own user, and the agent's
+// pipe serves only such clients. Everything else gets one log line.
 
 #include <json/value.h>
 
@@ -28,10 +32,16 @@ class ServiceCommunicator : public QObject {
  public:
   explicit ServiceCommunicator(QObject* parent = nullptr);
 
-  // The request as it may appear in a log line: `content.password`,
-  // `content.otp` and `content.proxy_password` masked as "***" unless empty,
-  // written styled.
+  // The request as it may appear in a log line, written styled: every
+  // secret member at any depth (`token`, `access_token`, names with
+  // password, otp or secret in them) masked as "***" unless empty.
   static std::string maskedForLog(const Json::Value& request);
+
+  // Makes the exchange in progress (and every later one) give up within
+  // about 100 ms, so that quitting never waits on a hung service. Called
+  // from any thread; done by itself when the application is about to quit.
+  void cancelRequests();
+  bool isCancelled() const { return quit_.load(); }
 
   // The first line of <working space>/service-status when it is "updating" or
   // "update_error"; empty otherwise (also when the file is missing).
@@ -47,6 +57,8 @@ class ServiceCommunicator : public QObject {
  private:
   // One exchange with the service: 0 with `response` filled, or -1.
   int query(const Json::Value& request, Json::Value& response);
+
+  WinIpc::CancelFlag quit_{false};
 };
 
 class ServiceIpcServer : public QThread {
@@ -58,10 +70,13 @@ class ServiceIpcServer : public QThread {
 
   // Connects the signals to the bus, clears the stop flag and creates the
   // agent's pipe. Throws std::runtime_error("can't open port or socket, ipc
-  // broken") when the pipe cannot be created (another agent holds it).
+  // broken") when another process of this user (another agent) holds it.
+  // When someone else holds the name, the thread keeps trying to take it
+  // over and serves once it is free (isServing() tells).
   void init();
-  // Asks the thread to end; it looks at the flag between accept rounds
-  // (at least every 3 seconds). An exchange in progress is finished first.
+  bool isServing() const { return serving_.load(); }
+  // Asks the thread to end: noticed within one accept round (3 s) between
+  // clients and within 100 ms during an exchange, whatever the client does.
   void stop();
   bool isStopping() const { return stop_.load(); }
   // Length of one accept round, 3000 ms unless changed before start(); it
@@ -78,7 +93,12 @@ class ServiceIpcServer : public QThread {
  private:
   void handleConnection();
   bool dispatch(const Json::Value& request);
+  // Tries to take the pipe name over after init() found it held by another
+  // user; waits (watching the stop flag) between attempts.
+  void retakePipe();
 
   WinIpc::IpcServer server_;
+  std::atomic<bool> serving_{false};
+  int retakeDelayMs_ = 0;
   std::atomic<bool> stop_{true};
 };

@@ -241,8 +241,9 @@ QString fill_placeholders(const QString& tmpl, const QJsonObject& values, std::v
   return out;
 }
 
-// Wraps the spans in bold, keeping only the part of each span that lies
-// before `visible` (everything after it is copied unchanged).
+// Wraps the spans in bold, HTML-escaped, keeping only the part of each span
+// that lies before `visible` (everything after it is copied unchanged; the
+// template's own text is markup and stays as it is).
 QString wrap_bold(const QString& text, const std::vector<Span>& spans, int visible, bool whole) {
   QString out;
   out.reserve(text.size() + 7 * static_cast<int>(spans.size()));
@@ -253,7 +254,8 @@ QString wrap_bold(const QString& text, const std::vector<Span>& spans, int visib
     const int end = std::min(s.start + s.length, visible);
     out.append(text.midRef(pos, s.start - pos));
     out.append(QLatin1String("<b>"));
-    out.append(text.midRef(s.start, end - s.start));
+    // A value is text, never markup: it comes from the service.
+    out.append(text.mid(s.start, end - s.start).toHtmlEscaped());
     out.append(QLatin1String("</b>"));
     pos = end;
   }

@@ -56,10 +56,10 @@ bool load_translation(QTranslator& translator, const QString& language);
 
 // --- placeholders and sizes ---------------------------------------------
 
-// Fills every {name} of `tmpl` from `values` and puts each inserted value in
-// bold: "<b>" + value + "</b>". Values: strings as they are, bools as 1 or 0,
-// numbers in general format with 6 significant digits, anything else (absent,
-// null, array, object) empty. Scanning stops at the first "}" that does not
+// Fills every {name} of `tmpl` from `values` and puts each inserted value,
+// HTML-escaped, in bold: "<b>" + escaped value + "</b>". Values: strings as
+// they are, bools as 1 or 0, numbers in general format with 6 significant
+// digits, anything else (absent, null, array, object) empty. Scanning stops at the first "}" that does not
 // follow its "{". Inserted values are never scanned again.
 QString expand_placeholders(const QString& tmpl, const QJsonObject& values);
 
@@ -84,8 +84,9 @@ enum class EventKind {
 };
 
 // The message of one activity-log entry. Plain (rich false): the sentence
-// with its values, for tool tips; `limit` is ignored. Rich: the values in
-// bold and the sentence elided at the right to DPI * (limit - 20) pixels of
+// with its values, for tool tips; `limit` is ignored. Rich: the values
+// HTML-escaped (they are text, whatever markup they hold) in bold and the
+// sentence elided at the right to DPI * (limit - 20) pixels of
 // the application font (plus an allowance for the template's markup); a
 // value cut by the ellipsis stays bold as far as it is shown. The i-th value
 // a type lists lands on the i-th placeholder of its text, in one pass: a

@@ -1,6 +1,7 @@
 // Linux: an abstract Unix socket held for the life of the process; its
 // holder's uid tells the users apart.
 #include <cerrno>
+#include <chrono>
 #include <cstddef>
 #include <cstdlib>
 #include <cstring>
@@ -64,74 +65,85 @@ MachineLock::Result MachineLock::acquire() {
   sockaddr_un addr;
   const socklen_t len = make_address(name, &addr);
 
-  int fd = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-  if (fd < 0) {
-    LOG_ERROR(vlog::kDefaultComponent, "machine lock: socket failed, errno %d", errno);
-    return Failed;
-  }
-  if (::bind(fd, reinterpret_cast<sockaddr*>(&addr), len) == 0 && ::listen(fd, 8) == 0) {
-    impl_->fd = fd;
-    // Accept and drop whoever asks who holds the lock, so the backlog never
-    // fills up and a later asker is never kept waiting.
-    if (::pipe2(impl_->wake, O_CLOEXEC) == 0) {
-      const int wakeRead = impl_->wake[0];
-      impl_->drainer = std::thread([fd, wakeRead]() {
-        for (;;) {
-          pollfd fds[2] = {{fd, POLLIN, 0}, {wakeRead, POLLIN, 0}};
-          if (::poll(fds, 2, -1) < 0) {
-            if (errno == EINTR) continue;
-            return;
-          }
-          if (fds[1].revents) return;
-          if (fds[0].revents & POLLIN) {
-            const int peer = ::accept4(fd, nullptr, nullptr, SOCK_CLOEXEC);
-            if (peer >= 0) ::close(peer);
-          }
-        }
-      });
+  // Anyone can take the name. A holder that listens says who it is; one that
+  // bound without listening (connect refused) or never accepts (backlog full)
+  // cannot, and after a few tries counts as another user's holder.
+  for (int attempt = 0; attempt < kAttempts; ++attempt) {
+    if (attempt > 0) std::this_thread::sleep_for(std::chrono::milliseconds(kRetryPauseMs));
+    int fd = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    if (fd < 0) {
+      LOG_ERROR(vlog::kDefaultComponent, "machine lock: socket failed, errno %d", errno);
+      return Failed;
     }
-    LOG_INFO(vlog::kDefaultComponent, "machine lock [%s] acquired", name.c_str());
-    return Acquired;
-  }
-  const int bindErr = errno;
-  ::close(fd);
-  if (bindErr != EADDRINUSE) {
-    LOG_ERROR(vlog::kDefaultComponent, "machine lock [%s]: bind failed, errno %d", name.c_str(), bindErr);
-    return Failed;
-  }
-
-  // Taken: ask the holder who it is.
-  fd = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-  if (fd < 0) return Failed;
-  if (::connect(fd, reinterpret_cast<sockaddr*>(&addr), len) != 0) {
-    const int err = errno;
+    if (::bind(fd, reinterpret_cast<sockaddr*>(&addr), len) == 0 && ::listen(fd, 8) == 0) {
+      hold(fd);
+      LOG_INFO(vlog::kDefaultComponent, "machine lock [%s] acquired", name.c_str());
+      return Acquired;
+    }
+    const int bindErr = errno;
     ::close(fd);
-    // The holder went away between our bind and connect: try once more.
-    if (err == ECONNREFUSED) {
-      LOG_INFO(vlog::kDefaultComponent, "machine lock [%s] was released meanwhile, retrying", name.c_str());
-      return acquire();
+    if (bindErr != EADDRINUSE) {
+      LOG_ERROR(vlog::kDefaultComponent, "machine lock [%s]: bind failed, errno %d", name.c_str(), bindErr);
+      return Failed;
     }
-    LOG_ERROR(vlog::kDefaultComponent, "machine lock [%s]: connect failed, errno %d", name.c_str(), err);
-    return Failed;
+
+    // Taken: ask the holder who it is, without ever blocking.
+    fd = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+    if (fd < 0) return Failed;
+    if (::connect(fd, reinterpret_cast<sockaddr*>(&addr), len) != 0) {
+      const int err = errno;
+      ::close(fd);
+      // Refused: released meanwhile, or bound without listening. Would
+      // block: its backlog is full. Both are tried again.
+      if (err == ECONNREFUSED || err == EAGAIN || err == EWOULDBLOCK || err == EINPROGRESS) continue;
+      LOG_ERROR(vlog::kDefaultComponent, "machine lock [%s]: connect failed, errno %d", name.c_str(), err);
+      return Failed;
+    }
+    ucred cred;
+    socklen_t credLen = sizeof(cred);
+    const int rc = ::getsockopt(fd, SOL_SOCKET, SO_PEERCRED, &cred, &credLen);
+    ::close(fd);
+    if (rc != 0) {
+      LOG_ERROR(vlog::kDefaultComponent, "machine lock [%s]: SO_PEERCRED failed, errno %d", name.c_str(),
+                errno);
+      return Failed;
+    }
+    const unsigned long mine = own_();
+    if (static_cast<unsigned long>(cred.uid) == mine) {
+      LOG_INFO(vlog::kDefaultComponent, "machine lock [%s] held by this user (pid %d)", name.c_str(),
+               static_cast<int>(cred.pid));
+      return HeldBySameUser;
+    }
+    LOG_WARN(vlog::kDefaultComponent, "machine lock [%s] held by another user (uid %lu, pid %d)", name.c_str(),
+             static_cast<unsigned long>(cred.uid), static_cast<int>(cred.pid));
+    return HeldByOtherUser;
   }
-  ucred cred;
-  socklen_t credLen = sizeof(cred);
-  const int rc = ::getsockopt(fd, SOL_SOCKET, SO_PEERCRED, &cred, &credLen);
-  ::close(fd);
-  if (rc != 0) {
-    LOG_ERROR(vlog::kDefaultComponent, "machine lock [%s]: SO_PEERCRED failed, errno %d", name.c_str(),
-              errno);
-    return Failed;
-  }
-  const unsigned long mine = own_();
-  if (static_cast<unsigned long>(cred.uid) == mine) {
-    LOG_INFO(vlog::kDefaultComponent, "machine lock [%s] held by this user (pid %d)", name.c_str(),
-             static_cast<int>(cred.pid));
-    return HeldBySameUser;
-  }
-  LOG_WARN(vlog::kDefaultComponent, "machine lock [%s] held by another user (uid %lu, pid %d)", name.c_str(),
-           static_cast<unsigned long>(cred.uid), static_cast<int>(cred.pid));
+  LOG_WARN(vlog::kDefaultComponent, "machine lock [%s] taken by a process that does not answer; counted as "
+           "another user's", name.c_str());
   return HeldByOtherUser;
+}
+
+void MachineLock::hold(int fd) {
+  impl_->fd = fd;
+  // Accept and drop whoever asks who holds the lock, so the backlog never
+  // fills up and a later asker is never kept waiting.
+  if (::pipe2(impl_->wake, O_CLOEXEC) == 0) {
+    const int wakeRead = impl_->wake[0];
+    impl_->drainer = std::thread([fd, wakeRead]() {
+      for (;;) {
+        pollfd fds[2] = {{fd, POLLIN, 0}, {wakeRead, POLLIN, 0}};
+        if (::poll(fds, 2, -1) < 0) {
+          if (errno == EINTR) continue;
+          return;
+        }
+        if (fds[1].revents) return;
+        if (fds[0].revents & POLLIN) {
+          const int peer = ::accept4(fd, nullptr, nullptr, SOCK_CLOEXEC);
+          if (peer >= 0) ::close(peer);
+        }
+      }
+    });
+  }
 }
 
 void MachineLock::release() {

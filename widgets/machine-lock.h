@@ -7,7 +7,10 @@
 // $NIMBRA_PIPE_NAMESPACE put before it) that the holder binds and listens on;
 // it vanishes with the holding process. A process that finds the name taken
 // connects and reads the holder's uid with SO_PEERCRED: the same uid is
-// "held by me", another uid is "another user".
+// "held by me", another uid is "another user". The connect never blocks; a
+// holder that cannot be asked (bound without listening, backlog full) is
+// tried kAttempts times, kRetryPauseMs apart, and then counts as another
+// user's.
 
 #include <functional>
 #include <memory>
@@ -23,6 +26,8 @@ class MachineLock {
   };
 
   static constexpr const char* kName = "corvana-vantor-backup-agent";
+  static constexpr int kAttempts = 5;
+  static constexpr int kRetryPauseMs = 100;
 
   // `name` defaults to kName. `ownUser` returns the identity compared with
   // the holder's (the uid on Linux); tests inject it to simulate another user.
@@ -46,6 +51,7 @@ class MachineLock {
 
  private:
   struct Impl;
+  void hold(int fd);
   std::string name_;
   std::function<unsigned long()> own_;
   std::unique_ptr<Impl> impl_;

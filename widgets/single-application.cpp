@@ -6,6 +6,7 @@
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QLockFile>
+#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QThread>
 #include <QtEndian>
@@ -14,10 +15,34 @@
 #include "machine-lock.h"
 #include "user-identity.h"
 
+namespace {
+
+// The message as a log line may show it: the value of any secret-looking
+// query item (token=, access_token=, ...password=...) hidden.
+QString maskedMessage(const QString& message) {
+  static const QRegularExpression secret(
+      QStringLiteral("((?:^|[?&;\\s])[^?&;=\\s]*(?:token|password|otp|secret)[^?&;=\\s]*=)[^&;\\s]*"),
+      QRegularExpression::CaseInsensitiveOption);
+  QString out = message;
+  out.replace(secret, QStringLiteral("\\1***"));
+  return out;
+}
+
+}  // namespace
+
+QString SingleInstance::maskedForLog(const QString& message) {
+  return maskedMessage(message);
+}
+
 SingleInstance::SingleInstance(const QString& appId, QObject* parent) : QObject(parent) {
   const QString base = qEnvironmentVariable("NIMBRA_PIPE_NAMESPACE") + appId + QLatin1Char('-') +
                        user_identity::currentUserTag();
-  lockPath_ = QDir(user_identity::runtimeFolder()).filePath(base + QStringLiteral(".lock"));
+  const QString folder = user_identity::runtimeFolder();
+  if (folder.isEmpty()) {
+    LOG_ERROR(vlog::kDefaultComponent, "single instance: no private folder; this process runs on its own");
+    return;
+  }
+  lockPath_ = QDir(folder).filePath(base + QStringLiteral(".lock"));
   serverName_ = user_identity::localServerName(base);
   lock_.reset(new QLockFile(lockPath_));
   lock_->setStaleLockTime(0);  // only a dead holder makes the lock stale
@@ -28,7 +53,7 @@ SingleInstance::~SingleInstance() {
 }
 
 bool SingleInstance::isRunning() {
-  if (server_) return false;
+  if (server_ || !lock_) return false;
   if (!lock_->tryLock(0)) {
     if (lock_->error() == QLockFile::PermissionError)
       LOG_ERROR(vlog::kDefaultComponent, "single instance: cannot write lock file [%s]",
@@ -42,7 +67,12 @@ bool SingleInstance::isRunning() {
   if (!server_->listen(serverName_)) {
     LOG_ERROR(vlog::kDefaultComponent, "single instance: cannot listen on [%s]: %s",
               qUtf8Printable(serverName_), qUtf8Printable(server_->errorString()));
-    // Still the primary instance (we hold the lock); messages cannot arrive.
+    // A primary nobody can reach is no primary: give the lock back, so that
+    // a later launch tries again, and do not start a second agent.
+    delete server_;
+    server_ = nullptr;
+    lock_->unlock();
+    return true;
   }
   connect(server_, &QLocalServer::newConnection, this, &SingleInstance::onNewConnection);
   LOG_INFO(vlog::kDefaultComponent, "single instance: primary on [%s]", qUtf8Printable(serverName_));
@@ -59,6 +89,7 @@ void SingleInstance::release() {
 }
 
 bool SingleInstance::sendMessage(const QString& message, int timeoutMs) {
+  if (serverName_.isEmpty()) return false;
   const QByteArray payload = message.toUtf8();
   if (static_cast<quint32>(payload.size()) > kMaxMessageBytes) {
     LOG_ERROR(vlog::kDefaultComponent, "single instance: message of %d bytes is too long", payload.size());
@@ -71,7 +102,15 @@ bool SingleInstance::sendMessage(const QString& message, int timeoutMs) {
   for (;;) {
     socket.connectToServer(serverName_);
     const int left = timeoutMs - static_cast<int>(clock.elapsed());
-    if (socket.waitForConnected(qMax(1, qMin(left, 250)))) break;
+    if (socket.waitForConnected(qMax(1, qMin(left, 250)))) {
+      // The name is reachable; the message (it may carry a token) goes only
+      // to a process of this user.
+      if (user_identity::peerIsSameUser(socket.socketDescriptor())) break;
+      LOG_ERROR(vlog::kDefaultComponent, "single instance: [%s] is served by another user, message not sent",
+                qUtf8Printable(serverName_));
+      socket.abort();
+      return false;
+    }
     socket.abort();
     if (clock.elapsed() >= timeoutMs) {
       LOG_WARN(vlog::kDefaultComponent, "single instance: no answer from [%s] within %d ms, message lost",
@@ -101,6 +140,12 @@ bool SingleInstance::sendMessage(const QString& message, int timeoutMs) {
 
 void SingleInstance::onNewConnection() {
   while (QLocalSocket* socket = server_ ? server_->nextPendingConnection() : nullptr) {
+    if (!user_identity::peerIsSameUser(socket->socketDescriptor())) {
+      LOG_ERROR(vlog::kDefaultComponent, "single instance: refused a process of another user");
+      socket->abort();
+      socket->deleteLater();
+      continue;
+    }
     pending_.insert(socket, QByteArray());
     connect(socket, &QLocalSocket::readyRead, this, [this, socket]() { onReadyRead(socket); });
     connect(socket, &QLocalSocket::disconnected, this, [this, socket]() {
@@ -130,7 +175,8 @@ void SingleInstance::onReadyRead(QLocalSocket* socket) {
   socket->write(QByteArray(1, '\x06'));
   socket->flush();
   socket->disconnectFromServer();
-  LOG_INFO(vlog::kDefaultComponent, "single instance: message received [%s]", qUtf8Printable(message));
+  LOG_INFO(vlog::kDefaultComponent, "single instance: message received [%s]",
+           qUtf8Printable(maskedMessage(message)));
   emit messageReceived(message);
 }
 

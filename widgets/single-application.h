@@ -3,9 +3,14 @@
 //
 // How instances find each other: the primary instance holds a lock file
 // (QLockFile, so a crashed holder is detected by its dead pid) and listens on
-// a local server; both are named per user (uid on Linux, user name on
+// a local server; both are named per user (uid on Linux, session and SID on
 // Windows) with $NIMBRA_PIPE_NAMESPACE before the name, so that tests never
-// meet the user's own agent. isRunning() is cheap and may be asked again and
+// meet the user's own agent. On Linux both live in a folder private to the
+// user (user_identity::runtimeFolder(): mode 0700, checked with lstat), never
+// loose in /tmp, so no other user can plant a lock or take the socket's name;
+// on Windows the pipe admits only the user. A message goes only to a primary
+// of the same user, and only such a process is heard. A process that holds
+// the lock but cannot listen gives the lock back and is not the primary. isRunning() is cheap and may be asked again and
 // again: it answers false as soon as no other live process holds the lock, and
 // this process then becomes the primary instance. This is why Debian's
 // libsingleapplication is not used: it settles primary or secondary once, in
@@ -47,6 +52,10 @@ class SingleInstance : public QObject {
 
   QString serverName() const { return serverName_; }
   QString lockFilePath() const { return lockPath_; }
+
+  // The message as a log line shows it: secret query values ("token=",
+  // "access_token=", names with password, otp or secret) as "***".
+  static QString maskedForLog(const QString& message);
 
   // The largest message accepted (longer ones are refused and logged).
   static constexpr quint32 kMaxMessageBytes = 64 * 1024;

@@ -1,24 +1,65 @@
+#include <sys/socket.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
-#include <QDir>
+#include <cerrno>
 
+#include <QDir>
+#include <QFile>
+#include <QHash>
+
+#include "logger.h"
 #include "user-identity.h"
 
 namespace user_identity {
 
 QString currentUserTag() {
-  return QString::number(static_cast<qulonglong>(::getuid()));
+  return QString::number(static_cast<qulonglong>(::geteuid()));
+}
+
+bool isPrivateFolder(const QString& path, bool create) {
+  if (path.isEmpty()) return false;
+  const QByteArray native = QFile::encodeName(path);
+  if (create && ::mkdir(native.constData(), S_IRWXU) != 0 && errno != EEXIST) return false;
+  struct stat st {};
+  // lstat: a link planted in the folder's place is refused, not followed.
+  if (::lstat(native.constData(), &st) != 0) return false;
+  return S_ISDIR(st.st_mode) && st.st_uid == ::geteuid() && (st.st_mode & (S_IRWXG | S_IRWXO)) == 0;
 }
 
 QString runtimeFolder() {
-  QString dir = qEnvironmentVariable("XDG_RUNTIME_DIR");
-  if (dir.isEmpty() || !QDir(dir).exists()) dir = QDir::tempPath();
-  return dir;
+  const QString xdg = qEnvironmentVariable("XDG_RUNTIME_DIR");
+  if (isPrivateFolder(xdg, false)) return xdg;
+  const QString tag = currentUserTag();
+  const QString candidates[] = {
+      QDir(QDir::tempPath()).filePath(QStringLiteral("nimbra-backup-agent-") + tag),
+      QDir::home().filePath(QStringLiteral(".cache/nimbra-backup-agent-runtime")),
+  };
+  for (const QString& dir : candidates) {
+    if (dir.contains(QStringLiteral("/.cache/"))) QDir::home().mkpath(QStringLiteral(".cache"));
+    if (isPrivateFolder(dir, true)) return dir;
+    LOG_WARN(vlog::kDefaultComponent, "single instance: [%s] is not a private folder of this user",
+             qUtf8Printable(dir));
+  }
+  return QString();
 }
 
 QString localServerName(const QString& base) {
-  const QString full = QDir(runtimeFolder()).filePath(base + QStringLiteral(".sock"));
-  return full.toUtf8().size() < 100 ? full : base;
+  // Always inside the private folder: a long name is shortened to its hash
+  // rather than left to Qt, which would put it loose in the temporary folder.
+  const QDir folder(runtimeFolder());
+  const QString full = folder.filePath(base + QStringLiteral(".sock"));
+  if (full.toUtf8().size() < 100) return full;
+  return folder.filePath(QString::number(qHash(base), 16) + QStringLiteral(".sock"));
+}
+
+bool peerIsSameUser(qintptr descriptor) {
+  ucred cred{};
+  socklen_t length = sizeof cred;
+  if (descriptor < 0 ||
+      ::getsockopt(static_cast<int>(descriptor), SOL_SOCKET, SO_PEERCRED, &cred, &length) != 0)
+    return false;
+  return cred.uid == ::geteuid();
 }
 
 }  // namespace user_identity

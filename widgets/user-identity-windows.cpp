@@ -1,28 +1,92 @@
 #include <windows.h>
+// after windows.h
+#include <sddl.h>
 
 #include <QDir>
+
+#include <memory>
 
 #include "user-identity.h"
 
 namespace user_identity {
 
-QString currentUserTag() {
+namespace {
+
+// The user SID of a process token, copied into `out`; false when unreadable.
+bool tokenUser(HANDLE process, std::unique_ptr<BYTE[]>& out) {
+  HANDLE token = nullptr;
+  if (!::OpenProcessToken(process, TOKEN_QUERY, &token)) return false;
+  DWORD size = 0;
+  ::GetTokenInformation(token, TokenUser, nullptr, 0, &size);
+  bool ok = false;
+  if (size > 0) {
+    out.reset(new BYTE[size]);
+    ok = ::GetTokenInformation(token, TokenUser, out.get(), size, &size) != 0;
+  }
+  ::CloseHandle(token);
+  return ok;
+}
+
+PSID sidOf(const std::unique_ptr<BYTE[]>& tokenUserBuffer) {
+  return reinterpret_cast<TOKEN_USER*>(tokenUserBuffer.get())->User.Sid;
+}
+
+QString userName() {
   wchar_t name[256];
   DWORD size = 256;
   if (!::GetUserNameW(name, &size) || size == 0) return QStringLiteral("user");
   QString tag = QString::fromWCharArray(name, static_cast<int>(size) - 1);
-  // Keep it usable in a pipe and file name.
   for (QChar& c : tag)
     if (!c.isLetterOrNumber() && c != QLatin1Char('-') && c != QLatin1Char('_')) c = QLatin1Char('_');
   return tag;
 }
 
+}  // namespace
+
+QString currentUserTag() {
+  // Session and SID: another user's, or another session's, agent never
+  // shares the name.
+  DWORD session = 0;
+  ::ProcessIdToSessionId(::GetCurrentProcessId(), &session);
+  std::unique_ptr<BYTE[]> user;
+  LPWSTR text = nullptr;
+  QString sid;
+  if (tokenUser(::GetCurrentProcess(), user) && ::ConvertSidToStringSidW(sidOf(user), &text)) {
+    sid = QString::fromWCharArray(text);
+    ::LocalFree(text);
+  } else {
+    sid = userName();
+  }
+  return QString::number(static_cast<qulonglong>(session)) + QLatin1Char('-') + sid;
+}
+
+bool isPrivateFolder(const QString& path, bool) {
+  return !path.isEmpty() && QDir(path).exists();
+}
+
 QString runtimeFolder() {
+  // The user's own temporary folder, under the profile.
   return QDir::tempPath();
 }
 
 QString localServerName(const QString& base) {
   return base;
+}
+
+bool peerIsSameUser(qintptr descriptor) {
+  // The local socket is a named pipe: whoever created the name first serves
+  // it, so the server's process must run as this user.
+  const HANDLE pipe = reinterpret_cast<HANDLE>(descriptor);
+  ULONG pid = 0;
+  if (!::GetNamedPipeServerProcessId(pipe, &pid) || pid == 0) return false;
+  if (pid == ::GetCurrentProcessId()) return true;
+  const HANDLE process = ::OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, pid);
+  if (process == nullptr) return false;
+  std::unique_ptr<BYTE[]> theirs, mine;
+  const bool same = tokenUser(process, theirs) && tokenUser(::GetCurrentProcess(), mine) &&
+                    ::EqualSid(sidOf(theirs), sidOf(mine));
+  ::CloseHandle(process);
+  return same;
 }
 
 }  // namespace user_identity

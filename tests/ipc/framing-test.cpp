@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <random>
 #include <string>
 #include <vector>
@@ -41,12 +42,18 @@ class Source : public WinIpc::framing::ChunkSource {
     EXPECT_LE(s.bytes.size(), size);
     return Result{s.status, s.bytes.copy(buffer, size), s.error, 0};
   }
-  void wait() override {}
+  // Every wait passes `tick_ms` on the scripted clock, every chunk `chunk_ms`.
+  void wait() override { now_ += tick_ms; }
+  std::int64_t now_ms() override { return now_; }
   std::size_t left() const { return steps_.size() - next_; }
+  void after_chunk(std::int64_t ms) { now_ += ms; }
+
+  std::int64_t tick_ms = 100;
 
  private:
   std::vector<Step> steps_;
   std::size_t next_ = 0;
+  std::int64_t now_ = 1000;
 };
 
 struct ReadCase {
@@ -150,6 +157,145 @@ TEST(ReadFraming, AgreesWithWholeTextSearchOnRandomChunks) {
       ASSERT_EQ(out, text.substr(0, text.find(m))) << "round " << round;
     }
   }
+}
+
+// The limits of one read, on the scripted clock (each retry waits 100 ms).
+struct LimitCase {
+  std::string name;
+  std::vector<Step> steps;
+  WinIpc::Limits limits;
+  int result;
+  std::string log;  // the one expected line, "" for none
+};
+
+void PrintTo(const LimitCase& c, std::ostream* os) {
+  *os << c.name;
+}
+
+std::vector<Step> retries(int n) {
+  return std::vector<Step>(static_cast<std::size_t>(n), Step(Status::kRetry));
+}
+
+std::vector<Step> join(std::vector<Step> a, const std::vector<Step>& b) {
+  a.insert(a.end(), b.begin(), b.end());
+  return a;
+}
+
+std::vector<LimitCase> limit_cases() {
+  const WinIpc::Limits cap10{10, 0, 0};
+  const WinIpc::Limits idle{1000, 500, 0};
+  const WinIpc::Limits deadline{1000, 500, 2000};
+  std::vector<Step> trickle;
+  for (int i = 0; i < 30; ++i) trickle = join(trickle, join(retries(4), {"x"}));
+  return {
+      {"TextAtTheCap", {std::string(10, 'a') + m}, cap10, 0, ""},
+      {"TextOneOverTheCap", {std::string(11, 'a') + m}, cap10, -1, "read pipe: message over 10 bytes, dropped"},
+      {"MarkerPrefixBeyondTheCapStillCompletes", {std::string(10, 'a') + "^^2552*1814", "^^"}, cap10, 0, ""},
+      {"StreamWithoutMarkerStopsOnceOverTheCap",
+       {std::string(22, 'a'), std::string(4000, 'b')},
+       cap10,
+       -1,
+       "read pipe: message over 10 bytes, dropped"},
+      {"QuietJustUnderTheIdleLimit", join(retries(4), {"ok" + m}), idle, 0, ""},
+      {"SilentPeerDroppedAtTheIdleLimit", retries(5), idle, -1,
+       "read pipe: nothing received for 500 ms, dropped"},
+      {"DataRestartsTheIdleClock", join(join(retries(4), {"a"}), join(retries(4), {"b" + m})), idle, 0, ""},
+      {"TricklingPeerDroppedAtTheDeadline", trickle, deadline, -1,
+       "read pipe: message not complete after 2000 ms, dropped"},
+  };
+}
+
+class ReadLimits : public ::testing::TestWithParam<LimitCase> {};
+
+TEST_P(ReadLimits, HoldOrDropWithOneLine) {
+  const LimitCase& c = GetParam();
+  ipc_test::LogCapture log;
+  Source source(c.steps);
+  std::string out;
+  EXPECT_EQ(WinIpc::framing::read_message(source, out, c.limits, nullptr), c.result);
+  if (c.result != 0) {
+    EXPECT_TRUE(out.empty());
+    EXPECT_EQ(out.capacity(), std::string().capacity()) << "the memory is given back";
+  }
+  if (c.log.empty()) {
+    EXPECT_EQ(log.text(), "");
+  } else {
+    EXPECT_EQ(log.count(c.log), 1) << log.text();
+    EXPECT_EQ(log.count("[ERROR]"), 1) << log.text();
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, ReadLimits, ::testing::ValuesIn(limit_cases()),
+                         [](const ::testing::TestParamInfo<LimitCase>& i) { return i.param.name; });
+
+TEST(ReadLimits, MemoryStaysNearTheCapWhateverThePeerStreams) {
+  // Endless full chunks without a marker: the reader stops one chunk past the
+  // cap and its buffer never grew beyond what the cap can need.
+  class Endless : public WinIpc::framing::ChunkSource {
+   public:
+    Result read_some(char* buffer, std::size_t size) override {
+      std::memset(buffer, 'e', size);
+      if (out != nullptr && out->capacity() > largest) largest = out->capacity();
+      ++reads;
+      return Result{Status::kOk, size, 0, 0};
+    }
+    void wait() override {}
+    std::size_t reads = 0;
+    std::size_t largest = 0;
+    const std::string* out = nullptr;
+  } endless;
+  ipc_test::LogCapture log;
+  std::string out;
+  endless.out = &out;
+  const WinIpc::Limits limits{1 << 20, 0, 0};
+  EXPECT_EQ(WinIpc::framing::read_message(endless, out, limits, nullptr), -1);
+  EXPECT_EQ(endless.reads, (std::size_t{1} << 20) / 4095 + 1);
+  EXPECT_LE(endless.largest, (std::size_t{1} << 20) + 2 * 4096) << "capacity of the text buffer";
+}
+
+// A sink that takes nothing for its first `stalls` writes (a full pipe in
+// non-blocking mode answers "done, 0 bytes"), then everything.
+class StallingSink : public WinIpc::framing::ChunkSink {
+ public:
+  explicit StallingSink(int stalls) : stalls_(stalls) {}
+  Result write_some(const char* data, std::size_t size) override {
+    ++writes;
+    if (stalls_-- > 0) return Result{Status::kOk, 0, 0, 0};
+    got.append(data, size);
+    return Result{Status::kOk, size, 0, 0};
+  }
+  void wait() override {
+    ++waits;
+    now_ += 100;
+  }
+  void flush() override {}
+  std::size_t piece_limit() const override { return 4096; }
+  std::int64_t now_ms() override { return now_; }
+  int writes = 0;
+  int waits = 0;
+  std::string got;
+
+ private:
+  int stalls_;
+  std::int64_t now_ = 0;
+};
+
+TEST(WriteFraming, ZeroByteWritesWaitInsteadOfSpinning) {
+  ipc_test::LogCapture log;
+  StallingSink sink(3);
+  EXPECT_EQ(WinIpc::framing::write_message(sink, "hello", nullptr), 0);
+  EXPECT_EQ(sink.got, "hello" + m);
+  EXPECT_EQ(sink.waits, 3);
+  EXPECT_EQ(log.text(), "");
+}
+
+TEST(WriteFraming, PeerThatNeverTakesAnythingIsGivenUpAtTheIdleLimit) {
+  ipc_test::LogCapture log;
+  StallingSink sink(1000000);
+  EXPECT_EQ(WinIpc::framing::write_message(sink, "secret-body", WinIpc::Limits{0, 500, 0}, nullptr), -1);
+  EXPECT_EQ(sink.waits, 5);
+  EXPECT_EQ(log.count("write pipe: nothing taken for 500 ms, 0 of 24 bytes written"), 1) << log.text();
+  EXPECT_EQ(log.text().find("secret-body"), std::string::npos);
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 // The log file's descriptor must not leak into child processes.
 #include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <gtest/gtest.h>
 
@@ -7,6 +9,7 @@
 
 #include "log-test-util.h"
 #include "logger-platform.h"
+#include "logger.h"
 
 TEST(LoggerPlatform, LogFileIsNotInheritedByChildren) {
   nimbra_test::TempDir dir;
@@ -17,3 +20,44 @@ TEST(LoggerPlatform, LogFileIsNotInheritedByChildren) {
   ASSERT_NE(-1, flags);
   EXPECT_TRUE(flags & FD_CLOEXEC);
 }
+
+namespace {
+
+mode_t mode_of(const std::string& path) {
+  struct stat st {};
+  return ::lstat(path.c_str(), &st) == 0 ? (st.st_mode & 07777) : 0;
+}
+
+TEST(LoggerPlatform, LogFileIsCreatedForTheUserOnlyAndAnOldOneTightened) {
+  nimbra_test::TempDir dir;
+  const std::string path = dir.file("ui.txt");
+  const mode_t old_mask = ::umask(0);  // the mode must not depend on the umask
+  FILE* f = vlog::platform::open_append(logtest::wide(path));
+  ::umask(old_mask);
+  ASSERT_NE(nullptr, f);
+  std::fclose(f);
+  EXPECT_EQ(mode_of(path), 0600u);
+  ASSERT_EQ(::chmod(path.c_str(), 0644), 0);
+  f = vlog::platform::open_append(logtest::wide(path));
+  ASSERT_NE(nullptr, f);
+  std::fclose(f);
+  EXPECT_EQ(mode_of(path), 0600u);
+}
+
+TEST(LoggerPlatform, SymbolicLinkOrFifoInThePlaceOfTheLogIsRefused) {
+  nimbra_test::TempDir dir;
+  const std::string target = dir.file("elsewhere.txt");
+  nimbra_test::write_file(target, "precious\n");
+  const std::string link = dir.file("ui.txt");
+  ASSERT_EQ(::symlink(target.c_str(), link.c_str()), 0);
+  EXPECT_EQ(vlog::init(vlog::kRotatingFile, logtest::wide(link), L"", "", 50, 1), -1);
+  LOG_ERROR(vlog::kDefaultComponent, "must not land in the link's target");
+  vlog::shutdown();
+  EXPECT_EQ(nimbra_test::read_file(target), "precious\n");
+  // A FIFO would block a plain open for ever.
+  const std::string fifo = dir.file("fifo.txt");
+  ASSERT_EQ(::mkfifo(fifo.c_str(), 0600), 0);
+  EXPECT_EQ(vlog::platform::open_append(logtest::wide(fifo)), nullptr);
+}
+
+}  // namespace

@@ -170,3 +170,32 @@ TEST_F(LoggerTest, StandardStreamOutputs) {
 }
 
 }  // namespace
+
+namespace {
+
+// A line longer than 4 KB keeps its first 4096 bytes (never half a
+// character) and says how many were cut; its line feed stays.
+TEST_F(LoggerTest, LongLinesAreCutAt4KBWithTheCountOfBytesCut) {
+  start();
+  const std::string big(200 * 1000, 'b');
+  LOG_ERROR(vlog::kDefaultComponent, "big %s end", big.c_str());
+  // Two-byte characters straddling the cut.
+  const std::string accents(3000, 'a');
+  std::string wide_text;
+  for (int i = 0; i < 3000; ++i) wide_text += "\xC3\xA9";
+  vlog::log(vlog::kDefaultLogger, vlog::kError, vlog::kDefaultComponent, "%s\n", wide_text.c_str());
+  vlog::log(vlog::kDefaultLogger, vlog::kError, vlog::kDefaultComponent, "%s\n", std::string(4096, 'e').c_str());
+  const auto lines = split_lines(text());
+  ASSERT_EQ(lines.size(), 3u) << text().substr(0, 300);
+  std::smatch m;
+  ASSERT_TRUE(std::regex_match(lines[0], m, std::regex("(" + kStamp + ")(.*)")));
+  const std::string first = m[2].str();
+  const std::string suffix = "... [" + std::to_string(first.find("big ") + 4 + big.size() + 4 - 4096) + " bytes cut]";
+  EXPECT_THAT(first, EndsWith(suffix));
+  EXPECT_EQ(first.size(), 4096 + suffix.size());
+  ASSERT_TRUE(std::regex_match(lines[1], m, std::regex("(" + kStamp + ")(.*)")));
+  EXPECT_THAT(m[2].str(), EndsWith("\xC3\xA9... [1904 bytes cut]")) << "4096 bytes end inside no character";
+  EXPECT_THAT(lines[2], EndsWith(std::string(4096, 'e'))) << "exactly 4096 bytes are not cut";
+}
+
+}  // namespace

@@ -32,9 +32,18 @@ class RotationTest : public ::testing::Test {
   static void say(const char* text, const char* logger = vlog::kDefaultLogger) {
     vlog::log(logger, vlog::kError, vlog::kDefaultComponent, "%s", text);
   }
-  // One line long enough to rotate on its own, tagged with `id`.
+  // Enough text to rotate once, in lines of the longest length a line may
+  // have: the first tagged with `id`, the others untagged, the last one
+  // making the rotation.
   static void huge_line(int id) {
-    say(("line " + std::to_string(id) + " " + std::string(kRotateAt, 'p')).c_str());
+    say(("line " + std::to_string(id) + " " + std::string(4000, 'p')).c_str());
+    const std::string filler(vlog::kMaxLineBytes - 64, 'p');
+    for (int i = 0; i < 1000; ++i) {
+      const std::uint32_t before = vlog::written();
+      say(filler.c_str());
+      if (vlog::written() < before) return;  // rotated (or tried to)
+    }
+    ADD_FAILURE() << "no rotation";
   }
   // The id of the only line in the file, or -1.
   static int id_in(const std::string& file) {

@@ -66,6 +66,20 @@ TEST_F(SimPipeTest, GarbageAndUnknownActionsGetErrorsAndServingGoesOn) {
   EXPECT_EQ(simtest::num(parse(send().answer), "status"), sim::status::kIdle);
 }
 
+// A request over the cap and a client that never finishes are dropped;
+// the next client is served.
+TEST_F(SimPipeTest, OversizedAndSilentClientsAreDroppedAndServingGoesOn) {
+  start();
+  const sim::Exchange big = send("{\"action\":\"get_status\",\"pad\":\"" + std::string(2 << 20, 'p') + "\"}");
+  EXPECT_FALSE(big.ok);
+  WinIpc::IpcClient silent;
+  ASSERT_EQ(silent.connect(WinIpc::kServicePipe, 1000), 0);
+  // Served once the silent one is dropped (5 s without a byte).
+  const sim::Exchange next = send(R"({"action":"get_status"})", 8000);
+  ASSERT_TRUE(next.ok) << next.error;
+  EXPECT_EQ(simtest::num(parse(next.answer), "status"), sim::status::kIdle);
+}
+
 TEST_F(SimPipeTest, RecordFileHasOneTimedLinePerRequest) {
   start();
   send("{\"action\":\"get_status\",\"log_id\":7}");

@@ -82,4 +82,20 @@ TEST_F(SimSigninTest, OtherPathsMethodsAndGarbageAreRefusedAndServingGoesOn) {
   EXPECT_EQ(fetch("GET").status, 200);
 }
 
+TEST_F(SimSigninTest, UnfinishedConnectionsAreDroppedAfterTheIdleTime) {
+  server_.setIdleTimeoutMs(300);
+  QTcpSocket silent, half;
+  for (QTcpSocket* s : {&silent, &half}) {
+    s->connectToHost(QHostAddress::LocalHost, server_.port());
+    ASSERT_TRUE(s->waitForConnected(3000));
+  }
+  half.write("GET /signin HTTP/1.1\r\nHost: x\r\n");  // the blank line never comes
+  half.flush();
+  QSignalSpy silentClosed(&silent, &QTcpSocket::disconnected), halfClosed(&half, &QTcpSocket::disconnected);
+  ASSERT_TRUE(silentClosed.wait(5000));
+  ASSERT_TRUE(halfClosed.count() == 1 || halfClosed.wait(5000));
+  EXPECT_EQ(server_.pendingConnections(), 0);
+  EXPECT_EQ(fetch("GET").status, 200) << "a real browser is still served";
+}
+
 }  // namespace

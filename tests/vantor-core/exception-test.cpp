@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <cstdlib>
 #include <functional>
 #include <regex>
@@ -65,6 +66,45 @@ TEST(Raise, MessageOfAnyLengthIsKeptWhole) {
     }
     ADD_FAILURE() << n;
   }
+}
+
+// How the buffer grows after each answer of vsnprintf: a size it reports
+// is taken once (up to the limit); an error is never retried in a C99
+// runtime (EILSEQ) and at most up to 64 KiB where -1 may mean "too small".
+struct GrowthRow {
+  const char* name;
+  int result;
+  std::size_t current;
+  int error;
+  std::size_t next;
+};
+
+void PrintTo(const GrowthRow& r, std::ostream* os) {
+  *os << r.name;
+}
+
+class FormatGrowth : public ::testing::TestWithParam<GrowthRow> {};
+
+TEST_P(FormatGrowth, NextBufferSize) {
+  EXPECT_EQ(rex::next_format_buffer(GetParam().result, GetParam().current, GetParam().error), GetParam().next);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, FormatGrowth,
+    ::testing::Values(GrowthRow{"ReportedSizeTakenAtOnce", 300, 256, 0, 301},
+                      GrowthRow{"ReportedSizeCappedAtLimit", 1 << 30, 256, 0, rex::kMaxFormatBytes},
+                      GrowthRow{"AtTheLimitStops", 1 << 30, rex::kMaxFormatBytes, 0, 0},
+                      GrowthRow{"EncodingErrorStopsAtOnce", -1, 256, EILSEQ, 0},
+                      GrowthRow{"UnknownSizeDoubles", -1, 256, 0, 512},
+                      GrowthRow{"UnknownSizeStopsAt64KiB", -1, 64 * 1024, 0, 0},
+                      GrowthRow{"UnknownSizeNeverPast64KiB", -1, 48 * 1024, 0, 64 * 1024}),
+    [](const ::testing::TestParamInfo<GrowthRow>& i) { return std::string(i.param.name); });
+
+TEST(Raise, UnconvertibleWideTextKeepsWhatCameBefore) {
+  // In the "C" locale a wide character above 0x7F cannot be converted: the
+  // runtime reports an encoding error, which must not grow the buffer.
+  EXPECT_EQ(rex::format("before %ls after", L"\u00e9\u6f22").substr(0, 7), "before ");
+  EXPECT_LE(rex::format("before %ls after", L"\u00e9\u6f22").size(), 256u);
 }
 
 // ---- the stack ----

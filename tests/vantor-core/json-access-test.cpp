@@ -129,4 +129,27 @@ TEST(JsonParse, CommentsAreReadButNotKeptAndCompactIsOneLine) {
   EXPECT_EQ("null", jsonx::compact(Json::Value()));
 }
 
+// Secrets are masked wherever they sit: top level, nested objects, arrays,
+// any value type; empty values stay visible; other members are untouched.
+TEST(JsonMask, SecretMembersAtAnyDepthShowAsStars) {
+  const Json::Value in = parsed(R"({
+    "action": "get_token", "token": "tok-1", "access_token": "acc-2", "Refresh_Token": "ref-3",
+    "content": {"password": "pw-4", "otp": "", "proxy_password": "pp-5", "note": "keep"},
+    "list": [{"client_secret": {"x": "sec-6"}}, {"OTPCode": 123456}, "plain"],
+    "tokens": 3, "password_hint": null
+  })");
+  const Json::Value out = jsonx::masked(in);
+  const std::string text = jsonx::compact(out);
+  for (const char* secret : {"tok-1", "acc-2", "ref-3", "pw-4", "pp-5", "sec-6", "123456"})
+    EXPECT_EQ(text.find(secret), std::string::npos) << secret << " in " << text;
+  EXPECT_EQ(jsonx::get_string(out, "token"), "***");
+  EXPECT_EQ(jsonx::get_string(out["list"][0], "client_secret"), "***");
+  EXPECT_EQ(jsonx::get_string(out["content"], "otp"), "") << "an empty value stays visible";
+  EXPECT_TRUE(out["password_hint"].isNull());
+  EXPECT_EQ(jsonx::get_string(out["content"], "note"), "keep");
+  EXPECT_EQ(jsonx::get_int32(out, "tokens"), 3) << "a name merely starting like a secret is kept";
+  EXPECT_EQ(out["list"][2], Json::Value("plain"));
+  EXPECT_EQ(jsonx::get_string(in, "token"), "tok-1") << "the original is never changed";
+}
+
 }  // namespace

@@ -1,28 +1,44 @@
 #include "exception.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <new>
 #include <utility>
 
 namespace ravel::exception {
 
+std::size_t next_format_buffer(int result, std::size_t current, int error) {
+  constexpr std::size_t kUnknownSizeLimit = 64 * 1024;
+  if (result < 0) {
+    if (error == EILSEQ || current >= kUnknownSizeLimit) return 0;
+    return std::min(current * 2, kUnknownSizeLimit);
+  }
+  const std::size_t want = static_cast<std::size_t>(result) + 1;
+  if (want <= current || current >= kMaxFormatBytes) return 0;
+  return std::min(want, kMaxFormatBytes);
+}
+
 std::string vformat(const char* format, va_list args) {
   if (!format) return std::string();
-  // Start small and double: some C runtimes report only "too small" (-1)
-  // rather than the size needed, so the loop does not trust the count alone.
   std::vector<char> buf(256);
   for (;;) {
     va_list copy;
     va_copy(copy, args);
+    errno = 0;
     const int n = std::vsnprintf(buf.data(), buf.size(), format, copy);
+    const int error = errno;
     va_end(copy);
     if (n >= 0 && static_cast<std::size_t>(n) < buf.size())
       return std::string(buf.data(), static_cast<std::size_t>(n));
-    const std::size_t want = n >= 0 ? static_cast<std::size_t>(n) + 1 : buf.size() * 2;
-    if (want > (std::size_t{1} << 30))
-      return std::string(buf.data());  // refuse absurd sizes; keep what fitted
-    buf.resize(std::max(want, buf.size() * 2));
+    const std::size_t next = next_format_buffer(n, buf.size(), error);
+    if (next == 0) {
+      // Keep what was formatted (the runtime may leave the buffer without
+      // its terminator after an error).
+      buf.back() = '\0';
+      return std::string(buf.data());
+    }
+    buf.assign(next, '\0');
   }
 }
 

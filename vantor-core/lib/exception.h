@@ -73,8 +73,16 @@ RAVEL_EXCEPTION_CLASS(Locked)         // 140
 
 #undef RAVEL_EXCEPTION_CLASS
 
-// printf into a buffer that doubles until the text fits.
+// printf into a buffer that grows until the text fits, up to kMaxFormatBytes
+// (a longer text is cut there). A formatting error (an unconvertible wide
+// character, say) gives what was formatted before it.
 std::string vformat(const char* format, va_list args);
+inline constexpr std::size_t kMaxFormatBytes = std::size_t{16} << 20;
+// The next buffer size after vsnprintf returned `result` into a buffer of
+// `current` bytes with errno `error`; 0 when there is no point in trying
+// again. A negative result is an error in C99 runtimes but "too small" in
+// some older ones: those get a few doublings up to 64 KiB, never more.
+std::size_t next_format_buffer(int result, std::size_t current, int error);
 std::string format(const char* format, ...) RAVEL_PRINTF_FORMAT(1, 2);
 
 // Formats the message, picks the class that `code` selects (any code outside

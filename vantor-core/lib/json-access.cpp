@@ -163,4 +163,44 @@ std::string compact(const Json::Value& v) {
   return Json::writeString(builder, v);
 }
 
+bool is_secret_name(const std::string& name) {
+  std::string lower(name);
+  for (char& c : lower)
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  static const std::string kTokenSuffix = "_token";
+  if (lower == "token") return true;
+  if (lower.size() > kTokenSuffix.size() &&
+      lower.compare(lower.size() - kTokenSuffix.size(), kTokenSuffix.size(), kTokenSuffix) == 0)
+    return true;
+  for (const char* part : {"password", "otp", "secret"})
+    if (lower.find(part) != std::string::npos) return true;
+  return false;
+}
+
+namespace {
+
+void mask_in_place(Json::Value& v) {
+  if (v.isObject()) {
+    for (const std::string& name : v.getMemberNames()) {
+      Json::Value& member = v[name];
+      if (is_secret_name(name)) {
+        const bool empty = member.isNull() || (member.isString() && to_string(member).empty());
+        if (!empty) member = "***";
+      } else {
+        mask_in_place(member);
+      }
+    }
+  } else if (v.isArray()) {
+    for (Json::Value& item : v) mask_in_place(item);
+  }
+}
+
+}  // namespace
+
+Json::Value masked(const Json::Value& v) {
+  Json::Value copy = v;
+  mask_in_place(copy);
+  return copy;
+}
+
 }  // namespace jsonx

@@ -56,4 +56,13 @@ bool parse(const std::string& text, Json::Value& out, std::string* error = nullp
 // Compact one-line serialisation ({"a":1}), for replies and log lines.
 std::string compact(const Json::Value& v);
 
+// True for a member name whose value must never reach a log line: "token"
+// and names ending in "_token" ("access_token"), and names containing
+// "password", "otp" or "secret", letter case ignored.
+bool is_secret_name(const std::string& name);
+// A copy of `v` for a log line: the value of every secret member, at any
+// depth (inside arrays too), replaced by "***". An empty string or null stays
+// as it is, so that the line still tells that nothing was given.
+Json::Value masked(const Json::Value& v);
+
 }  // namespace jsonx

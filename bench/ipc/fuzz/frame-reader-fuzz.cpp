@@ -10,6 +10,9 @@
 //
 // Checked: no crash, no hang, the text never longer than the bytes fed, and
 // the same answer as searching the whole text from its start after every
+// chunk. The input is read a second time with a cap taken from its first
+// byte: the capped read must agree with the uncapped one whenever the text
+// fits, fail whenever it does not, and never hold more than the cap plus one
 // chunk. The writer must deliver the text and the marker exactly once.
 
 #include <cstddef>
@@ -53,6 +56,7 @@ class FuzzSource : public WinIpc::framing::ChunkSource {
     std::size_t n = (c | hi << 8) % WinIpc::platform::kBufferSize;
     if (n > size) n = size;
     if (n > static_cast<std::size_t>(end_ - p_)) n = static_cast<std::size_t>(end_ - p_);
+    if (out_ != nullptr && out_->capacity() > max_size_) max_size_ = out_->capacity();
     std::memcpy(buffer, p_, n);
     p_ += n;
     fed_ += n;
@@ -64,6 +68,8 @@ class FuzzSource : public WinIpc::framing::ChunkSource {
   void wait() override {}
 
   std::size_t fed() const { return fed_; }
+  std::size_t max_size() const { return max_size_; }
+  void track(const std::string* out) { out_ = out; }
   const std::vector<std::string>& chunks() const { return chunks_; }
 
  private:
@@ -71,6 +77,8 @@ class FuzzSource : public WinIpc::framing::ChunkSource {
   const std::uint8_t* end_;
   std::size_t fed_ = 0;
   std::vector<std::string> chunks_;
+  const std::string* out_ = nullptr;
+  std::size_t max_size_ = 0;
 };
 
 class FuzzSink : public WinIpc::framing::ChunkSink {
@@ -135,6 +143,21 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   std::string expected;
   if (whole_text_search(source, expected) != rc) std::abort();
   if (rc == 0 && expected != out) std::abort();
+
+  // The same chunks under a cap of 0 to 8190 bytes.
+  if (size >= 2) {
+    WinIpc::Limits limits;
+    limits.max_bytes = (static_cast<std::size_t>(data[0]) << 5 | data[1] >> 3) % 8191;
+    FuzzSource capped_source(data, size);
+    std::string capped;
+    capped_source.track(&capped);
+    const int capped_rc = WinIpc::framing::read_message(capped_source, capped, limits, nullptr);
+    const bool fits = rc == 0 && out.size() <= limits.max_bytes;
+    if (fits != (capped_rc == 0)) std::abort();
+    if (fits && capped != out) std::abort();
+    if (capped_rc != 0 && !capped.empty()) std::abort();
+    if (capped_source.max_size() > limits.max_bytes + 2 * WinIpc::platform::kBufferSize) std::abort();
+  }
 
   // The writer: the bytes as the message, the same bytes as the pattern of
   // partial writes. Messages stay small enough for a quick round.

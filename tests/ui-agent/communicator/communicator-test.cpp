@@ -219,11 +219,11 @@ TEST_F(CommunicatorTest, CommentsInAnAnswerAreNotKept) {
   EXPECT_FALSE(answer["status"].hasComment(Json::commentAfterOnSameLine));
 }
 
-TEST(MaskingTest, PasswordLikeMembersOfContentAreMaskedUnlessEmpty) {
-  const Json::Value req = parse(R"({"action": "get_token", "password": "top-level",
+TEST(MaskingTest, SecretMembersAtAnyDepthAreMaskedUnlessEmpty) {
+  const Json::Value req = parse(R"({"action": "get_token", "password": "top-level", "token": "tk",
       "content": {"password": "hunter2", "otp": "", "proxy_password": 1234, "user": "me", "absent": null}})");
   const Json::Value masked = parse(ServiceCommunicator::maskedForLog(req));
-  EXPECT_EQ(masked, parse(R"({"action": "get_token", "password": "top-level",
+  EXPECT_EQ(masked, parse(R"({"action": "get_token", "password": "***", "token": "***",
       "content": {"password": "***", "otp": "", "proxy_password": "***", "user": "me", "absent": null}})"));
   EXPECT_EQ(req["content"]["password"], "hunter2");  // the original is left alone
   // Other shapes are logged as they are, without throwing.

@@ -6,6 +6,8 @@
 #include <QApplication>
 #include <QFontMetrics>
 #include <QRegularExpression>
+#include <QTextBlock>
+#include <QTextDocument>
 
 #include <cmath>
 
@@ -36,6 +38,30 @@ QString fill_in_order(const QString& tmpl, const QStringList& values, bool rich)
     pos = m.capturedEnd();
   }
   return out + tmpl.mid(pos);
+}
+
+// A value a hostile service might send: a link and a picture.
+const QString kMarkup = QStringLiteral("<a href=\"http://evil.example/\">Click</a><img src=\"http://evil.example/x.png\">");
+
+// What a rich label would make live of `rich`: pictures, and links to the
+// hostile address.
+struct LiveMarkup {
+  int images = 0;
+  int evil_links = 0;
+};
+
+LiveMarkup live_markup(const QString& rich) {
+  QTextDocument doc;
+  doc.setHtml(rich);
+  LiveMarkup live;
+  for (QTextBlock block = doc.begin(); block.isValid(); block = block.next()) {
+    for (auto it = block.begin(); !it.atEnd(); ++it) {
+      const QTextCharFormat format = it.fragment().charFormat();
+      if (format.isImageFormat()) ++live.images;
+      if (format.anchorHref().contains(QLatin1String("evil"))) ++live.evil_links;
+    }
+  }
+  return live;
 }
 
 class EventTable : public ::testing::TestWithParam<EventRow> {};
@@ -73,6 +99,25 @@ TEST_P(EventTable, ValuesLandInTheListedOrderAndWrongTypesReadAsEmpty) {
   for (const Json::Value& hostile :
        {Json::Value(Json::objectValue), wrong, parse("[1, 2]"), Json::Value("x")})
     EXPECT_EQ(render_event_message(row.type, hostile, false, 449), fill_in_order(tmpl, empty, false));
+
+  // Markup in every value is text in the rich rendering (escaped inside the
+  // bold) and stays as it is in the plain one; at any width nothing of it
+  // becomes a live link or picture.
+  Json::Value markup_body(Json::objectValue);
+  QStringList raw, escaped;
+  for (int i = 0; i < members.size(); ++i) {
+    const bool fixed_value = members[i] == QLatin1String("-");
+    raw << (fixed_value ? QString() : kMarkup);
+    escaped << raw.last().toHtmlEscaped();
+    if (!fixed_value) markup_body[members[i].toStdString()] = kMarkup.toStdString();
+  }
+  EXPECT_EQ(render_event_message(row.type, markup_body, false, 449), fill_in_order(tmpl, raw, false));
+  EXPECT_EQ(render_event_message(row.type, markup_body, true, kWide), fill_in_order(tmpl, escaped, true));
+  for (int limit : {60, 150, 354, kWide}) {
+    const LiveMarkup live = live_markup(render_event_message(row.type, markup_body, true, limit));
+    EXPECT_EQ(live.images, 0) << limit;
+    EXPECT_EQ(live.evil_links, 0) << limit;
+  }
 }
 
 std::string type_name(const ::testing::TestParamInfo<EventRow>& info) {

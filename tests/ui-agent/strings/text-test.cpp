@@ -45,7 +45,10 @@ INSTANTIATE_TEST_SUITE_P(
         PlaceholderCase{"{a} and {a}", R"({"a": "v"})", "<b>v</b> and <b>v</b>"},
         // Values are not scanned again.
         PlaceholderCase{"{a}-{b}", R"({"a": "%1 {b} %2", "b": "y"})", "<b>%1 {b} %2</b>-<b>y</b>"},
-        PlaceholderCase{"{a}", R"({"a": "<b>}{"})", "<b><b>}{</b>"},
+        // Values are text: markup in them is escaped, the template's is kept.
+        PlaceholderCase{"{a}", R"({"a": "<b>}{"})", "<b>&lt;b&gt;}{</b>"},
+        PlaceholderCase{"<i>{p}</i>", R"({"p": "<a href='x'>Click</a> & <img src=y>"})",
+                        "<i><b>&lt;a href='x'&gt;Click&lt;/a&gt; &amp; &lt;img src=y&gt;</b></i>"},
         // Numbers in general form with 6 significant digits; other kinds empty.
         PlaceholderCase{"{n}{m}{k}", R"({"n": 0, "m": 5, "k": -12})", "<b>0</b><b>5</b><b>-12</b>"},
         PlaceholderCase{"{n}|{m}", R"({"n": 0.5, "m": 123456})", "<b>0.5</b>|<b>123456</b>"},
