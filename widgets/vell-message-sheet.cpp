@@ -259,6 +259,22 @@ void VellMessageSheet::quit(int result) {
 }
 
 void VellMessageSheet::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    // The buttons are no dialog's auto-default buttons, so Return arrives
+    // here: it presses the focused button, else the primary one.
+    for (QPushButton* b : buttons_)
+      if (b->hasFocus() && b->isVisible()) {
+        b->click();
+        return;
+      }
+    for (auto it = buttons_.constEnd(); it != buttons_.constBegin();) {
+      --it;
+      if (isAffirmative(static_cast<QMessageBox::StandardButton>(it.key())) && it.value()->isVisible()) {
+        it.value()->click();
+        return;
+      }
+    }
+  }
   if (event->key() == Qt::Key_Escape) {
     for (QMessageBox::StandardButton b :
          {QMessageBox::Cancel, QMessageBox::Discard, QMessageBox::No, QMessageBox::Close}) {

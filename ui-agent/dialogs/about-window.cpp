@@ -166,7 +166,6 @@ void AboutWindow::slotOpenBrowser() {
   }
   if (!QDesktopServices::openUrl(url))
     LOG_WARN(vlog::kDefaultComponent, "about window: cannot open %s", qUtf8Printable(url.toString()));
-  emit linkOpened(url);
 }
 
 void AboutWindow::keyPressEvent(QKeyEvent* event) {

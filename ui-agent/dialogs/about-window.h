@@ -37,8 +37,6 @@ class AboutWindow : public QFrame {
 
  signals:
   void sigCloseWindow();
-  // Emitted with the address just handed to the desktop (tests listen).
-  void linkOpened(const QUrl& url);
 
  public slots:
   void slotOpenBrowser();

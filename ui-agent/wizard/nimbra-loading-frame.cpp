@@ -34,7 +34,8 @@ NimbraLoadingFrame::NimbraLoadingFrame(QWidget* parent) : QFrame(parent) {
   icon_->setObjectName(QStringLiteral("NimbraLoadingIcon"));
   text_ = new QLabel(this);
   text_->setObjectName(QStringLiteral("NimbraLoadingText"));
-  text_->setStyleSheet(DPIinfo::getScaledStyleSheet(QStringLiteral("QLabel { color: #1E2832; font-size: 14px; }")));
+  text_->setStyleSheet(
+      DPIinfo::getScaledStyleSheet(QStringLiteral("QLabel { color: #1E2832; font-size: 14px; }")));
   text_->setTextFormat(Qt::PlainText);
 
   auto* h = new QHBoxLayout(this);
@@ -65,8 +66,9 @@ QString NimbraLoadingFrame::text() const {
 
 int NimbraLoadingFrame::startLoading() {
   text_->ensurePolished();
-  setFixedWidth(loading_frame_width(text_->sizeHint().width(), DPIinfo::getDPI(), maximumWidth()));
-  setFixedHeight(maximumHeight());
+  // The width is fixed for each text; the bounds stay 480 x 40.
+  setFixedWidth(loading_frame_width(text_->sizeHint().width(), DPIinfo::getDPI(), DPIinfo::scaled(480)));
+  setFixedHeight(DPIinfo::scaled(40));
   show();
   raise();
   setFocus(Qt::OtherFocusReason);

@@ -55,6 +55,7 @@ SummaryPage::SummaryPage(QWidget* parent) : QWidget(parent) {
 
   summary_ = new SummaryWidget(this);
   summary_->setFixedWidth(DPIinfo::scaled(750));
+  summary_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 
   done_ = new QPushButton(text(Str::btn_done), this);
   done_->setObjectName(QStringLiteral("SummaryDone"));
@@ -71,7 +72,7 @@ SummaryPage::SummaryPage(QWidget* parent) : QWidget(parent) {
   v->addSpacing(DPIinfo::scaled(42));
   auto* summaryRow = new QHBoxLayout;
   summaryRow->addStretch(1);
-  summaryRow->addWidget(summary_);
+  summaryRow->addWidget(summary_, 0, Qt::AlignTop);
   summaryRow->addStretch(1);
   auto* holder = new QWidget(this);
   holder->setMinimumHeight(DPIinfo::scaled(96));

@@ -20,8 +20,8 @@ QString str(const Json::Value& obj, const char* key) {
 // "HH:mm" of the schedule's run time; a time that is no clock time is shown
 // as "--:--" rather than as something the service did not mean.
 QString run_time(const Json::Value& time) {
-  const int hour = jsonx::get_int32(time, "run_hour", -1);
-  const int minute = jsonx::get_int32(time, "run_min", -1);
+  const int hour = jsonx::get_int32(time, "run_hour");
+  const int minute = jsonx::get_int32(time, "run_min");
   const QTime t(hour, minute);
   if (!t.isValid()) {
     LOG_WARN(vlog::kDefaultComponent, "schedule run time %d:%d is no clock time", hour, minute);
@@ -153,7 +153,7 @@ QMap<QString, QString> site_map(const Json::Value& response) {
 QString account_type(const Json::Value& response) {
   const Json::Value& policy = jsonx::get_object(site(response, 0), "backup_policy");
   return jsonx::get_string(policy, "account_type") == "nimbra" ? QStringLiteral("nimbra")
-                                                                : QStringLiteral("vell");
+                                                               : QStringLiteral("vell");
 }
 
 Json::Value with_display_policy_names(const Json::Value& response) {

@@ -50,9 +50,9 @@ QHBoxLayout* row(QLabel* label, QWidget* value, QVBoxLayout* into, QWidget* pare
   auto* h = new QHBoxLayout;
   h->setContentsMargins(0, 0, 0, 0);
   h->setSpacing(DPIinfo::scaled(8));
-  h->addWidget(dot(QStringLiteral("icn_dot"), parent), 0, Qt::AlignTop);
-  h->addWidget(label, 0, Qt::AlignTop);
-  h->addWidget(value, 0, Qt::AlignTop);
+  h->addWidget(dot(QStringLiteral("icn_dot"), parent), 0, Qt::AlignVCenter);
+  h->addWidget(label, 0, Qt::AlignVCenter);
+  h->addWidget(value, 0, Qt::AlignVCenter);
   h->addStretch(1);
   label->setBuddy(value);
   value->setAccessibleName(label->text().trimmed());
@@ -68,8 +68,8 @@ SummaryComboBox::SummaryComboBox(QWidget* parent) : QComboBox(parent) {
 
 SummaryWidget::SummaryWidget(QWidget* parent) : QFrame(parent) {
   setObjectName(QStringLiteral("SummaryWidget"));
-  setStyleSheet(DPIinfo::getScaledStyleSheet(
-      QStringLiteral("QFrame#SummaryWidget {background-color: rgba(171, 181, 194, 25);border-radius: 4px;}")));
+  setStyleSheet(DPIinfo::getScaledStyleSheet(QStringLiteral(
+      "QFrame#SummaryWidget {background-color: rgba(171, 181, 194, 25);border-radius: 4px;}")));
   auto* v = new QVBoxLayout(this);
   v->setContentsMargins(DPIinfo::scaled(20), DPIinfo::scaled(16), DPIinfo::scaled(20), DPIinfo::scaled(16));
   v->setSpacing(DPIinfo::scaled(12));
@@ -99,9 +99,8 @@ SummaryWidget::SummaryWidget(QWidget* parent) : QFrame(parent) {
   siteLayout->addWidget(singleSite_);
   QLabel* siteLabel = rowLabel(Str::desc_data_center, this);
   row(siteLabel, site, v, this);
-  // The chooser sits a little taller than a text row: centre label and dot on it.
-  siteLabel->setMinimumHeight(chooser_->sizeHint().height());
   chooser_->setAccessibleName(siteLabel->text().trimmed());
+  chooser_->view()->setAccessibleName(siteLabel->text().trimmed());
   singleSite_->setAccessibleName(siteLabel->text().trimmed());
   siteLabel->setBuddy(chooser_);
   v->addWidget(separator(this));
@@ -134,7 +133,8 @@ SummaryWidget::SummaryWidget(QWidget* parent) : QFrame(parent) {
   note_->hide();
   v->addWidget(note_);
 
-  connect(chooser_, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &SummaryWidget::slotSiteChanaged);
+  connect(chooser_, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+          &SummaryWidget::slotSiteChanaged);
 }
 
 void SummaryWidget::setData(const Json::Value& response) {
@@ -146,8 +146,8 @@ void SummaryWidget::setData(const Json::Value& response) {
     const QSignalBlocker block(chooser_);
     chooser_->clear();
     for (int i = 0; i < count; ++i)
-      chooser_->addItem(summary_text::site_display_name(
-          jsonx::get_object(summary_text::site(data_, i), "billing")));
+      chooser_->addItem(
+          summary_text::site_display_name(jsonx::get_object(summary_text::site(data_, i), "billing")));
     chooser_->setCurrentIndex(0);
   }
   singleSite_->setText(chooser_->itemText(0));

@@ -92,9 +92,9 @@ void Wizard::showSummaryPage() {
 void Wizard::showSignInSheet() {
   if (!signIn_) {
     signIn_ = new VellMessageSheet(VellMessageSheet::Notice, this, true);
-    signIn_->setObjectName(QStringLiteral("WizardSignInSheet"));
     signIn_->setFixedSize(DPIinfo::scaled(480), DPIinfo::scaled(184));
-    signIn_->setText(text(Str::title_wizard_sign_in), getStyleSheet(QStringLiteral("wizard_text_17px_1E2832")));
+    signIn_->setText(text(Str::title_wizard_sign_in),
+                     getStyleSheet(QStringLiteral("wizard_text_17px_1E2832")));
     signIn_->setInformativeText(text(Str::desc_wizard_sign_in),
                                 getStyleSheet(QStringLiteral("wizard_informative_text_15px_1E2832")));
     if (QPushButton* ok = signIn_->button(QMessageBox::Ok)) {
@@ -104,7 +104,8 @@ void Wizard::showSignInSheet() {
       ok->setAccessibleName(ok->text());
     }
     if (auto* box = qobject_cast<QBoxLayout*>(signIn_->layout()))
-      box->setContentsMargins(DPIinfo::scaled(12), DPIinfo::scaled(12), DPIinfo::scaled(12), DPIinfo::scaled(6));
+      box->setContentsMargins(DPIinfo::scaled(12), DPIinfo::scaled(12), DPIinfo::scaled(12),
+                              DPIinfo::scaled(6));
     signIn_->setAccessibleName(text(Str::title_wizard_sign_in));
     VellMask::createMask(signIn_, this, kMaskColour);
   }
@@ -138,9 +139,11 @@ void Wizard::showError(int code, const Json::Value& response) {
   const QString message = service_error::message(code, response);
   LOG_INFO(vlog::kDefaultComponent, "wizard shows error %d", code);
   VellMessageSheet sheet(VellMessageSheet::Error, this, true);
-  sheet.setObjectName(QStringLiteral("WizardErrorSheet"));
   sheet.setFixedWidth(DPIinfo::scaled(480));
-  sheet.setText(message, getStyleSheet(QStringLiteral("wizard_informative_text_15px_1E2832")));
+  // Error texts run to several lines: the sheet's plain body weight reads
+  // better there than its bold title weight.
+  sheet.setText(message, getStyleSheet(QStringLiteral("wizard_informative_text_15px_1E2832")) +
+                             QStringLiteral("\nQLabel { font-weight: normal; }"));
   if (QPushButton* ok = sheet.button(QMessageBox::Ok)) {
     ok->setText(text(Str::btn_ok));
     ok->setFixedSize(DPIinfo::scaled(100), DPIinfo::scaled(32));

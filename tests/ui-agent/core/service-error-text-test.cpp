@@ -34,8 +34,8 @@ INSTANTIATE_TEST_SUITE_P(
                       Row{11, Str::err_operation_timedout}, Row{14, Str::err_operation_timedout},
                       Row{3, Str::err_operation_timedout}, Row{26, Str::err_operation_timedout},
                       Row{0, Str::err_operation_timedout}, Row{-5, Str::err_operation_timedout}),
-    [](const ::testing::TestParamInfo<Row>& info) {
-      const int c = info.param.code;
+    [](const ::testing::TestParamInfo<Row>& p) {
+      const int c = p.param.code;
       return (c < 0 ? "code_minus" : "code") + std::to_string(c < 0 ? -c : c);
     });
 

@@ -1,0 +1,174 @@
+#include "private-desktop.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QThread>
+
+namespace notifier_test {
+namespace {
+
+bool write_text(const QString& path, const QString& text) {
+  QFile f(path);
+  if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate)) return false;
+  f.write(text.toUtf8());
+  return true;
+}
+
+void stop(std::unique_ptr<QProcess>& p) {
+  if (!p) return;
+  if (p->state() != QProcess::NotRunning) {
+    p->terminate();
+    if (!p->waitForFinished(3000)) {
+      p->kill();
+      p->waitForFinished(3000);
+    }
+  }
+  p.reset();
+}
+
+}  // namespace
+
+bool wait_until(const std::function<bool()>& done, int ms) {
+  QElapsedTimer t;
+  t.start();
+  for (;;) {
+    if (done()) return true;
+    if (t.elapsed() > ms) return false;
+    QThread::msleep(20);
+  }
+}
+
+PrivateDesktop::PrivateDesktop(QString scratch) : scratch_(std::move(scratch)) {}
+
+PrivateDesktop::~PrivateDesktop() {
+  stopDunst();
+  stop(bus_);
+  stop(xvfb_);
+}
+
+QString PrivateDesktop::startReading(QProcess& p, const QString& program, const QStringList& args,
+                                     QString& first_line) {
+  p.setProcessChannelMode(QProcess::SeparateChannels);
+  p.setStandardErrorFile(scratch_ + "/" + QFileInfo(program).fileName() + ".log");
+  p.start(program, args);
+  if (!p.waitForStarted(5000)) return program + " does not start: " + p.errorString();
+  QElapsedTimer t;
+  t.start();
+  while (!p.canReadLine()) {
+    if (t.elapsed() > 10000 || p.state() == QProcess::NotRunning) return program + " printed nothing";
+    p.waitForReadyRead(200);
+  }
+  first_line = QString::fromUtf8(p.readLine()).trimmed();
+  return {};
+}
+
+QString PrivateDesktop::startBus() {
+  // A session bus with no service folders: nothing is started on demand,
+  // so a missing service stays missing.
+  const QString config = scratch_ + "/bus.conf";
+  write_text(config,
+             QString("<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN\"\n"
+                     " \"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">\n"
+                     "<busconfig><type>session</type><listen>unix:dir=%1</listen><auth>EXTERNAL</auth>\n"
+                     "<policy context=\"default\"><allow send_destination=\"*\" eavesdrop=\"true\"/>\n"
+                     "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>\n")
+                 .arg(scratch_));
+  bus_ = std::make_unique<QProcess>();
+  return startReading(*bus_, "dbus-daemon", {"--config-file=" + config, "--nofork", "--print-address=1"},
+                      bus_address_);
+}
+
+QString PrivateDesktop::startDisplay() {
+  xvfb_ = std::make_unique<QProcess>();
+  QString number;
+  const QString why = startReading(
+      *xvfb_, "Xvfb", {"-displayfd", "1", "-screen", "0", "800x600x24", "-nolisten", "tcp"}, number);
+  display_ = ":" + number;
+  return why;
+}
+
+QString PrivateDesktop::startDunst() {
+  const QString menu = scratch_ + "/dunst-menu";
+  write_text(menu, QString("#!/bin/sh\n"
+                           "cat > '%1/menu.part' && mv '%1/menu.part' '%1/menu.txt'\n"
+                           "pick=$(cat '%1/pick.txt' 2>/dev/null)\n"
+                           "[ -n \"$pick\" ] && grep -F -m1 -- \"$pick\" '%1/menu.txt'\n"
+                           "exit 0\n")
+                       .arg(scratch_));
+  QFile::setPermissions(menu, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+  const QString config = scratch_ + "/dunstrc";
+  write_text(config, QString("[global]\n    markup = full\n    dmenu = %1\n"
+                             "[urgency_low]\n    timeout = 0\n[urgency_normal]\n    timeout = 0\n"
+                             "[urgency_critical]\n    timeout = 0\n")
+                         .arg(menu));
+  dunst_ = std::make_unique<QProcess>();
+  dunst_->setProcessEnvironment(environment());
+  dunst_->setStandardOutputFile(scratch_ + "/dunst.log");
+  dunst_->setStandardErrorFile(scratch_ + "/dunst.log", QIODevice::Append);
+  dunst_->start("dunst", {"-config", config});
+  if (!dunst_->waitForStarted(5000)) return "dunst does not start: " + dunst_->errorString();
+  int code = -1;
+  if (!wait_until(
+          [&] {
+            run("dunstctl", {"is-paused"}, &code);
+            return code == 0;
+          },
+          10000))
+    return "dunst does not answer on the bus";
+  return {};
+}
+
+void PrivateDesktop::stopDunst() {
+  stop(dunst_);
+}
+
+QProcessEnvironment PrivateDesktop::environment() const {
+  QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+  env.insert("DBUS_SESSION_BUS_ADDRESS", bus_address_);
+  if (!display_.isEmpty()) env.insert("DISPLAY", display_);
+  env.insert("XDG_STATE_HOME", scratch_ + "/state");
+  env.remove("WAYLAND_DISPLAY");
+  return env;
+}
+
+QString PrivateDesktop::run(const QString& program, const QStringList& args, int* exit_code) const {
+  QProcess p;
+  p.setProcessEnvironment(environment());
+  p.start(program, args);
+  p.waitForFinished(10000);
+  if (exit_code != nullptr)
+    *exit_code =
+        p.exitStatus() == QProcess::NormalExit && p.error() != QProcess::FailedToStart ? p.exitCode() : -1;
+  return QString::fromUtf8(p.readAllStandardOutput());
+}
+
+QJsonArray PrivateDesktop::history() const {
+  const QJsonDocument doc = QJsonDocument::fromJson(run("dunstctl", {"history"}).toUtf8());
+  QJsonArray out;
+  for (const QJsonValue entry : doc.object().value("data").toArray().at(0).toArray()) {
+    QJsonObject flat;
+    const QJsonObject o = entry.toObject();
+    for (auto it = o.begin(); it != o.end(); ++it) flat.insert(it.key(), it.value().toObject().value("data"));
+    out.append(flat);
+  }
+  return out;
+}
+
+int PrivateDesktop::displayed() const {
+  return run("dunstctl", {"count", "displayed"}).trimmed().toInt();
+}
+
+QStringList PrivateDesktop::contextMenu(const QString& pick) const {
+  QFile::remove(scratch_ + "/menu.txt");
+  write_text(scratch_ + "/pick.txt", pick);
+  run("dunstctl", {"context"});
+  QFile f(scratch_ + "/menu.txt");
+  wait_until([&] { return f.exists(); }, 5000);
+  if (!f.open(QIODevice::ReadOnly)) return {};
+  return QString::fromUtf8(f.readAll()).split('\n', Qt::SkipEmptyParts);
+}
+
+}  // namespace notifier_test

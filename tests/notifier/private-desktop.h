@@ -1,0 +1,60 @@
+#pragma once
+// A desktop of the test's own: an Xvfb display, a private session bus (with
+// no activatable services) and, when asked, dunst as its notification
+// service, all started in a scratch folder and stopped with the object.
+// The helpers read what dunst shows (its history and the actions of its
+// context menu, through a menu program that records the menu and picks a line).
+
+#include <QJsonArray>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+
+namespace notifier_test {
+
+// Polls `done` every 20 ms for up to `ms`; true once it holds.
+bool wait_until(const std::function<bool()>& done, int ms);
+
+class PrivateDesktop {
+ public:
+  explicit PrivateDesktop(QString scratch);
+  ~PrivateDesktop();
+  PrivateDesktop(const PrivateDesktop&) = delete;
+  PrivateDesktop& operator=(const PrivateDesktop&) = delete;
+
+  // Each returns an empty text on success, else what failed.
+  QString startBus();
+  QString startDisplay();
+  QString startDunst();
+  void stopDunst();
+
+  // The environment of programs on this desktop: DISPLAY, the bus address,
+  // and XDG_STATE_HOME in the scratch folder.
+  QProcessEnvironment environment() const;
+  // Runs a program on this desktop and returns its standard output.
+  QString run(const QString& program, const QStringList& args, int* exit_code = nullptr) const;
+
+  // dunst's history, newest first: one object per notification with its
+  // members as plain strings ("summary", "body", "message", "appname", ...).
+  QJsonArray history() const;
+  int displayed() const;
+  // Opens dunst's context menu; the menu program picks the first line that
+  // contains `pick` (none when it is empty). Returns every line of the menu.
+  QStringList contextMenu(const QString& pick) const;
+
+ private:
+  QString startReading(QProcess& p, const QString& program, const QStringList& args, QString& first_line);
+
+  QString scratch_;
+  QString bus_address_;
+  QString display_;
+  std::unique_ptr<QProcess> bus_;
+  std::unique_ptr<QProcess> xvfb_;
+  std::unique_ptr<QProcess> dunst_;
+};
+
+}  // namespace notifier_test

@@ -1,0 +1,103 @@
+// The connecting frame: its width rule, and the local wait that only
+// stopLoading() ends, on a fresh loop for every start.
+
+#include <QLabel>
+
+#include "dpi-info.h"
+#include "wizard-fixture.h"
+#include "wizard/nimbra-loading-frame.h"
+
+namespace {
+
+using wizard_test::later;
+
+struct WidthRow {
+  const char* name;
+  int hint;
+  double scale;
+  int max;
+  int expected;
+};
+void PrintTo(const WidthRow& r, std::ostream* os) {
+  *os << r.name;
+}
+class LoadingFrameWidth : public ::testing::TestWithParam<WidthRow> {};
+TEST_P(LoadingFrameWidth, TextPlusFixedPartsUpToTheMaximum) {
+  EXPECT_EQ(loading_frame_width(GetParam().hint, GetParam().scale, GetParam().max), GetParam().expected);
+}
+INSTANTIATE_TEST_SUITE_P(Rows, LoadingFrameWidth,
+                         ::testing::Values(WidthRow{"short_text", 150, 1.0, 480, 208},
+                                           WidthRow{"at_the_limit", 422, 1.0, 480, 480},
+                                           WidthRow{"long_text_capped", 900, 1.0, 480, 480},
+                                           WidthRow{"scaled_fixed_parts", 300, 2.0, 960, 416},
+                                           WidthRow{"fractional_scale_truncates", 100, 1.5, 720, 187}),
+                         [](const ::testing::TestParamInfo<WidthRow>& p) {
+                           return std::string(p.param.name);
+                         });
+
+class LoadingFrameTest : public ::testing::Test {
+ protected:
+  static void SetUpTestSuite() { wizard_test::loadLook(); }
+  void SetUp() override {
+    parent_.resize(900, 600);
+    parent_.show();
+    frame_ = new NimbraLoadingFrame(&parent_);
+    frame_->setText(QStringLiteral("Connecting to server..."));
+  }
+  QWidget parent_;
+  NimbraLoadingFrame* frame_ = nullptr;
+};
+
+TEST_F(LoadingFrameTest, StopBeforeAnyStartOnlyHides) {
+  frame_->show();
+  frame_->stopLoading();
+  EXPECT_FALSE(frame_->isVisible());
+  EXPECT_FALSE(frame_->isLoading());
+}
+
+TEST_F(LoadingFrameTest, StartWaitsUntilStoppedAndCentresOverItsParent) {
+  bool upWhileWaiting = false;
+  QRect geometry;
+  later([&] {
+    upWhileWaiting = frame_->isVisible() && frame_->isLoading();
+    geometry = frame_->geometry();
+    frame_->stopLoading();
+  });
+  EXPECT_EQ(frame_->startLoading(), 0);
+  EXPECT_TRUE(upWhileWaiting);
+  EXPECT_FALSE(frame_->isVisible());
+  EXPECT_EQ(geometry.center().x(), parent_.rect().center().x());
+  EXPECT_LE(geometry.height(), DPIinfo::scaled(40));
+}
+
+TEST_F(LoadingFrameTest, TwoStartsAfterOneStopEachWaitOnAFreshLoop) {
+  frame_->stopLoading();
+  frame_->stopLoading();  // stale stops must not end a later wait
+  for (int round = 0; round < 2; ++round) {
+    bool stillWaiting = false;
+    later([&] { stillWaiting = frame_->isLoading(); }, 30);
+    later([&] { frame_->stopLoading(); }, 60);
+    EXPECT_EQ(frame_->startLoading(), 0) << "round " << round;
+    EXPECT_TRUE(stillWaiting) << "round " << round;
+  }
+}
+
+TEST_F(LoadingFrameTest, LongTextWidensTheFrameUpToTheMaximum) {
+  int shortWidth = 0, shortHint = 0, longWidth = 0;
+  later([&] {
+    shortWidth = frame_->width();
+    shortHint = frame_->findChild<QLabel*>("NimbraLoadingText")->sizeHint().width();
+    frame_->stopLoading();
+  });
+  frame_->startLoading();
+  frame_->setText(QString(200, QLatin1Char('x')));
+  later([&] {
+    longWidth = frame_->width();
+    frame_->stopLoading();
+  });
+  frame_->startLoading();
+  EXPECT_EQ(shortWidth, shortHint + DPIinfo::scaled(58));
+  EXPECT_EQ(longWidth, DPIinfo::scaled(480));
+}
+
+}  // namespace
