@@ -83,7 +83,8 @@ TrayPicture classifyTrayPicture(const QImage& icon) {
     for (int x = 0; x < icon.width(); ++x) {
       const QColor c = icon.pixelColor(x, y);
       for (int i = 0; i < 4; ++i) {
-        const int d = std::abs(c.red() - shades[i].colour.red()) + std::abs(c.green() - shades[i].colour.green()) +
+        const int d = std::abs(c.red() - shades[i].colour.red()) +
+                      std::abs(c.green() - shades[i].colour.green()) +
                       std::abs(c.blue() - shades[i].colour.blue());
         if (d < 60) ++counts[i];
       }
@@ -96,8 +97,8 @@ TrayPicture classifyTrayPicture(const QImage& icon) {
 }
 
 void AgentDesktop::SetUp() {
-  for (const char* program : {"Xvfb", "dbus-daemon", "openbox", "tint2", "dunst", "xdotool", "import", "xprop",
-                              "xwininfo", "curl"})
+  for (const char* program :
+       {"Xvfb", "dbus-daemon", "openbox", "tint2", "dunst", "xdotool", "import", "xprop", "xwininfo", "curl"})
     ASSERT_FALSE(QStandardPaths::findExecutable(program).isEmpty())
         << program << " is missing: scripts/setup installs the desktop test tools";
   scratch_ = std::make_unique<nimbra_test::TempDir>();
@@ -138,16 +139,16 @@ void AgentDesktop::SetUp() {
   // The user's part on the sign-in page: fetch it, press "Sign in", follow
   // the redirect to the agent.
   const QString browser = dir + "/browser";
-  ASSERT_TRUE(writeExecutable(
-      browser, QStringLiteral("#!/bin/sh\n"
-                              "echo \"open $1\" >> '%1/browser.log'\n"
-                              "curl -sf --max-time 10 -o '%1/signin.html' \"$1\" || exit 1\n"
-                              "back=$(curl -s --max-time 10 -o /dev/null -w '%{redirect_url}' "
-                              "--data 'email=&password=simulated' \"$1\")\n"
-                              "echo \"back $back\" >> '%1/browser.log'\n"
-                              "case \"$back\" in nimbrabackup://*) ;; *) exit 1 ;; esac\n"
-                              "exec '%2' \"$back\"\n")
-                   .arg(dir, build("/bin/nimbra-backup-agent"))));
+  ASSERT_TRUE(writeExecutable(browser,
+                              QStringLiteral("#!/bin/sh\n"
+                                             "echo \"open $1\" >> '%1/browser.log'\n"
+                                             "curl -sf --max-time 10 -o '%1/signin.html' \"$1\" || exit 1\n"
+                                             "back=$(curl -s --max-time 10 -o /dev/null -w '%{redirect_url}' "
+                                             "--data 'email=&password=simulated' \"$1\")\n"
+                                             "echo \"back $back\" >> '%1/browser.log'\n"
+                                             "case \"$back\" in nimbrabackup://*) ;; *) exit 1 ;; esac\n"
+                                             "exec '%2' \"$back\"\n")
+                                  .arg(dir, build("/bin/nimbra-backup-agent"))));
   env_.insert("BROWSER", browser);
   record_ = dir + "/requests.jsonl";
   simState_ = dir + "/sim";
@@ -163,7 +164,8 @@ void AgentDesktop::TearDown() {
                     QDir::Files, QDirIterator::Subdirectories);
     while (it.hasNext()) {
       const QString f = it.next();
-      QFile::copy(f, shotDir_ + "/" + QString(f).remove(0, int(scratch_->path().size()) + 1).replace('/', '_'));
+      QFile::copy(f,
+                  shotDir_ + "/" + QString(f).remove(0, int(scratch_->path().size()) + 1).replace('/', '_'));
     }
     const QString log = agentLog();
     std::fprintf(stderr, "---- agent log (last 4000 characters) ----\n%s\n",
@@ -190,8 +192,9 @@ bool AgentDesktop::waitUntil(const std::function<bool()>& done, int ms) {
   sim_ = std::make_unique<notifier_test::ChildProcess>();
   sim_->setProcessEnvironment(env_);
   sim_->setStandardErrorFile(QString::fromStdString(scratch_->path()) + "/sim.err", QIODevice::Append);
-  QStringList args{"serve", "--scenario", source("/service-sim/scenarios/" + scenario + ".json"),
-                   "--state", simState_, "--record", record_};
+  QStringList args{"serve",   "--scenario", source("/service-sim/scenarios/" + scenario + ".json"),
+                   "--state", simState_,    "--record",
+                   record_};
   if (!resume) args << "--fresh";
   sim_->start(build("/bin/nimbra-service-sim"), args);
   if (!sim_->waitForStarted(10000)) return ::testing::AssertionFailure() << "the simulator does not start";
@@ -318,7 +321,8 @@ bool AgentDesktop::waitForAgentFocus(int ms) {
         return code == 0 && activeWindow() == window;
       },
       10000);
-  if (!ok) return ::testing::AssertionFailure() << "window " << window.toStdString() << " never became active";
+  if (!ok)
+    return ::testing::AssertionFailure() << "window " << window.toStdString() << " never became active";
   return ::testing::AssertionSuccess();
 }
 
@@ -332,7 +336,8 @@ QRect AgentDesktop::trayIcon() const {
   const QStringList lines = run("xwininfo", {"-root", "-tree"}).split('\n');
   int panelIndent = -1;
   static const QRegularExpression icon(
-      "\"nimbra-backup-agent\": \\(\"nimbra-backup-agent\".*\\s(\\d+)x(\\d+)\\+-?\\d+\\+-?\\d+\\s+\\+(-?\\d+)\\+(-?\\d+)");
+      "\"nimbra-backup-agent\": "
+      "\\(\"nimbra-backup-agent\".*\\s(\\d+)x(\\d+)\\+-?\\d+\\+-?\\d+\\s+\\+(-?\\d+)\\+(-?\\d+)");
   for (const QString& line : lines) {
     const int indent = line.indexOf(QRegularExpression("\\S"));
     if (line.contains("\"tint2\": (\"tint2\"")) {
@@ -346,7 +351,8 @@ QRect AgentDesktop::trayIcon() const {
     }
     const QRegularExpressionMatch m = icon.match(line);
     if (m.hasMatch() && m.captured(1).toInt() > 4)
-      return QRect(m.captured(3).toInt(), m.captured(4).toInt(), m.captured(1).toInt(), m.captured(2).toInt());
+      return QRect(m.captured(3).toInt(), m.captured(4).toInt(), m.captured(1).toInt(),
+                   m.captured(2).toInt());
   }
   return {};
 }
@@ -356,9 +362,10 @@ TrayPicture AgentDesktop::trayPicture() const {
   if (where.isEmpty()) return TrayPicture::Missing;
   const QString png = QString::fromStdString(scratch_->path()) + "/tray.png";
   int code = -1;
-  run("import", {"-window", "root", "-crop",
-                 QStringLiteral("%1x%2+%3+%4").arg(where.width()).arg(where.height()).arg(where.x()).arg(where.y()),
-                 png},
+  run("import",
+      {"-window", "root", "-crop",
+       QStringLiteral("%1x%2+%3+%4").arg(where.width()).arg(where.height()).arg(where.x()).arg(where.y()),
+       png},
       &code);
   if (code != 0) return TrayPicture::Missing;
   return classifyTrayPicture(QImage(png));
@@ -370,8 +377,8 @@ bool AgentDesktop::waitForTrayPicture(TrayPicture want, int ms) {
 
 void AgentDesktop::clickTrayIcon(int button) {
   const QRect where = trayIcon();
-  run("xdotool", {"mousemove", "--sync", QString::number(where.center().x()), QString::number(where.center().y()),
-                  "click", QString::number(button)});
+  run("xdotool", {"mousemove", "--sync", QString::number(where.center().x()),
+                  QString::number(where.center().y()), "click", QString::number(button)});
 }
 
 int AgentDesktop::screenPixels(const QColor& colour, int tolerance) {
@@ -415,7 +422,8 @@ QJsonArray AgentDesktop::notifications() const {
 }
 
 QString AgentDesktop::shot(const QString& step) {
-  const QString path = shotDir_ + QStringLiteral("/%1-%2.png").arg(++shots_, 2, 10, QLatin1Char('0')).arg(step);
+  const QString path =
+      shotDir_ + QStringLiteral("/%1-%2.png").arg(++shots_, 2, 10, QLatin1Char('0')).arg(step);
   desktop_->screenshot(path);
   return path;
 }

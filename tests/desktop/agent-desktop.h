@@ -17,12 +17,12 @@
 
 #include <QColor>
 #include <QImage>
-#include <QSize>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QRect>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 #include <QVector>

@@ -86,15 +86,17 @@ TEST_F(FirstRun, KeyboardOnlyFromWelcomeToTheTrayPopup) {
   const QVector<Request> all = records();
   QStringList first;
   for (int i = 0; i < all.size() && first.size() < 7; ++i) first << all[i].action();
-  EXPECT_EQ(first, QStringList({"get_connection_info", "get_auth", "get_token", "get_site_info", "create_device",
-                                "backup_now", "get_connection_info"}))
+  EXPECT_EQ(first, QStringList({"get_connection_info", "get_auth", "get_token", "get_site_info",
+                                "create_device", "backup_now", "get_connection_info"}))
       << actions().join(' ').toStdString();
-  const auto create = std::find_if(all.begin(), all.end(), [](const Request& r) { return r.action() == "create_device"; });
+  const auto create =
+      std::find_if(all.begin(), all.end(), [](const Request& r) { return r.action() == "create_device"; });
   ASSERT_NE(create, all.end());
   EXPECT_EQ(create->request.value("zid").toString(), "EU");
   EXPECT_EQ(create->request.value("subscription_id").toString(), "sub-eu-19c2");
   EXPECT_EQ(create->request.value("account_type").toString(), "vell");
-  const auto token = std::find_if(all.begin(), all.end(), [](const Request& r) { return r.action() == "get_token"; });
+  const auto token =
+      std::find_if(all.begin(), all.end(), [](const Request& r) { return r.action() == "get_token"; });
   ASSERT_NE(token, all.end());
   EXPECT_FALSE(token->request.value("token").toString().isEmpty());
 

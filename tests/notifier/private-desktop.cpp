@@ -178,8 +178,11 @@ QString PrivateDesktop::startTray() {
   tint2_->setStandardErrorFile(scratch_ + "/tint2.log", QIODevice::Append);
   tint2_->start("tint2", {"-c", config});
   if (!tint2_->waitForStarted(5000)) return "tint2 does not start: " + tint2_->errorString();
-  if (!wait_until([&] { return !run("xdotool", {"search", "--onlyvisible", "--class", "tint2"}).isEmpty(); },
-                  20000))
+  if (!wait_until(
+          [&] {
+            return !run("xdotool", {"search", "--onlyvisible", "--class", "tint2"}).isEmpty();
+          },
+          20000))
     return "tint2 shows no panel";
   return {};
 }
