@@ -7,6 +7,9 @@
 #include <QJsonObject>
 #include <QThread>
 
+#include <signal.h>
+#include <sys/prctl.h>
+
 namespace notifier_test {
 namespace {
 
@@ -43,8 +46,14 @@ bool wait_until(const std::function<bool()>& done, int ms) {
 
 PrivateDesktop::PrivateDesktop(QString scratch) : scratch_(std::move(scratch)) {}
 
+void ChildProcess::setupChildProcess() {
+  ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+}
+
 PrivateDesktop::~PrivateDesktop() {
   stopDunst();
+  stop(tint2_);
+  stop(openbox_);
   stop(bus_);
   stop(xvfb_);
 }
@@ -76,18 +85,28 @@ QString PrivateDesktop::startBus() {
                      "<policy context=\"default\"><allow send_destination=\"*\" eavesdrop=\"true\"/>\n"
                      "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>\n")
                  .arg(scratch_));
-  bus_ = std::make_unique<QProcess>();
+  bus_ = std::make_unique<ChildProcess>();
   return startReading(*bus_, "dbus-daemon", {"--config-file=" + config, "--nofork", "--print-address=1"},
                       bus_address_);
 }
 
-QString PrivateDesktop::startDisplay() {
-  xvfb_ = std::make_unique<QProcess>();
+QString PrivateDesktop::startDisplay(const QString& screen) {
+  xvfb_ = std::make_unique<ChildProcess>();
   QString number;
-  const QString why = startReading(
-      *xvfb_, "Xvfb", {"-displayfd", "1", "-screen", "0", "800x600x24", "-nolisten", "tcp"}, number);
+  const QString why =
+      startReading(*xvfb_, "Xvfb", {"-displayfd", "1", "-screen", "0", screen, "-nolisten", "tcp"}, number);
   display_ = ":" + number;
-  return why;
+  if (!why.isEmpty()) return why;
+  // Ready means a client can connect: ask the root window for a property.
+  int code = -1;
+  if (!wait_until(
+          [&] {
+            run("xprop", {"-root", "-len", "1", "_XKB_RULES_NAMES"}, &code);
+            return code == 0;
+          },
+          10000))
+    return "no client can open display " + display_;
+  return {};
 }
 
 QString PrivateDesktop::startDunst() {
@@ -104,7 +123,7 @@ QString PrivateDesktop::startDunst() {
                              "[urgency_low]\n    timeout = 0\n[urgency_normal]\n    timeout = 0\n"
                              "[urgency_critical]\n    timeout = 0\n")
                          .arg(menu));
-  dunst_ = std::make_unique<QProcess>();
+  dunst_ = std::make_unique<ChildProcess>();
   dunst_->setProcessEnvironment(environment());
   dunst_->setStandardOutputFile(scratch_ + "/dunst.log");
   dunst_->setStandardErrorFile(scratch_ + "/dunst.log", QIODevice::Append);
@@ -119,6 +138,59 @@ QString PrivateDesktop::startDunst() {
           10000))
     return "dunst does not answer on the bus";
   return {};
+}
+
+QString PrivateDesktop::startWindowManager() {
+  // A window manager that supports _NET_ACTIVE_WINDOW announces itself on
+  // the root window. openbox that ends before that (it found the display
+  // busy) gets another start.
+  QElapsedTimer clock;
+  clock.start();
+  while (clock.elapsed() < 20000) {
+    openbox_ = std::make_unique<ChildProcess>();
+    openbox_->setProcessEnvironment(environment());
+    openbox_->setStandardOutputFile(scratch_ + "/openbox.log", QIODevice::Append);
+    openbox_->setStandardErrorFile(scratch_ + "/openbox.log", QIODevice::Append);
+    openbox_->start("openbox", {"--sm-disable"});
+    if (!openbox_->waitForStarted(5000)) return "openbox does not start: " + openbox_->errorString();
+    if (wait_until(
+            [&] {
+              return openbox_->state() == QProcess::NotRunning ||
+                     run("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"}).contains("window id");
+            },
+            15000) &&
+        openbox_->state() == QProcess::Running)
+      return {};
+    stop(openbox_);
+  }
+  return "openbox does not manage the screen";
+}
+
+QString PrivateDesktop::startTray() {
+  const QString config = scratch_ + "/tint2rc";
+  // A panel along the bottom with the task bar, the tray and a clock.
+  write_text(config, QStringLiteral("panel_items = TSC\npanel_position = bottom center horizontal\n"
+                                    "panel_size = 100% 30\nsystray_padding = 4 2 4\nsystray_icon_size = 22\n"
+                                    "time1_format = %H:%M\n"));
+  tint2_ = std::make_unique<ChildProcess>();
+  tint2_->setProcessEnvironment(environment());
+  tint2_->setStandardOutputFile(scratch_ + "/tint2.log");
+  tint2_->setStandardErrorFile(scratch_ + "/tint2.log", QIODevice::Append);
+  tint2_->start("tint2", {"-c", config});
+  if (!tint2_->waitForStarted(5000)) return "tint2 does not start: " + tint2_->errorString();
+  if (!wait_until(
+          [&] {
+            return !run("xdotool", {"search", "--onlyvisible", "--class", "tint2"}).isEmpty();
+          },
+          20000))
+    return "tint2 shows no panel";
+  return {};
+}
+
+QString PrivateDesktop::screenshot(const QString& png) const {
+  int code = -1;
+  run("import", {"-window", "root", png}, &code);
+  return code == 0 ? QString() : "no screenshot " + png;
 }
 
 void PrivateDesktop::stopDunst() {

@@ -1,7 +1,9 @@
 #pragma once
 // A desktop of the test's own: an Xvfb display, a private session bus (with
-// no activatable services) and, when asked, dunst as its notification
-// service, all started in a scratch folder and stopped with the object.
+// no activatable services) and, when asked, openbox as its window manager,
+// tint2 as its panel with a system tray and dunst as its notification
+// service, all started in a scratch folder and stopped with the object (and
+// killed by the system should the test process die first).
 // The helpers read what dunst shows (its history and the actions of its
 // context menu, through a menu program that records the menu and picks a line).
 
@@ -28,9 +30,16 @@ class PrivateDesktop {
 
   // Each returns an empty text on success, else what failed.
   QString startBus();
-  QString startDisplay();
+  QString startDisplay(const QString& screen = QStringLiteral("800x600x24"));
+  // openbox; returns once it manages the screen.
+  QString startWindowManager();
+  // tint2 with its system tray; returns once the panel is shown.
+  QString startTray();
   QString startDunst();
   void stopDunst();
+
+  // A picture of the whole screen; empty on success.
+  QString screenshot(const QString& png) const;
 
   // The environment of programs on this desktop: DISPLAY, the bus address,
   // and XDG_STATE_HOME in the scratch folder.
@@ -55,6 +64,18 @@ class PrivateDesktop {
   std::unique_ptr<QProcess> bus_;
   std::unique_ptr<QProcess> xvfb_;
   std::unique_ptr<QProcess> dunst_;
+  std::unique_ptr<QProcess> openbox_;
+  std::unique_ptr<QProcess> tint2_;
+};
+
+// A QProcess whose program is killed when the process that started it ends,
+// so that a test stopped by its time limit leaves nothing behind.
+class ChildProcess : public QProcess {
+ public:
+  using QProcess::QProcess;
+
+ protected:
+  void setupChildProcess() override;
 };
 
 }  // namespace notifier_test

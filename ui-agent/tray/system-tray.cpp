@@ -229,6 +229,8 @@ void SystemTray::slotApplicationStateChanged(Qt::ApplicationState state) {
   // the about or activity window) took the focus: that is no click.
   QWidget* active = QApplication::activeWindow();
   if (active && active != container_) return;
+  // Nor is the icon's own right-click menu (a pop-up, never the active window).
+  if (rightMenu_ && rightMenu_->isVisible()) return;
   click();
 }
 

@@ -1,0 +1,126 @@
+#pragma once
+// The whole agent on a desktop of its own, driven as a person drives it.
+//
+// Each test gets an Xvfb display, a private session bus, openbox, tint2 (its
+// system tray; left out for the no-tray case) and dunst; its own simulator
+// playing a scenario with a request record; its own pipe namespace, working
+// space, XDG folders and log folder; and the real nimbra-backup-agent. The
+// browser is a script (BROWSER) that fetches the simulator's sign-in page,
+// submits it and hands the returned nimbrabackup:// address to
+// `nimbra-backup-agent URL`, as the desktop's URL handler does.
+//
+// Every wait is for a condition with a deadline; every process is stopped in
+// TearDown (and killed by the system if the test process dies first).
+// Screenshots go to $NIMBRA_BUILD_DIR/tests/desktop-shots/<test>/.
+
+#include <gtest/gtest.h>
+
+#include <QColor>
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QRect>
+#include <QSize>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+#include <functional>
+#include <memory>
+
+#include "notifier/private-desktop.h"
+#include "support/temp-dir.h"
+
+namespace desktop_test {
+
+// One line of the simulator's record.
+struct Request {
+  qint64 time_ms = 0;
+  QJsonObject request;
+  QString action() const { return request.value("action").toString(); }
+};
+
+// The tray icon's picture as a person sees it, read from its pixels.
+enum class TrayPicture { Missing, Connect, Running, Success, Error, Warning };
+const char* pictureName(TrayPicture p);
+// The picture whose colour (blue, green, red, orange) most pixels of `icon`
+// carry; Connect when none of them shows.
+TrayPicture classifyTrayPicture(const QImage& icon);
+
+class AgentDesktop : public ::testing::Test {
+ protected:
+  void SetUp() override;
+  void TearDown() override;
+
+  // Overridden by the no-tray tests.
+  virtual bool withTray() const { return true; }
+
+  // The simulator with service-sim/scenarios/<scenario>.json and a fresh
+  // state; `resume` keeps the state of an earlier run (a restart).
+  ::testing::AssertionResult startSim(const QString& scenario, bool resume = false);
+  void stopSim(bool kill = false);
+  ::testing::AssertionResult startAgent(const QStringList& args = {});
+  // A second launch (as the desktop file runs it); its exit code, -1 when
+  // it did not end in time.
+  int launchAgain(const QStringList& args);
+  // True when the agent ended within `ms`; its exit code in `code`.
+  bool waitForAgentExit(int ms, int* code = nullptr);
+
+  // Polls `done` until it holds or `ms` passes.
+  static bool waitUntil(const std::function<bool()>& done, int ms);
+
+  // What the simulator was asked, in order.
+  QVector<Request> records() const;
+  QStringList actions() const;
+  bool waitForAction(const QString& action, int ms, int count = 1);
+  int countOf(const QString& action) const;
+  // The agent's log (every file of its log folder).
+  QString agentLog() const;
+
+  // Visible top-level windows of the agent whose title matches `regex`.
+  QStringList agentWindows(const QString& regex = QStringLiteral("^Nimbra Backup$")) const;
+  QString activeWindow() const;
+  // True once the focused window belongs to the agent (what a person's keys reach).
+  bool waitForAgentFocus(int ms);
+  // Activates `window` the way a click on it would, then types `keys`
+  // (xdotool key names) into whatever has the focus, as a keyboard does.
+  ::testing::AssertionResult activate(const QString& window);
+  void keys(const QStringList& keys);
+
+  // The tray icon's place on the screen (inside tint2's tray); empty when
+  // the tray shows no icon of the agent.
+  QRect trayIcon() const;
+  TrayPicture trayPicture() const;
+  bool waitForTrayPicture(TrayPicture want, int ms);
+  void clickTrayIcon(int button = 1);
+
+  // Pixels of the screen within `tolerance` (sum of channel differences) of
+  // `colour`: what a page shows in bulk tells which page is up.
+  int screenPixels(const QColor& colour, int tolerance = 6);
+  // The size of a window, empty when it is gone.
+  QSize windowSize(const QString& window) const;
+  // The agent's visible pop-up (its tray menu, about 400 x 232), empty when none.
+  QString popup() const;
+
+  // dunst's history (newest first).
+  QJsonArray notifications() const;
+
+  // A screenshot of the whole screen named NN-<step>.png, and the path.
+  QString shot(const QString& step);
+  // Runs a program on the desktop, returning its standard output.
+  QString run(const QString& program, const QStringList& args, int* code = nullptr) const;
+
+  QString source(const QString& rel) const;
+  QString build(const QString& rel) const;
+
+  std::unique_ptr<nimbra_test::TempDir> scratch_;
+  std::unique_ptr<notifier_test::PrivateDesktop> desktop_;
+  std::unique_ptr<QProcess> sim_, agent_;
+  QProcessEnvironment env_;
+  QString record_, simState_, shotDir_, signinUrl_;
+  int shots_ = 0;
+};
+
+}  // namespace desktop_test
