@@ -50,8 +50,14 @@ UpdateStatusDialog::UpdateStatusDialog(QWidget* parent) : QDialog(parent) {
   bottom->setSpacing(0);
   bottom->addStretch(1);
   bottom->addWidget(ok_);
+  // The rows bring their own side margins: 10 + 72 + 8 + 300 + 10 is the
+  // dialog's whole width, so the outer box adds none beside them (the
+  // style's default would push the text to the right edge).
   auto* v = new QVBoxLayout(this);
+  v->setContentsMargins(0, DPIinfo::scaled(16), 0, 0);
+  v->setSpacing(0);
   v->addLayout(top);
+  v->addStretch(1);
   v->addLayout(bottom);
 
   setFixedSize(DPIinfo::scaled(400), DPIinfo::scaled(148));

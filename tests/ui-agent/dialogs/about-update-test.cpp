@@ -70,6 +70,34 @@ TEST_F(UpdateDialog, MessageAndButton) {
   EXPECT_EQ(dialog_.message(), text(Str::desc_update_service_fail));
 }
 
+// Laid out on screen, the 300 px message keeps a 10 px margin to the right
+// edge (the row is 10 + 72 + 8 + 300 + 10 = 400 wide), its wrapped lines fit
+// its height and the button stays inside the dialog.
+TEST_F(UpdateDialog, MessageAndButtonKeepTheirMarginsOnceShown) {
+  for (const bool failed : {false, true}) {
+    dialog_.setMessage(text(failed ? Str::desc_update_service_fail : Str::desc_updating_service));
+    dialog_.setButtonVisible(failed);
+    dialog_.show();
+    QApplication::processEvents();
+    const auto* message = dialog_.findChild<QLabel*>("UpdateStatusMessage");
+    const auto* icon = dialog_.findChild<QLabel*>("UpdateStatusIcon");
+    ASSERT_NE(message, nullptr);
+    ASSERT_NE(icon, nullptr);
+    SCOPED_TRACE(failed ? "failed" : "updating");
+    EXPECT_EQ(message->width(), 300);
+    EXPECT_LE(message->geometry().right() + 1, dialog_.width() - 10);
+    EXPECT_GE(message->x(), icon->geometry().right() + 1 + 8);
+    EXPECT_GE(icon->x(), 10);
+    EXPECT_GE(message->height(), message->heightForWidth(message->width()));
+    if (failed) {
+      EXPECT_LE(ok()->geometry().right() + 1, dialog_.width() - 10);
+      EXPECT_LE(ok()->geometry().bottom() + 1, dialog_.height() - 10);
+      EXPECT_GE(ok()->y(), message->geometry().bottom());
+    }
+    dialog_.hide();
+  }
+}
+
 enum class Way { OkButton, OkByReturn, Escape, CloseButton };
 void PrintTo(Way w, std::ostream* os) {
   *os << (w == Way::OkButton     ? "ok"
