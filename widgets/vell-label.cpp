@@ -1,5 +1,9 @@
 #include "vell-label.h"
 
+#include <cmath>
+
+#include <QEvent>
+#include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QTextDocument>
@@ -20,6 +24,31 @@ void VellLabel::setElideMode(Qt::TextElideMode mode) {
 void VellLabel::setText(const QString& text) {
   full_ = text;
   applyElide();
+  // The shown text may stay the same (elided alike) while the whole one changed.
+  updateGeometry();
+}
+
+bool VellLabel::elides() const {
+  return elide_ != Qt::ElideNone && !Qt::mightBeRichText(full_) && !wordWrap();
+}
+
+QSize VellLabel::withText(QSize hint, const QString& wanted) const {
+  // Whole pixels at least as wide as the text, so that it then fits.
+  const QFontMetricsF fm(font(), this);
+  const int shown = static_cast<int>(std::ceil(fm.horizontalAdvance(text())));
+  hint.setWidth(qMax(0, hint.width() - shown + static_cast<int>(std::ceil(fm.horizontalAdvance(wanted)))));
+  return hint;
+}
+
+QSize VellLabel::sizeHint() const {
+  const QSize hint = QLabel::sizeHint();
+  return elides() ? withText(hint, full_) : hint;
+}
+
+QSize VellLabel::minimumSizeHint() const {
+  const QSize hint = QLabel::minimumSizeHint();
+  if (!elides() || full_.isEmpty()) return hint;
+  return withText(hint, QString(QChar(0x2026)));
 }
 
 void VellLabel::resizeEvent(QResizeEvent* event) {
@@ -27,13 +56,22 @@ void VellLabel::resizeEvent(QResizeEvent* event) {
   if (elide_ != Qt::ElideNone) applyElide();
 }
 
+void VellLabel::changeEvent(QEvent* event) {
+  QLabel::changeEvent(event);
+  if (elide_ != Qt::ElideNone && (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange))
+    applyElide();
+}
+
 void VellLabel::applyElide() {
-  if (elide_ == Qt::ElideNone || Qt::mightBeRichText(full_) || wordWrap()) {
+  if (!elides()) {
     QLabel::setText(full_);
     return;
   }
   const int room = contentsRect().width() - 2 * margin() - (indent() > 0 ? 2 * indent() : 0);
-  const QString shown = fontMetrics().elidedText(full_, elide_, qMax(room, 0));
+  // A text exactly as wide as the room stays whole (elidedText would cut
+  // it over a fraction of a pixel, and the layout gives just that width).
+  const QFontMetricsF fm(font(), this);
+  const QString shown = fm.horizontalAdvance(full_) <= room ? full_ : fm.elidedText(full_, elide_, qMax(room, 0));
   QLabel::setText(shown);
   setToolTip(shown == full_ ? QString() : full_);
 }

@@ -18,10 +18,22 @@ class VellLabel : public QLabel {
   // The text as set, before any eliding.
   QString fullText() const { return full_; }
 
+  // While eliding, a layout is asked for room for the whole text and may
+  // squeeze the label down to the ellipsis: the shown text follows the
+  // width the label really gets, not the other way round.
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
  protected:
   void resizeEvent(QResizeEvent* event) override;
+  // A style sheet's font reaches the label when it is polished, after the
+  // text was set: the text is elided again for it.
+  void changeEvent(QEvent* event) override;
 
  private:
+  bool elides() const;
+  // `hint` made for the shown text, with `wanted` in its place.
+  QSize withText(QSize hint, const QString& wanted) const;
   void applyElide();
   Qt::TextElideMode elide_ = Qt::ElideNone;
   QString full_;

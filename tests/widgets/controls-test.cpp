@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 #include "dpi-info.h"
@@ -166,6 +167,61 @@ TEST_F(WidgetsControls, LabelElidesToItsWidthWithFullTextAsToolTip) {
   label.setText("short");
   EXPECT_EQ(label.text(), "short");
   EXPECT_TRUE(label.toolTip().isEmpty());
+}
+
+// In a layout that may give it up to 296 px (a stretch beside it), a label
+// elides against the width it ends up with once shown, and asks the layout
+// for its whole text: it must not shrink to the first letter.
+TEST_F(WidgetsControls, LabelInALayoutGetsRoomForItsWholeTextOnceShown) {
+  QWidget page;
+  auto* row = new QHBoxLayout(&page);
+  auto* label = new VellLabel(&page);
+  label->setStyleSheet("QLabel { font-size: 16px; font-weight: bold; }");
+  label->setMaximumWidth(296);
+  label->setElideMode(Qt::ElideRight);
+  label->setText("Backing up...");
+  row->addWidget(label);
+  row->addStretch();
+  page.resize(400, 60);
+  page.show();
+  QApplication::processEvents();
+  EXPECT_EQ(label->text(), "Backing up...");
+  EXPECT_TRUE(label->toolTip().isEmpty());
+  // A longer text takes the room up to the maximum, and only then elides.
+  label->setText(QString(60, QLatin1Char('m')));
+  QApplication::processEvents();
+  EXPECT_EQ(label->width(), 296);
+  EXPECT_TRUE(label->text().endsWith(QChar(0x2026)));
+  label->setText("Backed up");
+  QApplication::processEvents();
+  EXPECT_EQ(label->text(), "Backed up");
+  // Squeezed by its window, it elides instead of overflowing.
+  page.resize(80, 60);
+  QApplication::processEvents();
+  EXPECT_LE(label->width(), 80);
+  EXPECT_TRUE(label->text().endsWith(QChar(0x2026)));
+}
+
+// The elision follows the label's font: a style sheet's font arrives after
+// the text was set (when the label is polished).
+TEST_F(WidgetsControls, LabelElidesAgainWhenItsFontChanges) {
+  VellLabel label;
+  QFont big = label.font();
+  big.setPixelSize(40);
+  label.setFont(big);
+  label.setElideMode(Qt::ElideRight);
+  QFont small = big;
+  small.setPixelSize(10);
+  label.setFixedWidth(QFontMetrics(small).horizontalAdvance("Backing up...") + 8);
+  label.setText("Backing up...");
+  EXPECT_NE(label.text(), "Backing up...");
+  label.setFont(small);
+  EXPECT_EQ(label.text(), "Backing up...");
+  label.setFont(big);
+  EXPECT_NE(label.text(), "Backing up...");
+  label.setStyleSheet("QLabel { font-size: 10px; }");
+  label.ensurePolished();
+  EXPECT_EQ(label.text(), "Backing up...");
 }
 
 TEST_F(WidgetsControls, ScrollAreaContentFollowsTheViewportWidth) {

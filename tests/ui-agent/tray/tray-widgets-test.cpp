@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <QApplication>
 #include <memory>
 #include <QLabel>
 #include <QLineEdit>
@@ -28,6 +29,7 @@
 #include "tray/tray-menu.h"
 #include "tray/tray-progress-widget.h"
 #include "tray/tray-status-widget.h"
+#include "vell-label.h"
 
 using tray_test::entry;
 
@@ -138,6 +140,27 @@ TEST_F(TrayWidgets, ProgressPageCountsDownWhileStalled) {
   EXPECT_EQ(accessibleName(child(page, "progressPhase")), QStringLiteral("Preparing for backup..."));
   EXPECT_EQ(child<QLabel>(page, "progressPercent")->text(), QStringLiteral("25%"));
   EXPECT_EQ(child<QProgressBar>(page, "progressBar")->value(), 2500);
+}
+
+// Shown in the pop-up, the page titles are whole: each has the room of its
+// column, whatever width it had when its text was set.
+TEST_F(TrayWidgets, PageTitlesAreWholeOnceShown) {
+  menu_->updateServiceStatus(static_cast<ServiceStatus>(0x3003),
+                             agent_test::parse(R"({"connected":true,"transfer":{"transfer":400,"total":1600,"speed":10}})"));
+  menu_->show();
+  QApplication::processEvents();
+  auto* phase = child<VellLabel>(menu_->progressPage(), "progressPhase");
+  ASSERT_TRUE(phase->isVisible());
+  EXPECT_FALSE(phase->fullText().isEmpty());
+  EXPECT_EQ(phase->text(), phase->fullText());
+  EXPECT_GE(phase->width(), phase->fontMetrics().horizontalAdvance(phase->fullText()));
+  menu_->updateServiceStatus(static_cast<ServiceStatus>(0x2000), agent_test::parse(R"({"connected":true})"));
+  QApplication::processEvents();
+  auto* result = child<VellLabel>(menu_->statusPage(), "statusResult");
+  ASSERT_TRUE(result->isVisible());
+  EXPECT_FALSE(result->fullText().isEmpty());
+  EXPECT_EQ(result->text(), result->fullText());
+  menu_->hide();
 }
 
 // ---- kept entries --------------------------------------------------------------
