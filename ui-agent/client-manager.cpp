@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QLabel>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
@@ -224,6 +225,26 @@ void ClientManager::slotTrayClickedWithoutConnection() {
   wizard->bringToFront();
 }
 
+namespace {
+
+// A message box styled by name: the box sizes itself from its label's
+// minimum width, measured here in the style sheet's font (left alone, it
+// measures before that font arrives and a line runs past the edge); longer
+// texts wrap. Buttons show text only, without the icons a desktop theme
+// gives the standard buttons.
+void finishMessageBox(QMessageBox& box) {
+  box.ensurePolished();
+  if (auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
+    label->ensurePolished();
+    const int wanted = label->fontMetrics().horizontalAdvance(label->text()) + 2;
+    label->setMinimumWidth(qMin(wanted, DPIinfo::scaled(420)));
+    label->setWordWrap(true);
+  }
+  for (QAbstractButton* button : box.buttons()) button->setIcon(QIcon());
+}
+
+}  // namespace
+
 void ClientManager::slotLogoutService() {
   QMessageBox box;
   box.setObjectName(QStringLiteral("LogoutConfirm"));
@@ -238,6 +259,7 @@ void ClientManager::slotLogoutService() {
   apply->setStyleSheet(getStyleSheet(QStringLiteral("component.apply_button")));
   box.setDefaultButton(cancel);
   box.setEscapeButton(cancel);
+  finishMessageBox(box);
   box.exec();
   if (box.clickedButton() != apply) return;
   sendAction("logout");
@@ -254,6 +276,7 @@ void ClientManager::slotExitApplication() {
   QPushButton* ok = box.addButton(QMessageBox::Ok);
   ok->setText(ComponentStrings::getInstance()->string(QStringLiteral("ok")));
   ok->setStyleSheet(getStyleSheet(QStringLiteral("component.apply_button")));
+  finishMessageBox(box);
   box.exec();
   QCoreApplication::quit();
 }
