@@ -245,6 +245,7 @@ void ClientManager::slotLogoutService() {
 }
 
 void ClientManager::slotExitApplication() {
+  CM_LOG_INFO("exit chosen: the agent tells the user and ends");
   if (tray) tray->setConnectionMode(0);
   QMessageBox box;
   box.setObjectName(QStringLiteral("ExitNotice"));
@@ -468,7 +469,6 @@ void ClientManager::onSiteInfo(const Json::Value& response) {
 
 bool ClientManager::askBackupNow() {
   VellMessageSheet sheet(VellMessageSheet::Question, wizard, true, QMessageBox::Discard | QMessageBox::Apply);
-  sheet.setObjectName(QStringLiteral("BackupNowSheet"));
   sheet.setFixedHeight(DPIinfo::scaled(158));
   sheet.setMaximumWidth(DPIinfo::scaled(480));
   VellMask::createMask(&sheet, wizard, QColor(0, 0, 0, 20));
@@ -484,8 +484,10 @@ bool ClientManager::askBackupNow() {
     ok->setStyleSheet(getStyleSheet(QStringLiteral("nimbra_button_2")));
     ok->setFixedSize(buttonSize);
   }
+  LOG_DEBUG(vlog::kClientManager, "asking whether to back up now");
   const bool now = sheet.exec() == QMessageBox::Apply;
   sheet.quit();
+  LOG_DEBUG(vlog::kClientManager, "back up now: %s", now ? "yes" : "not now");
   return now;
 }
 

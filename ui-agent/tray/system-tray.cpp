@@ -157,6 +157,7 @@ void SystemTray::applyIcon() {
   const QString name = tray_theme::iconName(status_, theme_->isSystemDarkTheme());
   if (name == iconName_ && !icon().isNull()) return;
   iconName_ = name;
+  LOG_DEBUG(vlog::kDefaultComponent, "tray icon: %s (status %d)", name.toUtf8().constData(), static_cast<int>(status_));
   // Rendered sharp for each size a panel may ask for.
   QIcon picture;
   ImageManager* images = ImageManager::getInstance();
