@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QIcon>
+#include <QLabel>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
@@ -70,7 +72,8 @@ void openInBrowser(const std::string& address, const char* what) {
 // differ (the dialog is asked about every second while the service upgrades).
 void setMinimizable(QWidget* window, bool on) {
   const Qt::WindowFlags flags = window->windowFlags();
-  const Qt::WindowFlags wanted = on ? flags | Qt::WindowMinimizeButtonHint : flags & ~Qt::WindowMinimizeButtonHint;
+  const Qt::WindowFlags wanted =
+      on ? flags | Qt::WindowMinimizeButtonHint : flags & ~Qt::WindowMinimizeButtonHint;
   if (wanted != flags) window->setWindowFlags(wanted);
 }
 
@@ -250,11 +253,18 @@ void ClientManager::slotExitApplication() {
   QMessageBox box;
   box.setObjectName(QStringLiteral("ExitNotice"));
   box.setWindowTitle(text(Str::app_name));
-  box.setText(text(Str::desc_exit_app));
   box.setStyleSheet(getStyleSheet(QStringLiteral("component.info_message_box")));
+  box.setText(text(Str::desc_exit_app));
   QPushButton* ok = box.addButton(QMessageBox::Ok);
   ok->setText(ComponentStrings::getInstance()->string(QStringLiteral("ok")));
+  ok->setIcon(QIcon());
   ok->setStyleSheet(getStyleSheet(QStringLiteral("component.apply_button")));
+  // The style's minimum width of the text would also be its width, and the
+  // box is sized from it: a longer text (this one, and every translation of
+  // it) needs at least its own width.
+  box.ensurePolished();
+  if (auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label")))
+    label->setMinimumWidth(qMax(label->minimumWidth(), label->sizeHint().width()));
   box.exec();
   QCoreApplication::quit();
 }
@@ -262,7 +272,8 @@ void ClientManager::slotExitApplication() {
 // ---- messages from a second launch ------------------------------------------
 
 void ClientManager::slotMessageReceived(const QString& msg) {
-  CM_LOG_INFO("Got message from local peer: %s (%p)", qUtf8Printable(loggable(msg)), static_cast<void*>(this));
+  CM_LOG_INFO("Got message from local peer: %s (%p)", qUtf8Printable(loggable(msg)),
+              static_cast<void*>(this));
   if (msg == QLatin1String("open")) {
     ConnectionInfo info;
     if (StatusStore::instance().getConnectionInfo(info) == 0) showMenuAtIcon();
@@ -297,7 +308,8 @@ void ClientManager::slotMessageReceived(const QString& msg) {
 
 // ---- status and notifications -------------------------------------------------
 
-void ClientManager::slotHandleStatusChange(ServiceStatus, ServiceStatus current, Json::Value current_content) {
+void ClientManager::slotHandleStatusChange(ServiceStatus, ServiceStatus current,
+                                           Json::Value current_content) {
   failureCount = 0;
   StatusStore& store = StatusStore::instance();
   if ((static_cast<int>(current) & 0xF000) == kNotLinked) {
@@ -427,8 +439,7 @@ void ClientManager::onPortalLink(const Json::Value& response) {
   if (jsonx::has(response, "url")) {
     openInBrowser(jsonx::get_string(response, "url"), "portal link");
   } else if (jsonx::has(response, "error")) {
-    showWarningMsg(text(Str::app_name),
-                   service_error::message(service_error::code_of(response), response));
+    showWarningMsg(text(Str::app_name), service_error::message(service_error::code_of(response), response));
   }
 }
 
@@ -520,7 +531,8 @@ void ClientManager::slotQueryServiceFailed() {
   }
   if (verdict == client_manager_rules::Failure::Tolerated) return;
   CM_LOG_ERROR("service unreachable after %d failures: the agent ends", failureCount);
-  disconnect(&GlobalConnecter::instance(), SIGNAL(sigQueryServiceFailed()), this, SLOT(slotQueryServiceFailed()));
+  disconnect(&GlobalConnecter::instance(), SIGNAL(sigQueryServiceFailed()), this,
+             SLOT(slotQueryServiceFailed()));
   showWarningMsg(text(Str::app_name), text(Str::err_query_service_failed));
   QCoreApplication::quit();
 }

@@ -77,6 +77,10 @@ leftovers() {
     p=${e#/proc/}
     p=${p%/environ}
     case "$mine" in *" $p "*) continue ;; esac
+    # The session bus of dbus-run-session, which ends it after the script.
+    case "$mine" in *" $(awk '{ print $4 }' "/proc/$p/stat" 2>/dev/null) "*)
+      [ "$(cat "/proc/$p/comm" 2>/dev/null)" = dbus-daemon ] && continue ;;
+    esac
     if { tr '\0' '\n' <"$e" | grep -qx "NIMBRA_PIPE_NAMESPACE=$NIMBRA_PIPE_NAMESPACE"; } 2>/dev/null; then
       running "$p" && echo "$p"
     fi

@@ -24,7 +24,17 @@ agent_pid=""
 result=1
 
 step() { echo "== $*"; }
-fail() { echo "run-demo: $*" >&2; exit 1; }
+fail() {
+  echo "run-demo: $*" >&2
+  if [ -n "$agent_pid" ] && [ -n "${DISPLAY-}" ]; then
+    local w
+    for w in $(xdotool search --onlyvisible --pid "$agent_pid" 2>/dev/null); do
+      echo "   agent window $w '$(xdotool getwindowname "$w" 2>/dev/null)' $(xdotool getwindowgeometry "$w" 2>/dev/null | tr '\n' ' ')" >&2
+    done
+    shot failed
+  fi
+  exit 1
+}
 
 # ---- what the script looks at --------------------------------------------------
 agent_logged() { grep -qF -- "$1" "$agent_log" 2>/dev/null; }
@@ -38,8 +48,9 @@ notification_service() {
     org.freedesktop.DBus.NameHasOwner string:org.freedesktop.Notifications | grep -q true
 }
 notified() { [ "$(dunstctl count history)" -gt 0 ] || [ "$(dunstctl count displayed)" -gt 0 ]; }
-wizard_window() { xdotool search --onlyvisible --pid "$agent_pid" --name '^Nimbra Backup$' 2>/dev/null | head -n 1; }
+wizard_window() { xdotool search --all --onlyvisible --pid "$agent_pid" --name '^Nimbra Backup$' 2>/dev/null | head -n 1; }
 has_wizard_window() { [ -n "$(wizard_window)" ]; }
+no_popup() { ! has_wizard_window; }
 
 # The icon's window in the panel: the agent's small window inside tint2.
 tray_icon_geometry() {
@@ -205,8 +216,14 @@ echo "   the icon changed $(( $(grep -c 'tray icon:' "$agent_log") - icons_befor
 shot backup-result
 wait_for 10 "the notification of the result" notified ||
   echo "   (no desktop notification arrived)"
+dunstctl close-all >/dev/null 2>&1 || true
 dunstctl history 2>/dev/null | tr -d '\n' | grep -o '"summary" *: *{[^}]*}' |
   sed 's/.*"data" *: *"\(.*\)".*/   notification: \1/' || true
+
+step "A click on the desktop closes the pop-up"
+xdotool mousemove 400 300 click 1
+wait_for 5 "the pop-up to close" no_popup || fail "the pop-up stayed open"
+shot popup-closed
 
 step "Tray menu: right click on the icon, Exit"
 read -r ix iy iw ih < <(tray_icon_geometry)
