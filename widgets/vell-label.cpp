@@ -18,6 +18,9 @@ void VellLabel::setElideMode(Qt::TextElideMode mode) {
 }
 
 void VellLabel::setText(const QString& text) {
+  // Texts are often set again unchanged (the tray's, every second): eliding
+  // lays the text out, so an unchanged text is left as it is.
+  if (text == full_ && QLabel::text() == shown_) return;
   full_ = text;
   applyElide();
 }
@@ -30,11 +33,13 @@ void VellLabel::resizeEvent(QResizeEvent* event) {
 void VellLabel::applyElide() {
   if (elide_ == Qt::ElideNone || Qt::mightBeRichText(full_) || wordWrap()) {
     QLabel::setText(full_);
+    shown_ = full_;
     return;
   }
   const int room = contentsRect().width() - 2 * margin() - (indent() > 0 ? 2 * indent() : 0);
   const QString shown = fontMetrics().elidedText(full_, elide_, qMax(room, 0));
   QLabel::setText(shown);
+  shown_ = shown;
   setToolTip(shown == full_ ? QString() : full_);
 }
 
