@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QIcon>
 #include <QLabel>
 #include <QMessageBox>
 #include <QProcess>
@@ -71,7 +72,8 @@ void openInBrowser(const std::string& address, const char* what) {
 // differ (the dialog is asked about every second while the service upgrades).
 void setMinimizable(QWidget* window, bool on) {
   const Qt::WindowFlags flags = window->windowFlags();
-  const Qt::WindowFlags wanted = on ? flags | Qt::WindowMinimizeButtonHint : flags & ~Qt::WindowMinimizeButtonHint;
+  const Qt::WindowFlags wanted =
+      on ? flags | Qt::WindowMinimizeButtonHint : flags & ~Qt::WindowMinimizeButtonHint;
   if (wanted != flags) window->setWindowFlags(wanted);
 }
 
@@ -267,12 +269,13 @@ void ClientManager::slotLogoutService() {
 }
 
 void ClientManager::slotExitApplication() {
+  CM_LOG_INFO("exit chosen: the agent tells the user and ends");
   if (tray) tray->setConnectionMode(0);
   QMessageBox box;
   box.setObjectName(QStringLiteral("ExitNotice"));
   box.setWindowTitle(text(Str::app_name));
-  box.setText(text(Str::desc_exit_app));
   box.setStyleSheet(getStyleSheet(QStringLiteral("component.info_message_box")));
+  box.setText(text(Str::desc_exit_app));
   QPushButton* ok = box.addButton(QMessageBox::Ok);
   ok->setText(ComponentStrings::getInstance()->string(QStringLiteral("ok")));
   ok->setStyleSheet(getStyleSheet(QStringLiteral("component.apply_button")));
@@ -284,7 +287,8 @@ void ClientManager::slotExitApplication() {
 // ---- messages from a second launch ------------------------------------------
 
 void ClientManager::slotMessageReceived(const QString& msg) {
-  CM_LOG_INFO("Got message from local peer: %s (%p)", qUtf8Printable(loggable(msg)), static_cast<void*>(this));
+  CM_LOG_INFO("Got message from local peer: %s (%p)", qUtf8Printable(loggable(msg)),
+              static_cast<void*>(this));
   if (msg == QLatin1String("open")) {
     ConnectionInfo info;
     if (StatusStore::instance().getConnectionInfo(info) == 0) showMenuAtIcon();
@@ -319,7 +323,8 @@ void ClientManager::slotMessageReceived(const QString& msg) {
 
 // ---- status and notifications -------------------------------------------------
 
-void ClientManager::slotHandleStatusChange(ServiceStatus, ServiceStatus current, Json::Value current_content) {
+void ClientManager::slotHandleStatusChange(ServiceStatus, ServiceStatus current,
+                                           Json::Value current_content) {
   failureCount = 0;
   StatusStore& store = StatusStore::instance();
   if ((static_cast<int>(current) & 0xF000) == kNotLinked) {
@@ -449,8 +454,7 @@ void ClientManager::onPortalLink(const Json::Value& response) {
   if (jsonx::has(response, "url")) {
     openInBrowser(jsonx::get_string(response, "url"), "portal link");
   } else if (jsonx::has(response, "error")) {
-    showWarningMsg(text(Str::app_name),
-                   service_error::message(service_error::code_of(response), response));
+    showWarningMsg(text(Str::app_name), service_error::message(service_error::code_of(response), response));
   }
 }
 
@@ -491,7 +495,6 @@ void ClientManager::onSiteInfo(const Json::Value& response) {
 
 bool ClientManager::askBackupNow() {
   VellMessageSheet sheet(VellMessageSheet::Question, wizard, true, QMessageBox::Discard | QMessageBox::Apply);
-  sheet.setObjectName(QStringLiteral("BackupNowSheet"));
   sheet.setFixedHeight(DPIinfo::scaled(158));
   sheet.setMaximumWidth(DPIinfo::scaled(480));
   VellMask::createMask(&sheet, wizard, QColor(0, 0, 0, 20));
@@ -507,8 +510,10 @@ bool ClientManager::askBackupNow() {
     ok->setStyleSheet(getStyleSheet(QStringLiteral("nimbra_button_2")));
     ok->setFixedSize(buttonSize);
   }
+  LOG_DEBUG(vlog::kClientManager, "asking whether to back up now");
   const bool now = sheet.exec() == QMessageBox::Apply;
   sheet.quit();
+  LOG_DEBUG(vlog::kClientManager, "back up now: %s", now ? "yes" : "not now");
   return now;
 }
 
@@ -541,7 +546,8 @@ void ClientManager::slotQueryServiceFailed() {
   }
   if (verdict == client_manager_rules::Failure::Tolerated) return;
   CM_LOG_ERROR("service unreachable after %d failures: the agent ends", failureCount);
-  disconnect(&GlobalConnecter::instance(), SIGNAL(sigQueryServiceFailed()), this, SLOT(slotQueryServiceFailed()));
+  disconnect(&GlobalConnecter::instance(), SIGNAL(sigQueryServiceFailed()), this,
+             SLOT(slotQueryServiceFailed()));
   showWarningMsg(text(Str::app_name), text(Str::err_query_service_failed));
   QCoreApplication::quit();
 }

@@ -22,6 +22,9 @@ void VellLabel::setElideMode(Qt::TextElideMode mode) {
 }
 
 void VellLabel::setText(const QString& text) {
+  // Texts are often set again unchanged (the tray's, every second): eliding
+  // lays the text out, so an unchanged text is left as it is.
+  if (text == full_ && QLabel::text() == shown_) return;
   full_ = text;
   applyElide();
   // The shown text may stay the same (elided alike) while the whole one changed.
@@ -65,6 +68,7 @@ void VellLabel::changeEvent(QEvent* event) {
 void VellLabel::applyElide() {
   if (!elides()) {
     QLabel::setText(full_);
+    shown_ = full_;
     return;
   }
   const int room = contentsRect().width() - 2 * margin() - (indent() > 0 ? 2 * indent() : 0);
@@ -73,6 +77,7 @@ void VellLabel::applyElide() {
   const QFontMetricsF fm(font(), this);
   const QString shown = fm.horizontalAdvance(full_) <= room ? full_ : fm.elidedText(full_, elide_, qMax(room, 0));
   QLabel::setText(shown);
+  shown_ = shown;
   setToolTip(shown == full_ ? QString() : full_);
 }
 

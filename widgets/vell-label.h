@@ -37,6 +37,7 @@ class VellLabel : public QLabel {
   void applyElide();
   Qt::TextElideMode elide_ = Qt::ElideNone;
   QString full_;
+  QString shown_;  // what applyElide() last put on the label
 };
 
 // A clickable text. It shows a pointing hand, takes keyboard focus (Return,

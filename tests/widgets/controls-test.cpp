@@ -224,6 +224,15 @@ TEST_F(WidgetsControls, LabelElidesAgainWhenItsFontChanges) {
   EXPECT_EQ(label.text(), "Backing up...");
 }
 
+TEST_F(WidgetsControls, LabelShowsAnUnchangedTextAgainAfterClear) {
+  VellLabel label;
+  label.setElideMode(Qt::ElideRight);
+  label.setText("Ready");
+  label.clear();
+  label.setText("Ready");
+  EXPECT_EQ(label.text(), "Ready");
+}
+
 TEST_F(WidgetsControls, ScrollAreaContentFollowsTheViewportWidth) {
   VellVerticalScrollArea area;
   area.resize(300, 100);

@@ -33,7 +33,8 @@ QuotaInfoWidget::QuotaInfoWidget(QWidget* parent) : QWidget(parent) {
 
   usage_area_ = new QWidget(this);
   usage_area_->setObjectName(QStringLiteral("quotaUsageArea"));
-  usage_label_ = new QLabel(QStringLiteral("%1 / %2").arg(QStringLiteral("--"), QStringLiteral("--")), usage_area_);
+  usage_label_ =
+      new QLabel(QStringLiteral("%1 / %2").arg(QStringLiteral("--"), QStringLiteral("--")), usage_area_);
   usage_label_->setObjectName(QStringLiteral("quotaUsageLabel"));
   usage_label_->setFixedSize(DPIinfo::scaled(105), DPIinfo::scaled(20));
   usage_bar_ = new QProgressBar(usage_area_);
@@ -58,7 +59,8 @@ QuotaInfoWidget::QuotaInfoWidget(QWidget* parent) : QWidget(parent) {
   layout->addWidget(account_line_);
   layout->addWidget(usage_area_);
 
-  connect(this, &QuotaInfoWidget::sigUpdateQuota, &GlobalConnecter::instance(), &GlobalConnecter::sigUpdateQuota);
+  connect(this, &QuotaInfoWidget::sigUpdateQuota, &GlobalConnecter::instance(),
+          &GlobalConnecter::sigUpdateQuota);
 }
 
 void QuotaInfoWidget::setAccount(const QString& account) {
@@ -76,9 +78,16 @@ void QuotaInfoWidget::setUsage(const Json::Value& billing) {
   const auto usage = quota_model::usage_for(billing);
   if (!usage) return;
   usage_bar_->setValue(usage->bar);
-  usage_bar_->setStyleSheet(getStyleSheet(usage->style_sheet));
-  usage_label_->setText(usage->label);
-  usage_bar_->setAccessibleName(QTextDocumentFragment::fromHtml(usage->label).toPlainText());
+  // The status comes every second with the same usage mostly: a style sheet
+  // set again polishes the bar again, so only a change is applied.
+  if (usage->style_sheet != shownStyle_) {
+    shownStyle_ = usage->style_sheet;
+    usage_bar_->setStyleSheet(getStyleSheet(usage->style_sheet));
+  }
+  if (usage->label != usage_label_->text()) {
+    usage_label_->setText(usage->label);
+    usage_bar_->setAccessibleName(QTextDocumentFragment::fromHtml(usage->label).toPlainText());
+  }
 }
 
 void QuotaInfoWidget::setUsageAreaVisible(bool visible) {

@@ -41,4 +41,5 @@ class QuotaInfoWidget : public QWidget {
   QWidget* usage_area_;
   QLabel* usage_label_;
   QProgressBar* usage_bar_;
+  QString shownStyle_;  // the bar's style sheet by name
 };

@@ -157,10 +157,13 @@ void SystemTray::applyIcon() {
   const QString name = tray_theme::iconName(status_, theme_->isSystemDarkTheme());
   if (name == iconName_ && !icon().isNull()) return;
   iconName_ = name;
+  LOG_DEBUG(vlog::kDefaultComponent, "tray icon: %s (status %d)", name.toUtf8().constData(),
+            static_cast<int>(status_));
   // Rendered sharp for each size a panel may ask for.
   QIcon picture;
   ImageManager* images = ImageManager::getInstance();
-  for (int size : {16, 20, 22, 24, 32, 48, 64}) picture.addPixmap(images->pixmap(name, QSize(size, size), 1.0));
+  for (int size : {16, 20, 22, 24, 32, 48, 64})
+    picture.addPixmap(images->pixmap(name, QSize(size, size), 1.0));
   setIcon(picture);
 }
 
@@ -226,11 +229,13 @@ void SystemTray::slotIconActivated(QSystemTrayIcon::ActivationReason reason) {
 void SystemTray::slotApplicationStateChanged(Qt::ApplicationState state) {
   if (state != Qt::ApplicationActive) return;
   // The agent became active because one of its own windows (the wizard,
-  // the about or activity window) took the focus: that is no click.
+  // the about or activity window) or one of its menus (the icon's
+  // right-click menu) took the focus: that is no click.
   QWidget* active = QApplication::activeWindow();
   if (active && active != container_) return;
-  // Nor is the icon's own right-click menu (a pop-up, never the active window).
   if (rightMenu_ && rightMenu_->isVisible()) return;
+  QWidget* popup = QApplication::activePopupWidget();
+  if (popup && popup != container_) return;
   click();
 }
 

@@ -92,12 +92,24 @@ TrayStatusWidget::TrayStatusWidget(QWidget* parent) : QWidget(parent) {
 TrayStatusWidget::~TrayStatusWidget() = default;
 
 void TrayStatusWidget::setPicture(const char* name) {
+  if (pictureName_ == QLatin1String(name)) return;
+  pictureName_ = QLatin1String(name);
   const int side = DPIinfo::scaled(48);
   picture_->setPixmap(ImageManager::getInstance()->pixmap(QLatin1String(name), QSize(side, side)));
 }
 
 void TrayStatusWidget::updateStatus(const Json::Value& content) {
+  // The service answers every second, mostly with what it said before: the
+  // page then only moves its age on (laying the texts out again is most of
+  // the agent's work while idle).
+  if (shownTray_ && content == shownContent_) {
+    if (!error_shown_) latest_->refresh(clock_());
+    emit sigTrayStatusChanged(*shownTray_);
+    return;
+  }
+  shownContent_ = content;
   const auto view = tray_status_page::view_for(content);
+  shownTray_ = view.error ? TrayError : view.result.tray;
   setPicture(view.result.picture);
   result_->setText(string_display::text(view.result.text));
   result_->setAccessibleName(result_->fullText());

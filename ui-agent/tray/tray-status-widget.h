@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
 #include "core/log-entry.h"
 #include "core/tray-status.h"
@@ -38,10 +39,16 @@ class TrayStatusWidget : public QWidget {
 
   tray_text::Clock clock_ = tray_text::system_clock();
   QLabel* picture_;
+  // The picture now shown: the status arrives every second and mostly
+  // keeps its picture, which is then not drawn again.
+  QString pictureName_;
   VellLabel* result_;
   QLabel* event_;
   QLabel* age_;
   BackupScheduleInfoWidget* schedule_;
   std::unique_ptr<LatestEventLine> latest_;
   bool error_shown_ = false;
+  // The content last shown and the tray state it gave.
+  Json::Value shownContent_;
+  std::optional<TrayStatus> shownTray_;
 };

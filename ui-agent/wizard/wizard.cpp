@@ -77,11 +77,13 @@ void Wizard::bringToFront() {
 }
 
 void Wizard::showWelcomePage() {
+  LOG_DEBUG(vlog::kDefaultComponent, "wizard: welcome page");
   stack_->setCurrentWidget(welcome_);
   welcome_->startButton()->setFocus(Qt::OtherFocusReason);
 }
 
 void Wizard::showSummaryPage() {
+  LOG_DEBUG(vlog::kDefaultComponent, "wizard: summary page");
   stack_->setCurrentWidget(summary_);
   ServiceStatus status;
   Json::Value content;
@@ -90,6 +92,7 @@ void Wizard::showSummaryPage() {
 }
 
 void Wizard::showSignInSheet() {
+  LOG_DEBUG(vlog::kDefaultComponent, "wizard: sign-in sheet");
   if (!signIn_) {
     signIn_ = new VellMessageSheet(VellMessageSheet::Notice, this, true);
     signIn_->setFixedSize(DPIinfo::scaled(480), DPIinfo::scaled(184));

@@ -16,12 +16,12 @@
 #include "dpi-info.h"
 #include "image-manager.h"
 #include "style-manager.h"
-#include "ui-path-manager.h"
 #include "support/qt-print.h"
 #include "tray/quota-info-widget.h"
 #include "tray/system-tray.h"
 #include "tray/tray-menu.h"
 #include "tray/tray-theme.h"
+#include "ui-path-manager.h"
 
 namespace {
 
@@ -209,6 +209,18 @@ TEST_F(TrayIcon, AnotherAgentWindowTakingTheFocusIsNoClick) {
   EXPECT_FALSE(popup()->isVisible());
   about.hide();
   QApplication::setActiveWindow(nullptr);
+  tray_->slotApplicationStateChanged(Qt::ApplicationActive);
+  EXPECT_TRUE(popup()->isVisible());
+}
+
+TEST_F(TrayIcon, TheRightClickMenuTakingTheFocusIsNoClick) {
+  tray_->setConnectionMode(1);
+  ASSERT_NE(tray_->rightMenu(), nullptr);
+  tray_->rightMenu()->popup(QPoint(640, 700));
+  ASSERT_EQ(QApplication::activePopupWidget(), tray_->rightMenu());
+  tray_->slotApplicationStateChanged(Qt::ApplicationActive);
+  EXPECT_FALSE(popup()->isVisible()) << "the pop-up would cover the menu";
+  tray_->rightMenu()->hide();
   tray_->slotApplicationStateChanged(Qt::ApplicationActive);
   EXPECT_TRUE(popup()->isVisible());
 }

@@ -17,11 +17,12 @@
 #include <QTableWidget>
 #include <QTest>
 #include <QToolButton>
+#include <memory>
 
 #include "core/global-connecter.h"
 #include "core/service-error-text.h"
-#include "dpi-info.h"
 #include "dialogs/settings-widget.h"
+#include "dpi-info.h"
 #include "string-display.h"
 #include "tray-fixture.h"
 #include "tray/log-widget.h"
@@ -70,8 +71,9 @@ class TrayWidgets : public tray_test::TrayTest {
 
 TEST_F(TrayWidgets, PageChoiceAndRelayedTrayStatus) {
   QSignalSpy spy(menu_.get(), &TrayMenu::sigTrayStatusChanged);
-  menu_->updateServiceStatus(static_cast<ServiceStatus>(0x3003),
-                            agent_test::parse(R"({"connected":true,"transfer":{"transfer":1,"total":2,"speed":1}})"));
+  menu_->updateServiceStatus(
+      static_cast<ServiceStatus>(0x3003),
+      agent_test::parse(R"({"connected":true,"transfer":{"transfer":1,"total":2,"speed":1}})"));
   EXPECT_EQ(currentPage(), menu_->progressPage());
   ASSERT_EQ(spy.count(), 1);
   EXPECT_EQ(spy.takeFirst().at(0).value<TrayStatus>(), TrayRunning);
@@ -83,8 +85,9 @@ TEST_F(TrayWidgets, PageChoiceAndRelayedTrayStatus) {
   EXPECT_EQ(spy.takeFirst().at(0).value<TrayStatus>(), TrayError);
 
   // An error category while connected: the status page with the last result.
-  menu_->updateServiceStatus(static_cast<ServiceStatus>(0xF000),
-                            agent_test::parse(R"({"connected":true,"last_backup_result":{"last_backup_status":4}})"));
+  menu_->updateServiceStatus(
+      static_cast<ServiceStatus>(0xF000),
+      agent_test::parse(R"({"connected":true,"last_backup_result":{"last_backup_status":4}})"));
   EXPECT_EQ(currentPage(), menu_->statusPage());
   ASSERT_EQ(spy.count(), 1);
   EXPECT_EQ(spy.takeFirst().at(0).value<TrayStatus>(), TrayError);
@@ -116,11 +119,38 @@ TEST_F(TrayWidgets, StatusPageResultAndErrorPage) {
   EXPECT_EQ(event->toolTip(), service_error::message(5));
 
   // Back to connected: the narrow event line with the newest entry again.
-  page->updateStatus(agent_test::parse(R"({"connected":true,"last_backup_result":{"last_backup_status":4}})"));
+  page->updateStatus(
+      agent_test::parse(R"({"connected":true,"last_backup_result":{"last_backup_status":4}})"));
   EXPECT_EQ(spy.takeLast().at(0).value<TrayStatus>(), TrayError);
   EXPECT_EQ(event->width(), DPIinfo::scaled(177));
   EXPECT_FALSE(age->isHidden());
   EXPECT_TRUE(age->text().contains(QStringLiteral("Just now")));
+}
+
+TEST_F(TrayWidgets, StatusPageRepeatedAnswerKeepsStateAndMovesTheAgeOn) {
+  TrayStatusWidget* page = menu_->statusPage();
+  QSignalSpy spy(page, &TrayStatusWidget::sigTrayStatusChanged);
+  auto* age = child<QLabel>(page, "statusEventAge");
+  menu_->appendLogEntries({entry(7, tray_test::kMoment - 30)});
+  const Json::Value done = agent_test::parse(
+      R"({"connected":true,"last_backup_result":{"last_backup_status":2,"backed_up":true,"last_backup_time":1700000000}})");
+  page->updateStatus(done);
+  ASSERT_EQ(spy.takeLast().at(0).value<TrayStatus>(), TraySuccess);
+  const QString shownAge = age->text();
+  // The same answer a minute later: the state is told again (the icon may
+  // have been reset meanwhile) and the age follows the clock.
+  now_ = tray_test::kMoment + 7200;
+  page->updateStatus(done);
+  ASSERT_EQ(spy.count(), 1);
+  EXPECT_EQ(spy.takeLast().at(0).value<TrayStatus>(), TraySuccess);
+  EXPECT_NE(age->text(), shownAge);
+  EXPECT_EQ(accessibleName(child(page, "statusResult")), QStringLiteral("Successful"));
+  // The same error twice stays an error.
+  const Json::Value lost = agent_test::parse(R"({"connected":false})");
+  page->updateStatus(lost);
+  page->updateStatus(lost);
+  EXPECT_EQ(spy.takeLast().at(0).value<TrayStatus>(), TrayError);
+  EXPECT_TRUE(age->isHidden());
 }
 
 TEST_F(TrayWidgets, ProgressPageCountsDownWhileStalled) {
@@ -204,7 +234,8 @@ TEST_F(TrayWidgets, SettingsOpenOnTheBandwidthAnswer) {
 
   SettingsWidget* settings = menu_->settingsWidget();
   // Another action, even for this sender, is ignored.
-  emit bus.sigQueryServiceDone(menu_.get(), agent_test::parse(R"({"action":"get_status","client_config":{}})"));
+  emit bus.sigQueryServiceDone(menu_.get(),
+                               agent_test::parse(R"({"action":"get_status","client_config":{}})"));
   EXPECT_FALSE(settings->isVisible());
 
   // An answer for another sender is still handled; a client config without
@@ -273,16 +304,17 @@ TEST_F(TrayWidgets, ActivityDialogRows) {
 TEST_F(TrayWidgets, ActivityRowsFitThreeLines) {
   LogWidget log;
   const std::string longName(200, 'x');
-  log.fillEntries({entry(1, tray_test::kMoment, 7039, R"({"volume_name":")" + longName + R"(","error_code":"5"})")});
+  log.fillEntries(
+      {entry(1, tray_test::kMoment, 7039, R"({"volume_name":")" + longName + R"(","error_code":"5"})")});
   auto* table = child<QTableWidget>(&log, "logTable");
   auto* label = qobject_cast<QLabel*>(table->cellWidget(0, 1));
   ASSERT_NE(label, nullptr);
   EXPECT_LE(label->heightForWidth(label->width()), 60);
   EXPECT_TRUE(label->text().contains(QChar(0x2026))) << label->text().toStdString();
-  EXPECT_EQ(table->item(0, 1)->toolTip(), string_display::render_event_message(
-                                              7039, agent_test::parse(R"({"volume_name":")" + longName +
-                                                                      R"(","error_code":"5"})"),
-                                              false, 449));
+  EXPECT_EQ(
+      table->item(0, 1)->toolTip(),
+      string_display::render_event_message(
+          7039, agent_test::parse(R"({"volume_name":")" + longName + R"(","error_code":"5"})"), false, 449));
 }
 
 // ---- quota and menu entries --------------------------------------------------------
@@ -341,8 +373,9 @@ TEST_F(TrayWidgets, AccessibleNamesAndTabOrder) {
   EXPECT_EQ(accessibleName(list), QStringLiteral("Activity"));
   EXPECT_FALSE(accessibleName(user).isEmpty());
   auto* bar = child<QProgressBar>(menu_->progressPage(), "progressBar");
-  menu_->updateServiceStatus(static_cast<ServiceStatus>(0x3003),
-                            agent_test::parse(R"({"connected":true,"transfer":{"transfer":1,"total":8,"speed":1}})"));
+  menu_->updateServiceStatus(
+      static_cast<ServiceStatus>(0x3003),
+      agent_test::parse(R"({"connected":true,"transfer":{"transfer":1,"total":8,"speed":1}})"));
   QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(bar);
   ASSERT_NE(iface, nullptr);
   EXPECT_EQ(iface->text(QAccessible::Name), QStringLiteral("Backing up..."));

@@ -1,0 +1,72 @@
+#pragma once
+// A desktop of the benchmark's own, and the few process and X11 helpers the
+// agent's desktop benchmark needs: Xvfb with openbox and a tint2 panel (a
+// real XEmbed notification area), programs started with extra environment,
+// X events waited for with a deadline, clicks through the XTest extension.
+
+#include <X11/Xlib.h>
+#include <sys/types.h>
+
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace agent_bench {
+
+// Milliseconds on the monotonic clock.
+double now_ms();
+
+// Polls `done` every millisecond for up to `ms`; true once it holds.
+bool wait_until(const std::function<bool()>& done, double ms);
+
+// Starts `argv` with the environment of this process plus `env`, standard
+// output and error appended to `log` (or /dev/null when empty). With
+// `stdout_pipe`, standard output goes to a pipe whose read end is returned
+// there. Returns the pid, or -1.
+pid_t spawn(const std::vector<std::string>& argv, const std::map<std::string, std::string>& env,
+            const std::string& log, int* stdout_pipe = nullptr);
+// SIGTERM, then SIGKILL after `ms`; reaps the process.
+void stop(pid_t pid, int ms = 3000);
+
+// Resident set size in KiB (VmRSS), or -1.
+long rss_kib(pid_t pid);
+// CPU time used by every live thread of the process, in nanoseconds.
+double cpu_ns(pid_t pid);
+
+class Desktop {
+ public:
+  explicit Desktop(std::string scratch);
+  ~Desktop();
+  Desktop(const Desktop&) = delete;
+  Desktop& operator=(const Desktop&) = delete;
+
+  // Xvfb, openbox and tint2; an empty text on success, else what failed.
+  std::string start();
+  Display* x() const { return x_; }
+  Window root() const { return root_; }
+  // DISPLAY for programs on this desktop.
+  const std::string& display() const { return display_; }
+
+  // _NET_WM_PID of a window, or -1.
+  long windowPid(Window w) const;
+  // The window's rectangle in root coordinates.
+  bool geometry(Window w, int& x, int& y, int& width, int& height) const;
+  // Waits up to `ms` for an event that `match` accepts (events it rejects
+  // are dropped). Root's substructure events are selected by start().
+  bool waitEvent(const std::function<bool(const XEvent&)>& match, double ms);
+  void dropEvents();
+  // A left (1) or right (3) click at a root position, through XTest.
+  void click(int x, int y, int button = 1);
+  // The colour of one screen pixel as 0xRRGGBB.
+  unsigned long pixel(int x, int y) const;
+
+ private:
+  std::string scratch_;
+  std::string display_;
+  Display* x_ = nullptr;
+  Window root_ = 0;
+  std::vector<pid_t> pids_;
+};
+
+}  // namespace agent_bench
