@@ -142,8 +142,10 @@ std::vector<double> clicks(Desktop& d, const Running& r, int n) {
 
 bool fileContains(const std::string& path, const std::string& needle) {
   std::ifstream f(path);
-  std::string all((std::istreambuf_iterator<char>(f)), std::istreambuf_iterator<char>());
-  return all.find(needle) != std::string::npos;
+  std::string line;
+  while (std::getline(f, line))
+    if (line.find(needle) != std::string::npos) return true;
+  return false;
 }
 
 }  // namespace
