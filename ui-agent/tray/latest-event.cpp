@@ -2,11 +2,26 @@
 
 #include <QLabel>
 
+#include "dpi-info.h"
 #include "relative-age.h"
 #include "string-display.h"
 
-LatestEventLine::LatestEventLine(QLabel* event, QLabel* age)
-    : event_(event), age_(age), fitter_(event_fit::Fitter::tray()) {}
+LatestEventLine::LatestEventLine(QWidget* parent, const QString& prefix)
+    : event_(new QLabel(parent)), age_(new QLabel(parent)), fitter_(event_fit::Fitter::tray()) {
+  // Two lines of 177 for the message, its age right-aligned beside it.
+  event_->setObjectName(prefix + QStringLiteral("LatestEvent"));
+  event_->setStyleSheet(event_fit::Fitter::labelStyleSheet());
+  event_->setFixedSize(DPIinfo::scaled(177), DPIinfo::scaled(40));
+  event_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  event_->setWordWrap(true);
+  event_->setTextFormat(Qt::RichText);
+  event_->setOpenExternalLinks(true);
+  age_->setObjectName(prefix + QStringLiteral("EventAge"));
+  age_->setStyleSheet(DPIinfo::getScaledStyleSheet(
+      QStringLiteral("QLabel { color: rgba(80,90,100,0.65); font-size: 12px; }")));
+  age_->setFixedSize(DPIinfo::scaled(119), DPIinfo::scaled(40));
+  age_->setAlignment(Qt::AlignRight | Qt::AlignTop);
+}
 
 void LatestEventLine::setEntry(const LogEntry& entry) {
   if (entry_ && entry_->id == entry.id && entry_->type == entry.type && entry_->body == entry.body) {

@@ -11,10 +11,16 @@
 #include "event-fit.h"
 
 class QLabel;
+class QWidget;
 
 class LatestEventLine {
  public:
-  LatestEventLine(QLabel* event, QLabel* age);
+  // Builds the two labels as children of `parent`, named
+  // `<prefix>LatestEvent` and `<prefix>EventAge`; the page lays them out.
+  LatestEventLine(QWidget* parent, const QString& prefix);
+
+  QLabel* eventLabel() const { return event_; }
+  QLabel* ageLabel() const { return age_; }
 
   void setEntry(const LogEntry& entry);
   bool hasEntry() const { return entry_.has_value(); }

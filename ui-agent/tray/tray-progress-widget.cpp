@@ -16,7 +16,6 @@
 namespace {
 
 constexpr auto kTextStyle = "QLabel { color: #505A64; font-size: 13px; }";
-constexpr auto kAgeStyle = "QLabel { color: rgba(80,90,100,0.65); font-size: 12px; }";
 
 // The processed line's amount is coloured in place: a block element would
 // put "processed" on a second line of a one-line label.
@@ -35,7 +34,8 @@ TrayProgressWidget::TrayProgressWidget(QWidget* parent) : QWidget(parent) {
   picture_->setObjectName(QStringLiteral("progressPicture"));
   const int side = DPIinfo::scaled(48);
   picture_->setFixedSize(side, side);
-  picture_->setPixmap(ImageManager::getInstance()->pixmap(QStringLiteral("status_m_backing_up"), QSize(side, side)));
+  picture_->setPixmap(
+      ImageManager::getInstance()->pixmap(QStringLiteral("status_m_backing_up"), QSize(side, side)));
 
   phase_ = new VellLabel(this);
   phase_->setObjectName(QStringLiteral("progressPhase"));
@@ -65,20 +65,9 @@ TrayProgressWidget::TrayProgressWidget(QWidget* parent) : QWidget(parent) {
   percent_->setStyleSheet(text_style);
   percent_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 
-  event_ = new QLabel(this);
-  event_->setObjectName(QStringLiteral("progressLatestEvent"));
-  event_->setStyleSheet(event_fit::Fitter::labelStyleSheet());
-  event_->setFixedSize(DPIinfo::scaled(177), DPIinfo::scaled(40));
-  event_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-  event_->setWordWrap(true);
-  event_->setTextFormat(Qt::RichText);
-  event_->setOpenExternalLinks(true);
-  age_ = new QLabel(this);
-  age_->setObjectName(QStringLiteral("progressEventAge"));
-  age_->setStyleSheet(DPIinfo::getScaledStyleSheet(QLatin1String(kAgeStyle)));
-  age_->setFixedSize(DPIinfo::scaled(119), DPIinfo::scaled(40));
-  age_->setAlignment(Qt::AlignRight | Qt::AlignTop);
-  latest_ = std::make_unique<LatestEventLine>(event_, age_);
+  latest_ = std::make_unique<LatestEventLine>(this, QStringLiteral("progress"));
+  event_ = latest_->eventLabel();
+  age_ = latest_->ageLabel();
 
   auto row = [] {
     auto* r = new QHBoxLayout;

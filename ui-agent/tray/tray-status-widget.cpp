@@ -16,11 +16,7 @@
 #include "style-manager.h"
 #include "vell-label.h"
 
-namespace {
-
-constexpr auto kAgeStyle = "QLabel { color: rgba(80,90,100,0.65); font-size: 12px; }";
-
-}  // namespace
+namespace {}  // namespace
 
 TrayStatusWidget::TrayStatusWidget(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("TrayStatusWidget"));
@@ -34,25 +30,12 @@ TrayStatusWidget::TrayStatusWidget(QWidget* parent) : QWidget(parent) {
   result_->setFixedSize(DPIinfo::scaled(296), DPIinfo::scaled(28));
   result_->setElideMode(Qt::ElideRight);
 
-  event_ = new QLabel(this);
-  event_->setObjectName(QStringLiteral("statusLatestEvent"));
-  event_->setStyleSheet(event_fit::Fitter::labelStyleSheet());
-  event_->setFixedSize(DPIinfo::scaled(177), DPIinfo::scaled(40));
-  event_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-  event_->setWordWrap(true);
-  event_->setTextFormat(Qt::RichText);
-  event_->setOpenExternalLinks(true);
-
-  age_ = new QLabel(this);
-  age_->setObjectName(QStringLiteral("statusEventAge"));
-  age_->setStyleSheet(DPIinfo::getScaledStyleSheet(QLatin1String(kAgeStyle)));
-  age_->setFixedSize(DPIinfo::scaled(119), DPIinfo::scaled(40));
-  age_->setAlignment(Qt::AlignRight | Qt::AlignTop);
+  latest_ = std::make_unique<LatestEventLine>(this, QStringLiteral("status"));
+  event_ = latest_->eventLabel();
+  age_ = latest_->ageLabel();
 
   schedule_ = new BackupScheduleInfoWidget(this);
   schedule_->setFixedSize(DPIinfo::scaled(376), DPIinfo::scaled(68));
-
-  latest_ = std::make_unique<LatestEventLine>(event_, age_);
 
   // picture | column (result, latest event + age); the schedule box below.
   auto* column = new QVBoxLayout;
