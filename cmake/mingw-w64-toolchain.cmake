@@ -1,7 +1,8 @@
 # Cross-compiling for 64-bit Windows with Debian's mingw-w64 (posix threads),
 # as scripts/check-windows does. Executables are linked statically so that
 # they run under Wine without the mingw runtime DLLs, and run through Wine
-# wherever CMake or CTest needs to start them (test discovery, ctest).
+# wherever CMake or CTest needs to start them (test discovery, ctest), through
+# wine-run, which tries again a start that Wine failed before the program ran.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 
@@ -16,4 +17,4 @@ set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-static")
-set(CMAKE_CROSSCOMPILING_EMULATOR wine)
+set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/wine-run)
