@@ -5,6 +5,12 @@
 # In: NIMBRA_DESKTOP_TEMPLATES (folder of the .in files), NIMBRA_APP_NAME,
 #     NIMBRA_APPLICATIONS_DIR and NIMBRA_AUTOSTART_DIR (relative to the
 #     prefix, or absolute), NIMBRA_STAGE (a scratch folder in the build tree).
+#
+# Installs into different prefixes may run at the same time from one build
+# tree (the install tests do): each stages its files in a folder of its own,
+# named after where it installs, so none copies another's Exec line.
+string(MD5 nimbra_stage_key "$ENV{DESTDIR}|${CMAKE_INSTALL_PREFIX}")
+set(NIMBRA_STAGE "${NIMBRA_STAGE}/${nimbra_stage_key}")
 
 # Exec quoting of the desktop entry format: a path with reserved characters
 # is put in double quotes with ", `, $ and \ escaped, and then every \ is
@@ -37,3 +43,4 @@ nimbra_exec_argument("${CMAKE_INSTALL_PREFIX}/bin/nimbra-backup-agent" NIMBRA_AG
 nimbra_install_desktop_file(nimbra-backup-agent.desktop.in "${NIMBRA_APPLICATIONS_DIR}" nimbra-backup-agent.desktop)
 nimbra_install_desktop_file(nimbra-backup-agent-autostart.desktop.in "${NIMBRA_AUTOSTART_DIR}"
                             nimbra-backup-agent.desktop)
+file(REMOVE_RECURSE "${NIMBRA_STAGE}")
