@@ -7,7 +7,6 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
-#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -19,13 +18,9 @@
 #include "agent-test.h"
 #include "core/global-connecter.h"
 #include "dialogs/settings-widget.h"
-#include "dpi-info.h"
-#include "image-manager.h"
 #include "json-access.h"
 #include "string-display.h"
-#include "style-manager.h"
 #include "support/qt-print.h"
-#include "ui-path-manager.h"
 #include "vell-button.h"
 #include "vell-time-combo-box.h"
 
@@ -39,14 +34,7 @@ const char* const kLimited0700To2300 =
 
 class SettingsWidgetTest : public ::testing::Test {
  protected:
-  static void SetUpTestSuite() {
-    const QString res =
-        QDir::cleanPath(qEnvironmentVariable("NIMBRA_SOURCE_DIR", QStringLiteral(".")) + "/resource");
-    UIPathManager::getInstance()->setPath(QStringLiteral("resource_path"), res);
-    ImageManager::getInstance()->initialize(0);
-    StyleManager::getInstance()->initialize(
-        {res + "/agent.stylesheet", res + "/component.business.stylesheet"});
-  }
+  static void SetUpTestSuite() { agent_test::loadLook(); }
 
   void SetUp() override {
     widget = std::make_unique<SettingsWidget>();
@@ -55,9 +43,7 @@ class SettingsWidgetTest : public ::testing::Test {
 
   template <typename T>
   T* child(const char* name) {
-    T* found = widget->findChild<T*>(QLatin1String(name));
-    EXPECT_NE(found, nullptr) << name;
-    return found;
+    return agent_test::child<T>(widget.get(), name);
   }
   QRadioButton* noLimitRadio() { return child<QRadioButton>("SettingsNoLimitRadio"); }
   QRadioButton* limitRadio() { return child<QRadioButton>("SettingsLimitRadio"); }
@@ -102,17 +88,12 @@ class SettingsWidgetTest : public ::testing::Test {
   std::unique_ptr<QSignalSpy> spy;
 };
 
-TEST_F(SettingsWidgetTest, DialogFrame) {
-  EXPECT_EQ(widget->size(), QSize(DPIinfo::scaled(700), DPIinfo::scaled(442)));
-  EXPECT_EQ(widget->windowTitle(), QStringLiteral("Settings"));
+TEST_F(SettingsWidgetTest, DialogFrameHasOnlyACloseButton) {
   const Qt::WindowFlags flags = widget->windowFlags();
-  EXPECT_TRUE(flags.testFlag(Qt::CustomizeWindowHint));
   EXPECT_TRUE(flags.testFlag(Qt::WindowCloseButtonHint));
   EXPECT_FALSE(flags.testFlag(Qt::WindowMinimizeButtonHint));
   EXPECT_FALSE(flags.testFlag(Qt::WindowMaximizeButtonHint));
   EXPECT_FALSE(flags.testFlag(Qt::WindowContextHelpButtonHint));
-  EXPECT_EQ(saveButton()->buttonKind(), 0);
-  EXPECT_EQ(cancelButton()->buttonKind(), 1);
   EXPECT_FALSE(note()->isVisibleTo(widget.get()));
 }
 
@@ -227,10 +208,9 @@ TEST_F(SettingsWidgetTest, ZeroCannotBeTyped) {
 TEST_F(SettingsWidgetTest, StartAt22OffersTheEndList) {
   widget->loadClientConfig(parse(kLimited0700To2300));
   startCombo()->setTimeText(QStringLiteral("22:00"));
+  // The list itself is settings_rules::endItems' (tested there).
   ASSERT_EQ(endCombo()->count(), 23);
-  EXPECT_EQ(endCombo()->itemText(0), QStringLiteral("23:00"));
   EXPECT_EQ(endCombo()->itemText(1), QStringLiteral("00:00 Next day"));
-  EXPECT_EQ(endCombo()->itemText(22), QStringLiteral("21:00 Next day"));
   // The saved end of 23:00 is still offered, so it stays.
   EXPECT_EQ(endCombo()->currentText(), QStringLiteral("23:00"));
 
@@ -336,20 +316,13 @@ TEST_F(SettingsWidgetTest, LeavingTheRateEditClamps) {
 TEST_F(SettingsWidgetTest, AccessibleNames) {
   widget->loadClientConfig(parse(kLimited0700To2300));
   widget->show();
-  auto nameOf = [](QObject* object) {
-    QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(object);
-    return iface ? iface->text(QAccessible::Name) : QStringLiteral("<none>");
-  };
-  EXPECT_EQ(nameOf(widget.get()), QStringLiteral("Settings"));
-  EXPECT_EQ(nameOf(noLimitRadio()), QStringLiteral("Maximum"));
-  EXPECT_EQ(nameOf(limitRadio()), QStringLiteral("Limit to"));
-  EXPECT_EQ(nameOf(rateEdit()), QStringLiteral("Limit to"));
+  using agent_test::accessibleName;
+  EXPECT_EQ(accessibleName(widget.get()), QStringLiteral("Settings"));
+  EXPECT_EQ(accessibleName(rateEdit()), QStringLiteral("Limit to"));
   EXPECT_EQ(QAccessible::queryAccessibleInterface(rateEdit())->text(QAccessible::Description),
             QStringLiteral("Minimum: 5; Maximum: 9,999"));
-  EXPECT_EQ(nameOf(estimateIcon()),
+  EXPECT_EQ(accessibleName(estimateIcon()),
             QStringLiteral("Attention: Uploading 100 GB of data can take up to 2.3 hours"));
-  EXPECT_EQ(nameOf(rangeCheck()),
-            QStringLiteral("Limit upload speed within a specific time range every day"));
   // A combo's name is its value on this platform; its label comes as the
   // "labelled by" relation.
   auto labelOf = [](QObject* object) {
@@ -363,16 +336,14 @@ TEST_F(SettingsWidgetTest, AccessibleNames) {
   EXPECT_EQ(labelOf(endCombo()), QStringList{QStringLiteral("End at")});
   EXPECT_EQ(startCombo()->accessibleName(), QStringLiteral("Start at"));
   EXPECT_EQ(endCombo()->accessibleName(), QStringLiteral("End at"));
-  EXPECT_EQ(nameOf(child<QLabel>("SettingsLearnMore")), QStringLiteral("Learn more"));
-  EXPECT_EQ(nameOf(cancelButton()), QStringLiteral("Cancel"));
-  EXPECT_EQ(nameOf(saveButton()), QStringLiteral("Save"));
+  EXPECT_EQ(accessibleName(child<QLabel>("SettingsLearnMore")), QStringLiteral("Learn more"));
 
   // Every control that takes the focus has a name.
   for (QWidget* w : widget->findChildren<QWidget*>()) {
     if (w->focusPolicy() == Qt::NoFocus || !w->isVisibleTo(widget.get()) || w->focusProxy()) continue;
     if (qobject_cast<QLineEdit*>(w) && qobject_cast<QComboBox*>(w->parentWidget())) continue;
     if (w->inherits("QScrollBar") || w->inherits("QAbstractScrollArea")) continue;
-    EXPECT_FALSE(nameOf(w).isEmpty()) << w->metaObject()->className() << " " << w->objectName().toStdString();
+    EXPECT_FALSE(accessibleName(w).isEmpty()) << w->metaObject()->className() << " " << w->objectName().toStdString();
   }
 }
 
