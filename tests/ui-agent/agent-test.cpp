@@ -3,14 +3,18 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <QAccessible>
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QThread>
 
 #include <atomic>
 
+#include "image-manager.h"
 #include "json-access.h"
 #include "logger.h"
+#include "style-manager.h"
+#include "ui-path-manager.h"
 
 namespace agent_test {
 
@@ -18,6 +22,19 @@ Json::Value parse(const std::string& text) {
   Json::Value v;
   EXPECT_TRUE(jsonx::parse(text, v)) << text;
   return v;
+}
+
+void loadLook() {
+  const QString res = QStringLiteral(NIMBRA_RESOURCE_DIR);
+  UIPathManager::getInstance()->setPath(QStringLiteral("resource_path"), res);
+  ImageManager::getInstance()->initialize(0);
+  StyleManager::getInstance()->clear();
+  StyleManager::getInstance()->initialize({res + "/agent.stylesheet", res + "/component.business.stylesheet"});
+}
+
+QString accessibleName(QObject* object) {
+  QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(object);
+  return iface ? iface->text(QAccessible::Name) : QString();
 }
 
 LogCapture::LogCapture() : path_(dir_.file("ui.txt")) {

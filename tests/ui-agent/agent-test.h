@@ -1,8 +1,14 @@
 #pragma once
-// Helpers shared by the agent's test suites: JSON from text, a log file the
-// test reads back, and per-process pipe / working-space isolation.
+// Helpers shared by the agent's test suites: JSON from text, the product's
+// look, children by object name, a log file the test reads back, and
+// per-process pipe / working-space isolation.
 
+#include <gtest/gtest.h>
 #include <json/value.h>
+
+#include <QObject>
+#include <QString>
+#include <QWidget>
 
 #include <memory>
 #include <string>
@@ -13,6 +19,21 @@ namespace agent_test {
 
 // Parses `text`, failing the current test when it is not JSON.
 Json::Value parse(const std::string& text);
+
+// Loads the product's pictures and style sheets from the source tree (widgets
+// take their style sheets when built, so before the first one is).
+void loadLook();
+
+// The child of `parent` with this object name, failing the test when absent.
+template <typename T = QWidget>
+T* child(const QObject* parent, const char* name) {
+  T* found = parent->findChild<T*>(QLatin1String(name));
+  EXPECT_NE(found, nullptr) << name;
+  return found;
+}
+
+// The name a screen reader announces for `object`.
+QString accessibleName(QObject* object);
 
 // The default logger writing to a scratch file with every component at debug
 // level; text() returns what was written since mark().

@@ -12,9 +12,8 @@
 #include <string>
 
 #include "image-manager.h"
-#include "logger.h"
 #include "style-manager.h"
-#include "support/temp-dir.h"
+#include "support/log-capture.h"
 #include "ui-path-manager.h"
 
 namespace widgets_test {
@@ -52,23 +51,6 @@ inline const QStringList& agentPictureNames() {
   return names;
 }
 
-// Sends the log to a file for the test's lifetime.
-class LogCapture {
- public:
-  LogCapture() { open(); }
-  ~LogCapture() { vlog::shutdown(); }
-  // Everything logged so far.
-  std::string text() {
-    vlog::shutdown();
-    const std::string content = nimbra_test::read_file(path_);
-    open();
-    return content;
-  }
-
- private:
-  void open() { vlog::init(vlog::kRotatingFile, std::wstring(path_.begin(), path_.end()), L"", "", 5, 1); }
-  nimbra_test::TempDir dir_;
-  std::string path_ = dir_.file("ui.txt");
-};
+using nimbra_test::LogCapture;
 
 }  // namespace widgets_test

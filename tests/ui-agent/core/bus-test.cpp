@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <QGuiApplication>
-#include <QMetaMethod>
 #include <QSignalSpy>
 #include <QThread>
 
@@ -24,28 +23,9 @@ using agent_test::parse;
 
 namespace {
 
-TEST(Bus, HoldsExactlyTheSignalTableInOrder) {
-  const QStringList table =
-      QStringLiteral(
-          "sigPositionClicked(QPoint)|sigShowAboutWindow()|sigRestorePortal()|sigWebConsole()|sigOpenHelp()|"
-          "sigUpdateQuota()|sigGetConnectionInfo()|sigConnectServer(ConnectionInfo)|"
-          "sigQueryService(const QObject*,Json::Value)|sigQueryServiceDone(const QObject*,Json::Value)|"
-          "sigQueryServiceFailed()|sigLogoutService()|sigExitApplication()|sigCancelCreateDevice()|"
-          "sigCreateDevice(QString,QString,QString)|sigGetAuthURL()|"
-          "sigNotifyStatusChange(ServiceStatus,ServiceStatus,Json::Value)|sigShowMessage(QString,QString)|"
-          "sigMessageReceived(QString)|sigOpenLogWindow()|sigHandleNotifications(Json::Value)|"
-          "sigTrayClickedWithoutConnection()|sigTrayClickedDuringSetup()|"
-          "sigApplicationStateChanged(Qt::ApplicationState)")
-          .split(QLatin1Char('|'));
-  const QMetaObject& mo = GlobalConnecter::staticMetaObject;
-  ASSERT_EQ(table.size(), 24);
-  ASSERT_EQ(mo.methodCount() - mo.methodOffset(), 24);
-  for (int i = 0; i < 24; ++i) {
-    const QMetaMethod m = mo.method(mo.methodOffset() + i);
-    EXPECT_EQ(m.methodType(), QMetaMethod::Signal) << i;
-    EXPECT_EQ(QString::fromLatin1(m.methodSignature()), table[i]);
-  }
-  // String connections with the signatures as written in the code resolve.
+// Connections by signature string, as written in the code, resolve; the
+// carried types are registered by name.
+TEST(Bus, StringConnectionsResolveAndCarriedTypesAreRegistered) {
   GlobalConnecter* bus = &GlobalConnecter::instance();
   for (const char* sig : {SIGNAL(sigHandleNotifications(const Json::Value&)),
                           SIGNAL(sigCreateDevice(const QString&, const QString&, const QString&))}) {

@@ -22,13 +22,10 @@
 #include "core/global-connecter.h"
 #include "core/status-store.h"
 #include "dialogs/update-status-dialog.h"
-#include "image-manager.h"
 #include "service-communicator.h"
-#include "style-manager.h"
 #include "tray/log-widget.h"
 #include "tray/system-tray.h"
 #include "tray/tray-menu.h"
-#include "ui-path-manager.h"
 #include "vell-message-sheet.h"
 #include "wizard/summary-page.h"
 #include "wizard/wizard.h"
@@ -52,13 +49,7 @@ class UrlCatcher : public QObject {
 
 class Manager : public ::testing::Test {
  protected:
-  static void SetUpTestSuite() {
-    const QString res = qEnvironmentVariable("NIMBRA_SOURCE_DIR") + QStringLiteral("/resource");
-    UIPathManager::getInstance()->setPath(QStringLiteral("resource_path"), res);
-    ImageManager::getInstance()->initialize(0);
-    StyleManager::getInstance()->initialize(
-        {res + QStringLiteral("/agent.stylesheet"), res + QStringLiteral("/component.business.stylesheet")});
-  }
+  static void SetUpTestSuite() { agent_test::loadLook(); }
 
   Manager() {
     StatusStore::instance().clearConnection();

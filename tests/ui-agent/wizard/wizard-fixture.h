@@ -5,17 +5,13 @@
 
 #include <gtest/gtest.h>
 
-#include <QAccessible>
 #include <QApplication>
 #include <QTimer>
 
 #include <functional>
 
 #include "agent-test.h"
-#include "image-manager.h"
-#include "style-manager.h"
 #include "support/qt-print.h"
-#include "ui-path-manager.h"
 #include "vell-message-sheet.h"
 
 namespace wizard_test {
@@ -23,12 +19,7 @@ namespace wizard_test {
 // Lengths are checked at scale 1, whatever the offscreen screen reports.
 inline void loadLook() {
   qputenv("NIMBRA_UI_SCALE", "1");
-  const QString res = QStringLiteral(NIMBRA_RESOURCE_DIR);
-  UIPathManager::getInstance()->setPath(QStringLiteral("resource_path"), res);
-  ImageManager::getInstance()->initialize(0);
-  StyleManager::getInstance()->clear();
-  StyleManager::getInstance()->initialize(
-      {res + "/agent.stylesheet", res + "/component.business.stylesheet"});
+  agent_test::loadLook();
 }
 
 // Runs `action` once the current nested loop (or the next one) processes
@@ -37,12 +28,7 @@ inline void later(std::function<void()> action, int ms = 0) {
   QTimer::singleShot(ms, qApp, std::move(action));
 }
 
-// The name a screen reader announces for `w` (its accessible name, or what
-// the widget's accessible interface derives from its text).
-inline QString accessibleName(QWidget* w) {
-  QAccessibleInterface* a = QAccessible::queryAccessibleInterface(w);
-  return a ? a->text(QAccessible::Name) : QString();
-}
+using agent_test::accessibleName;
 
 // The innermost running sheet, or null.
 inline VellMessageSheet* topSheet() {
