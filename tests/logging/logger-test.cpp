@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -98,6 +100,7 @@ struct ThresholdCase {
   const char* component;
   int threshold;
 };
+void PrintTo(const ThresholdCase& c, std::ostream* os) { *os << c.name; }
 
 const char kSettings[] =
     "# thresholds per component\n"

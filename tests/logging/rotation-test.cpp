@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 #include <array>
 #include <cstdio>
 #include <string>
@@ -66,6 +68,7 @@ struct BoundaryCase {
   std::uint32_t absolute;
   bool rotates;
 };
+void PrintTo(const BoundaryCase& c, std::ostream* os) { *os << c.name; }
 
 // Ten characters with the line feed, in UTF-16 units: "ten c", then three
 // characters of 2, 3 and 4 UTF-8 bytes (1, 1 and 2 units).
@@ -119,6 +122,7 @@ INSTANTIATE_TEST_SUITE_P(
 struct KeepCase {
   int keep, lines, kept;
 };
+void PrintTo(const KeepCase& c, std::ostream* os) { *os << "keep " << c.keep << ", " << c.lines << " lines"; }
 
 class KeepTest : public RotationTest, public ::testing::WithParamInterface<KeepCase> {};
 

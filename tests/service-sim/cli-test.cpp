@@ -3,6 +3,8 @@
 // clean exit on SIGINT/SIGTERM, resume after a restart.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <ostream>
 #include <signal.h>
 
 #include <QProcess>
@@ -128,6 +130,7 @@ struct Failure {
   const char* message;                // in standard error
   const char* agent_reply = nullptr;  // nullptr: no agent pipe
 };
+void PrintTo(const Failure& c, std::ostream* os) { *os << c.label; }
 
 class SimFailureTest : public SimCliTest, public ::testing::WithParamInterface<Failure> {};
 

@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 #include <algorithm>
 #include <filesystem>
 #include <memory>
@@ -166,6 +168,7 @@ struct BackupCase {
   std::uint64_t used_after;
   std::vector<int> pushed_types;
 };
+void PrintTo(const BackupCase& c, std::ostream* os) { *os << c.label; }
 
 class SimBackupTest : public SimModelTest, public ::testing::WithParamInterface<BackupCase> {};
 
@@ -342,6 +345,7 @@ struct IdleCase {
   int status;
   int schedule_type;
 };
+void PrintTo(const IdleCase& c, std::ostream* os) { *os << c.label; }
 
 class SimIdleStatusTest : public SimModelTest, public ::testing::WithParamInterface<IdleCase> {};
 

@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 #include <algorithm>
 #include <cctype>
 #include <cstdlib>
@@ -124,6 +126,7 @@ struct BadScenario {
   const char* text;
   const char* expected;  // in the error sentence
 };
+void PrintTo(const BadScenario& c, std::ostream* os) { *os << c.label; }
 
 class SimBadScenarioTest : public ::testing::TestWithParam<BadScenario> {};
 

@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 #include <cerrno>
 #include <cstdlib>
 #include <functional>
@@ -21,6 +23,7 @@ struct ClassRow {
   std::type_index type;
   const char* name;
 };
+void PrintTo(const ClassRow& c, std::ostream* os) { *os << "code " << c.code << " -> " << c.name; }
 
 class RaiseClassTest : public ::testing::TestWithParam<ClassRow> {};
 

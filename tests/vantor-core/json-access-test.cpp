@@ -2,6 +2,8 @@
 // a member of the wrong type reads as the fallback.
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 #include <cstdint>
 #include <limits>
 #include <optional>
@@ -36,6 +38,7 @@ struct NumberRow {
   std::optional<std::uint64_t> u64;
   std::optional<double> real;
 };
+void PrintTo(const NumberRow& c, std::ostream* os) { *os << c.key; }
 constexpr std::nullopt_t no = std::nullopt;
 constexpr std::int64_t kI64Max = std::numeric_limits<std::int64_t>::max();
 

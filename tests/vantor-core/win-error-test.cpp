@@ -1,6 +1,8 @@
 // Windows error codes to errno codes.
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 #include <cerrno>
 #include <cstdint>
 
@@ -14,6 +16,7 @@ struct Row {
   std::uint32_t win;
   int err;
 };
+void PrintTo(const Row& c, std::ostream* os) { *os << "Windows error " << c.win << " -> errno " << c.err; }
 
 class TranslationTest : public ::testing::TestWithParam<Row> {};
 
