@@ -231,6 +231,8 @@ TEST_F(ServiceFaults, KilledForGoodTheWarningAfterThirtyFailuresThenTheAgentEnds
       << "no warning after " << clock.elapsed() << " ms";
   const qint64 shownAfter = clock.elapsed();
   shot("warning");
+  // The warning alone: the pop-up (which takes the keys while up) stays away.
+  EXPECT_FALSE(waitUntil([&] { return !popup().isEmpty(); }, 1500)) << "the pop-up came up over the warning";
   // Polled once a second: the 31st failure in a row is the fatal one.
   const QString log = agentLog();
   const int fatalAt = log.indexOf("service unreachable after 30 failures");
