@@ -256,9 +256,14 @@ TEST_F(ServiceFaults, KilledForGoodTheWarningAfterThirtyFailuresThenTheAgentEnds
 TEST_F(ServiceFaults, ServiceStartedLateTheAgentRetriesEverySecondThenConnects) {
   ASSERT_TRUE(useDebugLog());
   ASSERT_TRUE(startAgent());
-  // No service yet: the connection record is asked for again each second.
+  // No service yet: the connection record is asked for again a second after
+  // each failure, not at once.
+  ASSERT_TRUE(waitUntil([&] { return logLines(kFailedExchange).size() >= 1; }, 20000)) << "the agent never asks";
+  QElapsedTimer clock;
+  clock.start();
   ASSERT_TRUE(waitUntil([&] { return logLines(kFailedExchange).size() >= 5; }, 30000))
       << "the agent does not retry";
+  EXPECT_GE(clock.elapsed(), 3500) << "four retries in less than four seconds";
   EXPECT_TRUE(dialogs().isEmpty()) << dialogs().join(' ').toStdString();
   ASSERT_TRUE(startSim("idle"));
   ASSERT_TRUE(waitForAction("get_connection_info", 15000));
