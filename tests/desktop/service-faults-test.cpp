@@ -59,11 +59,13 @@ class ServiceFaults : public AgentDesktop {
   // Every page text the pop-up showed: no markup, entity or control
   // character reached the person.
   ::testing::AssertionResult pagesReadWell() const {
-    static const QRegularExpression markup("<[a-zA-Z/!]|&[a-zA-Z#][a-zA-Z0-9]*;|[\\x{0}-\\x{8}\\x{b}-\\x{1f}\\x{fffd}]");
+    static const QRegularExpression markup(
+        "<[a-zA-Z/!]|&[a-zA-Z#][a-zA-Z0-9]*;|[\\x{0}-\\x{8}\\x{b}-\\x{1f}\\x{fffd}]");
     const QStringList lines = logLines("tray pop-up: ");
     if (lines.isEmpty()) return ::testing::AssertionFailure() << "the pop-up never showed a page";
     for (const QString& line : lines) {
-      if (line.contains(markup)) return ::testing::AssertionFailure() << "shown as is: " << line.toStdString();
+      if (line.contains(markup))
+        return ::testing::AssertionFailure() << "shown as is: " << line.toStdString();
       if (line.contains(QRegularExpression("page: *(\\| *)*$")))
         return ::testing::AssertionFailure() << "a page without text: " << line.toStdString();
     }
@@ -132,7 +134,8 @@ TEST_F(ServiceFaults, HostileAnswersShowTheConnectionErrorAndALogLine) {
   // the connection error and the red icon.
   ASSERT_TRUE(waitForTrayPicture(TrayPicture::Error, 30000)) << "icon: " << pictureName(trayPicture());
   ASSERT_TRUE(openPopup());
-  EXPECT_TRUE(waitForPage("status page: Error\u00a0 | " + kConnectionError, 15000)) << shownPage().toStdString();
+  EXPECT_TRUE(waitForPage("status page: Error\u00a0 | " + kConnectionError, 15000))
+      << shownPage().toStdString();
   shot("popup-hostile");
   EXPECT_TRUE(pagesReadWell());
   const QStringList bad = logLines("status answer");
@@ -140,7 +143,8 @@ TEST_F(ServiceFaults, HostileAnswersShowTheConnectionErrorAndALogLine) {
   // One line for the run of bad answers, not one a second.
   const int polls = countOf("get_status");
   ASSERT_TRUE(waitForAction("get_status", 15000, polls + 4));
-  EXPECT_EQ(logLines("status answer").size(), bad.size()) << logLines("status answer").join('\n').toStdString();
+  EXPECT_EQ(logLines("status answer").size(), bad.size())
+      << logLines("status answer").join('\n').toStdString();
   EXPECT_TRUE(dialogs().isEmpty()) << "a dialog in the way: " << dialogs().join(' ').toStdString();
   EXPECT_EQ(agent_->state(), QProcess::Running);
 }
@@ -174,16 +178,17 @@ TEST_P(ServiceSaysError, RedIconAndTheMessageForTheCode) {
   EXPECT_EQ(logLines("tray pop-up: ").size(), 1) << logLines("tray pop-up: ").join('\n').toStdString();
 }
 
-INSTANTIATE_TEST_SUITE_P(Scenarios, ServiceSaysError,
-                         // offline: "connected" false without an error, shown as code 5;
-                         // service-error: error code 5.
-                         ::testing::Values(ErrorRow{"offline", "Internet connection error. Check your Internet connection."},
-                                           ErrorRow{"service-error",
-                                                    "Internet connection error. Check your Internet connection."}),
-                         [](const ::testing::TestParamInfo<ErrorRow>& row) {
-                           QString name = row.param.scenario;
-                           return name.remove('-').toStdString();
-                         });
+INSTANTIATE_TEST_SUITE_P(
+    Scenarios, ServiceSaysError,
+    // offline: "connected" false without an error, shown as code 5;
+    // service-error: error code 5.
+    ::testing::Values(ErrorRow{"offline", "Internet connection error. Check your Internet connection."},
+                      ErrorRow{"service-error",
+                               "Internet connection error. Check your Internet connection."}),
+    [](const ::testing::TestParamInfo<ErrorRow>& row) {
+      QString name = row.param.scenario;
+      return name.remove('-').toStdString();
+    });
 
 // ---- the service killed ------------------------------------------------------
 
@@ -202,7 +207,8 @@ TEST_F(ServiceFaults, KilledTwiceAndStartedAgainWithinTheWindowNoDialog) {
     EXPECT_TRUE(dialogs().isEmpty()) << "outage " << outage << ": " << dialogs().join(' ').toStdString();
     const int polls = countOf("get_status");
     ASSERT_TRUE(startSim("idle", true));
-    ASSERT_TRUE(waitForAction("get_status", 15000, polls + 2)) << "outage " << outage << ": polling not resumed";
+    ASSERT_TRUE(waitForAction("get_status", 15000, polls + 2))
+        << "outage " << outage << ": polling not resumed";
   }
   shot("after-outages");
   EXPECT_TRUE(dialogs().isEmpty()) << dialogs().join(' ').toStdString();
@@ -258,7 +264,8 @@ TEST_F(ServiceFaults, ServiceStartedLateTheAgentRetriesEverySecondThenConnects) 
   ASSERT_TRUE(startAgent());
   // No service yet: the connection record is asked for again a second after
   // each failure, not at once.
-  ASSERT_TRUE(waitUntil([&] { return logLines(kFailedExchange).size() >= 1; }, 20000)) << "the agent never asks";
+  ASSERT_TRUE(waitUntil([&] { return logLines(kFailedExchange).size() >= 1; }, 20000))
+      << "the agent never asks";
   QElapsedTimer clock;
   clock.start();
   // Five more: five seconds after the first, seen here at most a moment late.

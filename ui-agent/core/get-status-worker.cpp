@@ -67,8 +67,8 @@ void GetStatusWorker::slotQueryServiceDone(const QObject* sender, Json::Value re
   const std::string problem = status_answer::problem(response);
   if (problem != answerProblem_) {
     if (!problem.empty())
-      LOG_WARN(vlog::kDefaultComponent, "status answer not as expected (%s): its members read as 0, false or empty",
-               problem.c_str());
+      LOG_WARN(vlog::kDefaultComponent,
+               "status answer not as expected (%s): its members read as 0, false or empty", problem.c_str());
     else
       LOG_INFO(vlog::kDefaultComponent, "status answers as expected again");
     answerProblem_ = problem;

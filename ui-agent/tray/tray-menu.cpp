@@ -81,7 +81,8 @@ TrayMenu::TrayMenu(QWidget* parent) : QFrame(parent) {
   header->addWidget(user_button_);
 
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(DPIinfo::scaled(20), DPIinfo::scaled(12), DPIinfo::scaled(20), DPIinfo::scaled(12));
+  layout->setContentsMargins(DPIinfo::scaled(20), DPIinfo::scaled(12), DPIinfo::scaled(20),
+                             DPIinfo::scaled(12));
   layout->setSpacing(0);
   layout->addLayout(header);
   layout->addSpacing(DPIinfo::scaled(24));
