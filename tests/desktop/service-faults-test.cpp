@@ -237,6 +237,8 @@ TEST_F(ServiceFaults, KilledForGoodTheWarningAfterThirtyFailuresThenTheAgentEnds
       << "no warning after " << clock.elapsed() << " ms";
   const qint64 shownAfter = clock.elapsed();
   shot("warning");
+  // The agent asks nothing more while the warning waits for the person.
+  const int failedAtWarning = logLines(kFailedExchange).size();
   // The warning alone: the pop-up (which takes the keys while up) stays away.
   EXPECT_FALSE(waitUntil([&] { return !popup().isEmpty(); }, 1500)) << "the pop-up came up over the warning";
   // Polled once a second: the 31st failure in a row is the fatal one.
@@ -251,6 +253,7 @@ TEST_F(ServiceFaults, KilledForGoodTheWarningAfterThirtyFailuresThenTheAgentEnds
   // Only when the person answers does the agent end, with its threads
   // joined.
   EXPECT_EQ(agent_->state(), QProcess::Running);
+  EXPECT_EQ(logLines(kFailedExchange).size(), failedAtWarning) << "still polling behind the warning";
   ASSERT_TRUE(activate(warning));
   keys({"Return"});
   int code = -1;
