@@ -548,6 +548,9 @@ void ClientManager::slotQueryServiceFailed() {
   CM_LOG_ERROR("service unreachable after %d failures: the agent ends", failureCount);
   disconnect(&GlobalConnecter::instance(), SIGNAL(sigQueryServiceFailed()), this,
              SLOT(slotQueryServiceFailed()));
+  // Nothing more is asked while the warning waits for the person: each
+  // failed request would add its lines to the log for as long as it waits.
+  statusWorker->stopPolling();
   showWarningMsg(text(Str::app_name), text(Str::err_query_service_failed));
   QCoreApplication::quit();
 }

@@ -223,7 +223,7 @@ void AgentDesktop::stopSim(bool kill) {
   const QString dir = QString::fromStdString(scratch_->path());
   agent_->setStandardOutputFile(dir + "/agent.out", QIODevice::Append);
   agent_->setStandardErrorFile(dir + "/agent.err", QIODevice::Append);
-  agent_->start(build("/bin/nimbra-backup-agent"), args);
+  agent_->start(agentProgram(), args);
   if (!agent_->waitForStarted(10000)) return ::testing::AssertionFailure() << "the agent does not start";
   return ::testing::AssertionSuccess();
 }
@@ -232,7 +232,7 @@ int AgentDesktop::launchAgain(const QStringList& args) {
   notifier_test::ChildProcess second;
   second.setProcessEnvironment(env_);
   second.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-  second.start(build("/bin/nimbra-backup-agent"), args);
+  second.start(agentProgram(), args);
   if (!second.waitForFinished(20000)) {
     second.kill();
     second.waitForFinished(5000);
@@ -426,6 +426,49 @@ QString AgentDesktop::shot(const QString& step) {
       shotDir_ + QStringLiteral("/%1-%2.png").arg(++shots_, 2, 10, QLatin1Char('0')).arg(step);
   desktop_->screenshot(path);
   return path;
+}
+
+// ---- service faults: debug log, log lines, exit checks -----------------------
+
+::testing::AssertionResult AgentDesktop::useDebugLog() {
+  const QString app = QString::fromStdString(scratch_->path()) + "/app";
+  if (!QDir().mkpath(app + "/bin") || !QDir().mkpath(app + "/resource"))
+    return ::testing::AssertionFailure() << "cannot make " << app.toStdString();
+  // The agent finds its resources and the notifier beside its own path.
+  for (const char* program : {"nimbra-backup-agent", "nimbra-backup-notifier"}) {
+    const QString from = build(QStringLiteral("/bin/") + program), to = app + "/bin/" + program;
+    if (::link(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0 &&
+        !QFile::copy(from, to))
+      return ::testing::AssertionFailure() << "cannot place " << program << " in " << app.toStdString();
+  }
+  const QDir resources(build("/resource"));
+  for (const QString& name : resources.entryList(QDir::AllEntries | QDir::NoDotAndDotDot)) {
+    if (name == "agent.debug") continue;
+    if (!QFile::link(resources.filePath(name), app + "/resource/" + name))
+      return ::testing::AssertionFailure() << "cannot link " << name.toStdString();
+  }
+  QFile settings(app + "/resource/agent.debug");
+  if (!settings.open(QIODevice::WriteOnly) ||
+      settings.write("default_component = 7\nclient_manager_debug = 7\nwin_ipc = 4\n") < 0)
+    return ::testing::AssertionFailure() << "cannot write " << settings.fileName().toStdString();
+  agentProgram_ = app + "/bin/nimbra-backup-agent";
+  return ::testing::AssertionSuccess();
+}
+
+QString AgentDesktop::agentProgram() const {
+  return agentProgram_.isEmpty() ? build("/bin/nimbra-backup-agent") : agentProgram_;
+}
+
+QStringList AgentDesktop::logLines(const QString& text) const {
+  QStringList out;
+  for (const QString& line : agentLog().split('\n'))
+    if (line.contains(text)) out << line;
+  return out;
+}
+
+QString AgentDesktop::agentStderr() const {
+  QFile f(QString::fromStdString(scratch_->path()) + "/agent.err");
+  return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : QString();
 }
 
 }  // namespace desktop_test

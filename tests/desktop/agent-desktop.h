@@ -121,6 +121,21 @@ class AgentDesktop : public ::testing::Test {
   QProcessEnvironment env_;
   QString record_, simState_, shotDir_, signinUrl_;
   int shots_ = 0;
+
+  // ---- service faults: debug log, log lines, exit checks -------------------
+  // The agent run from a folder of its own whose agent.debug raises the
+  // agent's components to debug level, so that its log tells every tray
+  // picture and what the pop-up's page shows (the programs are hard links
+  // to the build's, the other resources symbolic links). Call before
+  // startAgent.
+  ::testing::AssertionResult useDebugLog();
+  // The program startAgent and launchAgain run.
+  QString agentProgram() const;
+  // The lines of the agent's log that contain `text`, in order.
+  QStringList logLines(const QString& text) const;
+  // What the agent wrote on its standard error (Qt's own warnings).
+  QString agentStderr() const;
+  QString agentProgram_;
 };
 
 }  // namespace desktop_test

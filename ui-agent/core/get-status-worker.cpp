@@ -5,8 +5,10 @@
 
 #include "core/connection-info.h"
 #include "core/global-connecter.h"
+#include "core/status-answer.h"
 #include "core/status-store.h"
 #include "json-access.h"
+#include "logger.h"
 
 GetStatusWorker::GetStatusWorker(QObject* parent) : QObject(parent) {
   GlobalConnecter* bus = &GlobalConnecter::instance();
@@ -59,6 +61,18 @@ void GetStatusWorker::slotQueryServiceDone(const QObject* sender, Json::Value re
   ServiceStatus previous = StatusUnknown;
   Json::Value previous_content;
   store.getStatus(previous, previous_content);
+
+  // Members of the wrong type read as their defaults; the log tells once
+  // when the answers turn unreadable, and once when they are sound again.
+  const std::string problem = status_answer::problem(response);
+  if (problem != answerProblem_) {
+    if (!problem.empty())
+      LOG_WARN(vlog::kDefaultComponent,
+               "status answer not as expected (%s): its members read as 0, false or empty", problem.c_str());
+    else
+      LOG_INFO(vlog::kDefaultComponent, "status answers as expected again");
+    answerProblem_ = problem;
+  }
 
   const ServiceStatus current = service_status::from_int64(jsonx::get_int64(response, "status"));
   // A `content` that is not an object counts as missing.

@@ -14,6 +14,8 @@
 
 #include <QObject>
 
+#include <string>
+
 #include "core/json-meta-type.h"
 #include "core/service-status.h"
 
@@ -42,4 +44,7 @@ class GetStatusWorker : public QObject {
 
  private:
   QTimer* timer_ = nullptr;
+  // What was wrong with the last answer ("" when nothing), on the worker's
+  // thread.
+  std::string answerProblem_;
 };

@@ -228,9 +228,17 @@ void SystemTray::slotIconActivated(QSystemTrayIcon::ActivationReason reason) {
 
 void SystemTray::slotApplicationStateChanged(Qt::ApplicationState state) {
   if (state != Qt::ApplicationActive) return;
+  // The window system turns the application active before QApplication
+  // names the window that took the focus (a warning or question of the
+  // agent coming up): decide once that is known.
+  QTimer::singleShot(0, this, &SystemTray::actOnActivation);
+}
+
+void SystemTray::actOnActivation() {
   // The agent became active because one of its own windows (the wizard,
-  // the about or activity window) or one of its menus (the icon's
-  // right-click menu) took the focus: that is no click.
+  // a message box, the about or activity window) or one of its menus (the
+  // icon's right-click menu) took the focus: that is no click. The pop-up,
+  // a Popup, would otherwise take the keys and the first click meant for it.
   QWidget* active = QApplication::activeWindow();
   if (active && active != container_) return;
   if (rightMenu_ && rightMenu_->isVisible()) return;

@@ -131,6 +131,9 @@ class SystemTray : public QSystemTrayIcon {
  private:
   void applyIcon();
   void click();
+  // What the application turning active means, once the window system has
+  // named the window that took the focus.
+  void actOnActivation();
   bool trayAvailable() const;
 
   TrayMenu* menu_ = nullptr;

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QStackedWidget>
+#include <QTextDocument>
 #include <QVBoxLayout>
 #include <QWidgetAction>
 
@@ -26,7 +27,24 @@
 
 namespace {
 constexpr auto kBandwidthAction = "get_bandwidth_control";
+
+// The labels whose texts tell what a page shows (the figures that move every
+// second, the ages and the amounts, are left out).
+constexpr const char* kStatusLabels[] = {"statusResult", "statusLatestEvent", "lastBackupValue",
+                                         "nextBackupValue"};
+constexpr const char* kProgressLabels[] = {"progressPhase", "progressLatestEvent"};
+
+// A label's text as a person reads it: rich text rendered to plain text.
+QString readable(const QLabel* label) {
+  const QString text = label->text();
+  const bool rich = label->textFormat() == Qt::RichText ||
+                    (label->textFormat() == Qt::AutoText && Qt::mightBeRichText(text));
+  if (!rich) return text;
+  QTextDocument document;
+  document.setHtml(text);
+  return document.toPlainText().simplified();
 }
+}  // namespace
 
 TrayMenu::TrayMenu(QWidget* parent) : QFrame(parent) {
   setObjectName(QStringLiteral("TrayMenu"));
@@ -63,7 +81,8 @@ TrayMenu::TrayMenu(QWidget* parent) : QFrame(parent) {
   header->addWidget(user_button_);
 
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(DPIinfo::scaled(20), DPIinfo::scaled(12), DPIinfo::scaled(20), DPIinfo::scaled(12));
+  layout->setContentsMargins(DPIinfo::scaled(20), DPIinfo::scaled(12), DPIinfo::scaled(20),
+                             DPIinfo::scaled(12));
   layout->setSpacing(0);
   layout->addLayout(header);
   layout->addSpacing(DPIinfo::scaled(24));
@@ -173,12 +192,36 @@ void TrayMenu::updateServiceStatus(ServiceStatus status, const Json::Value& cont
     pages_->setCurrentWidget(status_page_);
     status_page_->updateStatus(content);
   }
+  logShownPage();
+}
+
+void TrayMenu::logShownPage() {
+  // Support reads in the log what the person saw; built only at debug level.
+  if (vlog::threshold(vlog::kDefaultComponent) < vlog::kDebug) return;
+  const bool progress = pages_->currentWidget() == progress_page_;
+  QWidget* page = pages_->currentWidget();
+  QStringList parts;
+  auto add = [&](const char* name) {
+    const QLabel* label = page->findChild<QLabel*>(QLatin1String(name));
+    if (label && label->isVisibleTo(page) && !label->text().isEmpty()) parts << readable(label);
+  };
+  if (progress) {
+    for (const char* name : kProgressLabels) add(name);
+  } else {
+    for (const char* name : kStatusLabels) add(name);
+  }
+  const QString line = (progress ? QStringLiteral("progress page: ") : QStringLiteral("status page: ")) +
+                       parts.join(QStringLiteral(" | "));
+  if (line == loggedPage_) return;
+  loggedPage_ = line;
+  LOG_DEBUG(vlog::kDefaultComponent, "tray pop-up: %s", line.toUtf8().constData());
 }
 
 void TrayMenu::appendLogEntries(const QList<LogEntry>& entries) {
   if (!tray_menu_model::keep_entries(entries_, entries)) return;
   status_page_->setLatestEvent(entries_.back());
   progress_page_->setLatestEvent(entries_.back());
+  logShownPage();
 }
 
 void TrayMenu::clearLogEntries() {

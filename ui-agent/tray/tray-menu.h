@@ -68,6 +68,8 @@ class TrayMenu : public QFrame {
   void buildHeader();
   void buildMenu();
   void showAccountInitial(const QString& account);
+  // One debug line whenever the texts of the shown page change.
+  void logShownPage();
 
   QLabel* picture_ = nullptr;
   QLabel* title_ = nullptr;
@@ -83,4 +85,5 @@ class TrayMenu : public QFrame {
   LogWidget* log_ = nullptr;
   SettingsWidget* settings_ = nullptr;
   QList<LogEntry> entries_;
+  QString loggedPage_;
 };

@@ -277,6 +277,8 @@ TEST_F(Manager, FailuresWhilePollingResetByStatusFatalAtThirtyOne) {
   EXPECT_TRUE(quitsDuring([&bus] { emit bus.sigQueryServiceFailed(); }));
   ASSERT_EQ(sheets_.size(), 1);
   EXPECT_TRUE(sheets_.first().startsWith(QStringLiteral("The service cannot be activated normally.")));
+  // Nothing more is asked while the warning is up.
+  EXPECT_FALSE(manager_->statusPoller()->isPolling());
   // No longer listening: a further failure shows nothing.
   emit bus.sigQueryServiceFailed();
   QTest::qWait(100);

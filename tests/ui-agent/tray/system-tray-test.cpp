@@ -153,12 +153,14 @@ TEST_F(TrayIcon, ClicksPerMode) {
   // Mode 0: nothing.
   tray_->slotIconActivated(QSystemTrayIcon::Trigger);
   tray_->slotApplicationStateChanged(Qt::ApplicationActive);
+  QCoreApplication::processEvents();
   EXPECT_FALSE(popup()->isVisible());
   EXPECT_EQ(wizard.count(), 0);
   // Mode 2: asks for the wizard, never opens the pop-up.
   tray_->setConnectionMode(2);
   tray_->slotIconActivated(QSystemTrayIcon::Trigger);
   tray_->slotApplicationStateChanged(Qt::ApplicationActive);
+  QCoreApplication::processEvents();
   EXPECT_EQ(wizard.count(), 2);
   EXPECT_FALSE(popup()->isVisible());
   tray_->showMenuAt(QPoint(640, 780));
@@ -168,6 +170,7 @@ TEST_F(TrayIcon, ClicksPerMode) {
   for (auto reason : {QSystemTrayIcon::Context, QSystemTrayIcon::DoubleClick, QSystemTrayIcon::MiddleClick})
     tray_->slotIconActivated(reason);
   tray_->slotApplicationStateChanged(Qt::ApplicationInactive);
+  QCoreApplication::processEvents();
   EXPECT_FALSE(popup()->isVisible());
   tray_->slotIconActivated(QSystemTrayIcon::Trigger);
   EXPECT_TRUE(popup()->isVisible());
@@ -196,11 +199,29 @@ TEST_F(TrayIcon, AnotherAgentWindowTakingTheFocusIsNoClick) {
   QApplication::setActiveWindow(&about);
   ASSERT_EQ(QApplication::activeWindow(), &about);
   tray_->slotApplicationStateChanged(Qt::ApplicationActive);
+  QCoreApplication::processEvents();
   EXPECT_FALSE(popup()->isVisible());
   about.hide();
   QApplication::setActiveWindow(nullptr);
   tray_->slotApplicationStateChanged(Qt::ApplicationActive);
+  QCoreApplication::processEvents();
   EXPECT_TRUE(popup()->isVisible());
+}
+
+// As the window system tells it: the application turns active first, and
+// only then does QApplication name the window that took the focus. A
+// warning or question of the agent coming up is no click (the pop-up, a
+// Popup, would take the keys and the first click meant for it).
+TEST_F(TrayIcon, AnAgentDialogNamedActiveAfterTheApplicationTurnedActiveIsNoClick) {
+  tray_->setConnectionMode(1);
+  QWidget warning;
+  warning.show();
+  tray_->slotApplicationStateChanged(Qt::ApplicationActive);
+  QApplication::setActiveWindow(&warning);
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(popup()->isVisible()) << "the pop-up came up over the warning";
+  warning.hide();
+  QApplication::setActiveWindow(nullptr);
 }
 
 TEST_F(TrayIcon, TheRightClickMenuTakingTheFocusIsNoClick) {
@@ -209,9 +230,11 @@ TEST_F(TrayIcon, TheRightClickMenuTakingTheFocusIsNoClick) {
   tray_->rightMenu()->popup(QPoint(640, 700));
   ASSERT_EQ(QApplication::activePopupWidget(), tray_->rightMenu());
   tray_->slotApplicationStateChanged(Qt::ApplicationActive);
+  QCoreApplication::processEvents();
   EXPECT_FALSE(popup()->isVisible()) << "the pop-up would cover the menu";
   tray_->rightMenu()->hide();
   tray_->slotApplicationStateChanged(Qt::ApplicationActive);
+  QCoreApplication::processEvents();
   EXPECT_TRUE(popup()->isVisible());
 }
 
@@ -263,6 +286,7 @@ TEST_F(TrayIcon, WithoutANotificationAreaShowsAnOrdinaryWindow) {
   emit GlobalConnecter::instance().sigPositionClicked(QPoint(5000, 5000));
   EXPECT_TRUE(popup()->isVisible());
   tray_->slotApplicationStateChanged(Qt::ApplicationActive);
+  QCoreApplication::processEvents();
   EXPECT_TRUE(popup()->isWindowMode());
   // A panel that appears later gets the pop-up back.
   popup()->hide();
