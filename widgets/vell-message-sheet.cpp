@@ -251,11 +251,11 @@ int VellMessageSheet::exec() {
 
 void VellMessageSheet::quit(int result) {
   result_ = result;
-  if (loop_) {
-    loop_->exit(result);
-  } else {
-    hide();
-  }
+  if (loop_) loop_->exit(result);
+  // At once: the loop returns only when the code running under it does, and
+  // that code may open the next wait (the sign-in sheet is quit by the
+  // message that goes on to show the connecting frame).
+  hide();
 }
 
 void VellMessageSheet::keyPressEvent(QKeyEvent* event) {

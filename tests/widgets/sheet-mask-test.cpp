@@ -69,6 +69,27 @@ TEST_F(WidgetsSheets, QuitEndsTheLoopAndASecondExecWhileRunningIsRefused) {
   EXPECT_FALSE(sheet.isVisible());
 }
 
+TEST_F(WidgetsSheets, QuitHidesAtOnceWhenAnotherLoopKeepsItsOwnFromReturning) {
+  // The sign-in sheet is quit from a slot that runs under its loop and opens
+  // the next wait at once: the loop returns only after that one, but the
+  // sheet and its mask must be gone from the screen now.
+  VellMessageSheet first(1, &window_, true), next(2, &window_, true);
+  VellMask* mask = VellMask::createMask(&first, &window_, QColor(0, 0, 0, 20));
+  bool firstShown = true, maskShown = true;
+  whileUp([&] {
+    first.quit();
+    whileUp([&] {
+      firstShown = first.isVisible();
+      maskShown = mask->isVisible();
+      next.quit();
+    });
+    next.exec();
+  });
+  EXPECT_EQ(first.exec(), QMessageBox::NoButton);
+  EXPECT_FALSE(firstShown) << "the quit sheet stays on screen under the next one";
+  EXPECT_FALSE(maskShown);
+}
+
 TEST_F(WidgetsSheets, DestroyedWhileUpReturnsNoButton) {
   auto* sheet = new VellMessageSheet(2, &window_, true);
   QPointer<VellMessageSheet> guard(sheet);
