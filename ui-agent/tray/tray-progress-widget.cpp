@@ -8,6 +8,7 @@
 #include "dpi-info.h"
 #include "image-manager.h"
 #include "latest-event.h"
+#include "logger.h"
 #include "progress-page-model.h"
 #include "string-display.h"
 #include "style-manager.h"
@@ -113,7 +114,10 @@ TrayProgressWidget::~TrayProgressWidget() = default;
 void TrayProgressWidget::updateStatus(ServiceStatus status, const Json::Value& content) {
   const qint64 now = clock_();
   const auto view = tray_progress_page::view_for(status, content, estimate_, now);
-  phase_->setText(string_display::text(view.phase));
+  const QString phase = string_display::text(view.phase);
+  if (phase != phase_->fullText())
+    LOG_DEBUG(vlog::kDefaultComponent, "tray progress page: %s", qUtf8Printable(phase));
+  phase_->setText(phase);
   phase_->setToolTip(phase_->fullText());
   phase_->setAccessibleName(phase_->fullText());
   picture_->setAccessibleName(phase_->fullText());

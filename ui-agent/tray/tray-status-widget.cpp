@@ -11,6 +11,7 @@
 #include "dpi-info.h"
 #include "image-manager.h"
 #include "latest-event.h"
+#include "logger.h"
 #include "status-page-model.h"
 #include "string-display.h"
 #include "style-manager.h"
@@ -112,6 +113,8 @@ void TrayStatusWidget::updateStatus(const Json::Value& content) {
     const QString plain = QTextDocumentFragment::fromHtml(message).toPlainText();
     event_->setToolTip(message);
     event_->setAccessibleName(plain);
+    LOG_DEBUG(vlog::kDefaultComponent, "tray status page: %s %s", qUtf8Printable(result_->fullText().trimmed()),
+              qUtf8Printable(plain));
     age_->hide();
     emit sigTrayStatusChanged(TrayError);
     return;
@@ -137,6 +140,7 @@ void TrayStatusWidget::updateStatus(const Json::Value& content) {
   }
   age_->show();
   latest_->refresh(clock_());
+  LOG_DEBUG(vlog::kDefaultComponent, "tray status page: %s", qUtf8Printable(result_->fullText()));
   emit sigTrayStatusChanged(view.result.tray);
 }
 
