@@ -223,7 +223,7 @@ void AgentDesktop::stopSim(bool kill) {
   const QString dir = QString::fromStdString(scratch_->path());
   agent_->setStandardOutputFile(dir + "/agent.out", QIODevice::Append);
   agent_->setStandardErrorFile(dir + "/agent.err", QIODevice::Append);
-  agent_->start(build("/bin/nimbra-backup-agent"), args);
+  agent_->start(agentBinary_.isEmpty() ? build("/bin/nimbra-backup-agent") : agentBinary_, args);
   if (!agent_->waitForStarted(10000)) return ::testing::AssertionFailure() << "the agent does not start";
   return ::testing::AssertionSuccess();
 }
@@ -427,5 +427,77 @@ QString AgentDesktop::shot(const QString& step) {
   desktop_->screenshot(path);
   return path;
 }
+
+// ---- wizard variants, more backups, the session (one block, kept together) ----
+
+::testing::AssertionResult AgentDesktop::logAtDebugLevel() {
+  const QString prefix = QString::fromStdString(scratch_->path()) + "/prefix";
+  const QString resources = build("/resource");
+  if (!QDir().mkpath(prefix + "/bin") || !QDir().mkpath(prefix + "/resource"))
+    return ::testing::AssertionFailure() << "cannot make " << prefix.toStdString();
+  // A hard link: the program finds its resources beside its own path, which
+  // a symbolic link would resolve to the build's.
+  const QString program = prefix + "/bin/nimbra-backup-agent";
+  if (::link(QFile::encodeName(build("/bin/nimbra-backup-agent")).constData(),
+             QFile::encodeName(program).constData()) != 0 &&
+      !QFile::copy(build("/bin/nimbra-backup-agent"), program))
+    return ::testing::AssertionFailure() << "cannot place the agent in " << prefix.toStdString();
+  QFile::link(build("/bin/nimbra-backup-notifier"), prefix + "/bin/nimbra-backup-notifier");
+  for (const QString& entry : QDir(resources).entryList(QDir::AllEntries | QDir::NoDotAndDotDot)) {
+    if (entry == "agent.debug") continue;
+    QFile::link(resources + "/" + entry, prefix + "/resource/" + entry);
+  }
+  QFile debug(prefix + "/resource/agent.debug");
+  if (!debug.open(QIODevice::WriteOnly) ||
+      debug.write("default_component = 7\nclient_manager_debug = 7\nwin_ipc = 4\n") < 0)
+    return ::testing::AssertionFailure() << "cannot write " << debug.fileName().toStdString();
+  agentBinary_ = program;
+  return ::testing::AssertionSuccess();
+}
+
+int AgentDesktop::logCount(const QString& text) const {
+  return agentLog().count(text);
+}
+
+bool AgentDesktop::waitForLog(const QString& text, int ms, int count) {
+  return waitUntil([&] { return logCount(text) >= count; }, ms);
+}
+
+::testing::AssertionResult AgentDesktop::startLinked(const QString& scenario, const QStringList& args) {
+  if (auto r = logAtDebugLevel(); !r) return r;
+  if (auto r = startSim(scenario); !r) return r;
+  if (auto r = startAgent(args); !r) return r;
+  if (!waitForAction("get_status", 30000)) return ::testing::AssertionFailure() << "the agent never polls";
+  if (withTray() && !waitUntil([&] { return !trayIcon().isEmpty(); }, 20000))
+    return ::testing::AssertionFailure() << "no icon in the tray";
+  return ::testing::AssertionSuccess();
+}
+
+QString AgentDesktop::waitForAgentWindow(int ms, const QString& regex) {
+  QString window;
+  waitUntil(
+      [&] {
+        const QStringList w = agentWindows(regex);
+        window = w.isEmpty() ? QString() : w.first();
+        return !window.isEmpty();
+      },
+      ms);
+  return window;
+}
+
+AgentDesktop::ShownNotification AgentDesktop::takeNotification() {
+  ShownNotification s;
+  s.menu = desktop_->contextMenu(QString());
+  run("dunstctl", {"close-all"});
+  waitUntil([&] { return desktop_->displayed() == 0; }, 5000);
+  const QJsonArray history = notifications();
+  if (!history.isEmpty()) {
+    s.summary = history[0].toObject().value("summary").toString();
+    s.body = history[0].toObject().value("body").toString();
+  }
+  return s;
+}
+
+// ---- end of the block ----
 
 }  // namespace desktop_test

@@ -115,6 +115,32 @@ class AgentDesktop : public ::testing::Test {
   QString source(const QString& rel) const;
   QString build(const QString& rel) const;
 
+  // ---- wizard variants, more backups, the session (one block, kept together) ----
+  // The agent's own code and its client manager log at debug level: the
+  // program is linked into a folder of the test's own beside a resource
+  // folder whose agent.debug says so (the rest of it links to the build's).
+  // Call before startAgent; the log then tells the texts pixels cannot
+  // (the wizard's error sheets, the pop-up's pages, the activity rows).
+  ::testing::AssertionResult logAtDebugLevel();
+  // Lines of the agent's log that contain `text`.
+  int logCount(const QString& text) const;
+  bool waitForLog(const QString& text, int ms, int count = 1);
+  // The agent, logging at debug level, against the linked `scenario` until
+  // it polls and (on a desktop with a tray) shows its icon.
+  ::testing::AssertionResult startLinked(const QString& scenario, const QStringList& args = {});
+  // The first visible window of the agent whose title matches `regex`,
+  // waited for up to `ms`; empty when none came.
+  QString waitForAgentWindow(int ms, const QString& regex = QStringLiteral("^Nimbra Backup$"));
+  // The notification dunst shows: its title, its text and its menu of
+  // actions (read from dunst's context menu); all closed afterwards.
+  struct ShownNotification {
+    QString summary, body;
+    QStringList menu;
+  };
+  ShownNotification takeNotification();
+  QString agentBinary_;  // the program startAgent runs when set
+  // ---- end of the block ----
+
   std::unique_ptr<nimbra_test::TempDir> scratch_;
   std::unique_ptr<notifier_test::PrivateDesktop> desktop_;
   std::unique_ptr<QProcess> sim_, agent_;
