@@ -498,6 +498,54 @@ AgentDesktop::ShownNotification AgentDesktop::takeNotification() {
   return s;
 }
 
+QPoint AgentDesktop::findColour(const QColor& colour, const QRect& area, int tolerance) {
+  const QString png = QString::fromStdString(scratch_->path()) + "/find.png";
+  if (!desktop_->screenshot(png).isEmpty()) return {};
+  const QImage image = QImage(png).convertToFormat(QImage::Format_RGB32);
+  const QRect inside = area.intersected(image.rect());
+  qint64 sx = 0, sy = 0, n = 0;
+  for (int y = inside.top(); y <= inside.bottom(); ++y) {
+    const QRgb* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+    for (int x = inside.left(); x <= inside.right(); ++x) {
+      const QRgb c = line[x];
+      if (std::abs(qRed(c) - colour.red()) + std::abs(qGreen(c) - colour.green()) +
+              std::abs(qBlue(c) - colour.blue()) <=
+          tolerance) {
+        sx += x;
+        sy += y;
+        ++n;
+      }
+    }
+  }
+  return n == 0 ? QPoint() : QPoint(int(sx / n), int(sy / n));
+}
+
+QRect AgentDesktop::windowRect(const QString& window) const {
+  const QString out = run("xdotool", {"getwindowgeometry", "--shell", window});
+  const QRegularExpressionMatch x = QRegularExpression("X=(-?\\d+)").match(out);
+  const QRegularExpressionMatch y = QRegularExpression("Y=(-?\\d+)").match(out);
+  const QSize size = windowSize(window);
+  if (!x.hasMatch() || !y.hasMatch() || size.isEmpty()) return {};
+  return QRect(QPoint(x.captured(1).toInt(), y.captured(1).toInt()), size);
+}
+
+QPoint AgentDesktop::popupUserButton() {
+  const QRect pop = windowRect(popup());
+  if (pop.isEmpty()) return {};
+  // The header's right half, above the page.
+  return findColour(QColor(0x0A, 0x9C, 0xFF), QRect(pop.center().x(), pop.top(), pop.width() / 2, 50), 30);
+}
+
+QPoint AgentDesktop::popupListButton() {
+  const QPoint user = popupUserButton();
+  // 12 apart, the list button's 32 and the user button's 24: centres 40 apart.
+  return user.isNull() ? user : user - QPoint(40, 0);
+}
+
+void AgentDesktop::clickAt(const QPoint& p) {
+  run("xdotool", {"mousemove", "--sync", QString::number(p.x()), QString::number(p.y()), "click", "1"});
+}
+
 // ---- end of the block ----
 
 }  // namespace desktop_test

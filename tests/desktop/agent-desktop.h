@@ -138,6 +138,16 @@ class AgentDesktop : public ::testing::Test {
     QStringList menu;
   };
   ShownNotification takeNotification();
+  // The centre of the pixels of `colour` (within `tolerance`) inside `area`
+  // of the screen, null when there are none: where a coloured control is.
+  QPoint findColour(const QColor& colour, const QRect& area, int tolerance = 6);
+  // A window's place on the screen, empty when it is gone.
+  QRect windowRect(const QString& window) const;
+  // The pop-up's user button (the blue disc at the right of its header) and
+  // its activity-list button (left of it), on the screen; null without a pop-up.
+  QPoint popupUserButton();
+  QPoint popupListButton();
+  void clickAt(const QPoint& p);
   QString agentBinary_;  // the program startAgent runs when set
   // ---- end of the block ----
 
