@@ -530,10 +530,18 @@ QRect AgentDesktop::windowRect(const QString& window) const {
 }
 
 QPoint AgentDesktop::popupUserButton() {
-  const QRect pop = windowRect(popup());
-  if (pop.isEmpty()) return {};
-  // The header's right half, above the page.
-  return findColour(QColor(0x0A, 0x9C, 0xFF), QRect(pop.center().x(), pop.top(), pop.width() / 2, 50), 30);
+  // The header's right half, above the page, once the pop-up is drawn (the
+  // tolerance takes the lighter blue under the mouse too).
+  QPoint found;
+  waitUntil(
+      [&] {
+        const QRect pop = windowRect(popup());
+        if (!pop.isEmpty())
+          found = findColour(QColor(0x0A, 0x9C, 0xFF), QRect(pop.center().x(), pop.top(), pop.width() / 2, 50), 80);
+        return !found.isNull();
+      },
+      5000);
+  return found;
 }
 
 QPoint AgentDesktop::popupListButton() {
@@ -544,6 +552,16 @@ QPoint AgentDesktop::popupListButton() {
 
 void AgentDesktop::clickAt(const QPoint& p) {
   run("xdotool", {"mousemove", "--sync", QString::number(p.x()), QString::number(p.y()), "click", "1"});
+}
+
+bool AgentDesktop::pressUntil(const QString& key, const std::function<bool()>& done, int ms) {
+  QElapsedTimer clock;
+  clock.start();
+  while (clock.elapsed() < ms) {
+    keys({key});
+    if (waitUntil(done, 1000)) return true;
+  }
+  return done();
 }
 
 // ---- end of the block ----

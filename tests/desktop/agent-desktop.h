@@ -144,10 +144,14 @@ class AgentDesktop : public ::testing::Test {
   // A window's place on the screen, empty when it is gone.
   QRect windowRect(const QString& window) const;
   // The pop-up's user button (the blue disc at the right of its header) and
-  // its activity-list button (left of it), on the screen; null without a pop-up.
+  // its activity-list button (left of it), on the screen, waited for while
+  // the pop-up is drawn; null without a pop-up.
   QPoint popupUserButton();
   QPoint popupListButton();
   void clickAt(const QPoint& p);
+  // Presses `key` until `done` holds (a second after each press), as a
+  // person presses again when a window that just came up missed the key.
+  bool pressUntil(const QString& key, const std::function<bool()>& done, int ms);
   QString agentBinary_;  // the program startAgent runs when set
   // ---- end of the block ----
 
