@@ -90,6 +90,36 @@ TEST_F(WidgetsSheets, QuitHidesAtOnceWhenAnotherLoopKeepsItsOwnFromReturning) {
   EXPECT_FALSE(maskShown);
 }
 
+TEST_F(WidgetsSheets, KeysStayWithTheSheetWhileItIsUp) {
+  // A control of the window under the sheet that takes the focus (a sheet
+  // hidden above it, the window activated again) gives it back.
+  auto* under = new QPushButton(QStringLiteral("Let's Start"), &window_);
+  under->show();
+  window_.activateWindow();
+  QApplication::setActiveWindow(&window_);
+  VellMessageSheet sheet(2, &window_, true);
+  QWidget* focusAfter = nullptr;
+  int pressed = 0;
+  QObject::connect(under, &QPushButton::clicked, [&] { ++pressed; });
+  whileUp([&] {
+    under->setFocus();
+    QApplication::processEvents();
+    focusAfter = QApplication::focusWidget();
+    QKeyEvent ret(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QApplication::sendEvent(focusAfter ? focusAfter : &sheet, &ret);
+    // Should the key have gone astray, the sheet still ends.
+    QTimer::singleShot(2000, &sheet, [&] {
+      if (sheet.isRunning()) sheet.quit();
+    });
+  });
+  EXPECT_EQ(sheet.exec(), QMessageBox::Ok) << "Return does not answer the sheet";
+  EXPECT_EQ(focusAfter, sheet.button(QMessageBox::Ok));
+  EXPECT_EQ(pressed, 0) << "a key reached the control under the sheet";
+  // Afterwards the window's controls take the focus again.
+  under->setFocus();
+  EXPECT_EQ(QApplication::focusWidget(), under);
+}
+
 TEST_F(WidgetsSheets, DestroyedWhileUpReturnsNoButton) {
   auto* sheet = new VellMessageSheet(2, &window_, true);
   QPointer<VellMessageSheet> guard(sheet);
