@@ -559,7 +559,7 @@ bool AgentDesktop::pressUntil(const QString& key, const std::function<bool()>& d
   clock.start();
   while (clock.elapsed() < ms) {
     keys({key});
-    if (waitUntil(done, 1000)) return true;
+    if (waitUntil(done, 3000)) return true;
   }
   return done();
 }

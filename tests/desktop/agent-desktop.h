@@ -149,8 +149,9 @@ class AgentDesktop : public ::testing::Test {
   QPoint popupUserButton();
   QPoint popupListButton();
   void clickAt(const QPoint& p);
-  // Presses `key` until `done` holds (a second after each press), as a
-  // person presses again when a window that just came up missed the key.
+  // Presses `key` until `done` holds (waiting 3 s after each press), as a
+  // person presses again when a window that just came up missed the key
+  // (the toolkit takes the focus a moment after the window manager gives it).
   bool pressUntil(const QString& key, const std::function<bool()>& done, int ms);
   QString agentBinary_;  // the program startAgent runs when set
   // ---- end of the block ----

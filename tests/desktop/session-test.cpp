@@ -80,8 +80,8 @@ TEST_F(Session, LogOutAsksFirstThenTheWizardIsBack) {
   ASSERT_FALSE(confirm.isEmpty()) << "no confirmation";
   ASSERT_TRUE(activate(confirm));
   shot("confirm");
-  keys({"Escape"});
-  ASSERT_TRUE(waitUntil([&] { return dialog(0).isEmpty(); }, 10000)) << "Escape leaves the confirmation up";
+  ASSERT_TRUE(pressUntil("Escape", [&] { return dialog(0).isEmpty(); }, 10000))
+      << "Escape leaves the confirmation up";
   EXPECT_EQ(countOf("logout"), 0) << "Cancel logged out";
   EXPECT_EQ(trayPicture(), TrayPicture::Success) << pictureName(trayPicture());
 
