@@ -83,15 +83,15 @@ TEST_P(BackupEnding, OrangeIconStatusPageAndNotification) {
   shot("activity");
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Scenarios, BackupEnding,
-    ::testing::Values(EndingRow{"backup-partial", "Partially Successful",
-                                "Failed to read and upload the volume content of D:."},
-                      EndingRow{"backup-cancelled", "Canceled", "Backup task was canceled."}),
-    [](const ::testing::TestParamInfo<EndingRow>& row) {
-      QString name = row.param.scenario;
-      return name.remove('-').toStdString();
-    });
+INSTANTIATE_TEST_SUITE_P(Scenarios, BackupEnding,
+                         ::testing::Values(EndingRow{"backup-partial", "Partially Successful",
+                                                     "Failed to read and upload the volume content of D:."},
+                                           EndingRow{"backup-cancelled", "Canceled",
+                                                     "Backup task was canceled."}),
+                         [](const ::testing::TestParamInfo<EndingRow>& row) {
+                           QString name = row.param.scenario;
+                           return name.remove('-').toStdString();
+                         });
 
 struct QuotaRow {
   const char* scenario;
@@ -141,8 +141,8 @@ INSTANTIATE_TEST_SUITE_P(
     Scenarios, QuotaNotice,
     ::testing::Values(QuotaRow{"quota-nearly-full", "Storage is almost full",
                                "You have used 85% of your total storage (100 GB).", "tray_usage_blue"},
-                      QuotaRow{"quota-full", "Storage is full", "You have used 95% of your total storage (100 GB).",
-                               "tray_usage_red"}),
+                      QuotaRow{"quota-full", "Storage is full",
+                               "You have used 95% of your total storage (100 GB).", "tray_usage_red"}),
     [](const ::testing::TestParamInfo<QuotaRow>& row) {
       QString name = row.param.scenario;
       return name.remove('-').toStdString();

@@ -19,7 +19,8 @@ class Session : public AgentDesktop {
     if (list.isEmpty()) return ::testing::AssertionFailure() << "no activity list";
     shot(step);
     if (auto r = activate(list); !r) return r;
-    if (!pressUntil("Escape", [&] { return agentWindows("^Activity$").isEmpty(); }, 10000))
+    if (!pressUntil(
+            "Escape", [&] { return agentWindows("^Activity$").isEmpty(); }, 10000))
       return ::testing::AssertionFailure() << "Escape leaves the activity list up";
     return ::testing::AssertionSuccess();
   }
@@ -80,7 +81,8 @@ TEST_F(Session, LogOutAsksFirstThenTheWizardIsBack) {
   ASSERT_FALSE(confirm.isEmpty()) << "no confirmation";
   ASSERT_TRUE(activate(confirm));
   shot("confirm");
-  ASSERT_TRUE(pressUntil("Escape", [&] { return dialog(0).isEmpty(); }, 10000))
+  ASSERT_TRUE(pressUntil(
+      "Escape", [&] { return dialog(0).isEmpty(); }, 10000))
       << "Escape leaves the confirmation up";
   EXPECT_EQ(countOf("logout"), 0) << "Cancel logged out";
   EXPECT_EQ(trayPicture(), TrayPicture::Success) << pictureName(trayPicture());
@@ -141,7 +143,9 @@ TEST_F(NoTray, OpenShowsThePopupAsASmallWindowThatWorks) {
 
   // Escape closes it, and "open" brings it back.
   ASSERT_TRUE(activate(window));
-  EXPECT_TRUE(pressUntil("Escape", [&] { return popup().isEmpty(); }, 10000)) << "Escape leaves the window up";
+  EXPECT_TRUE(pressUntil(
+      "Escape", [&] { return popup().isEmpty(); }, 10000))
+      << "Escape leaves the window up";
   EXPECT_EQ(launchAgain({}), 0);
   EXPECT_TRUE(waitUntil([&] { return !popup().isEmpty(); }, 15000)) << "a second \"open\" shows nothing";
   shot("popup-window-again");

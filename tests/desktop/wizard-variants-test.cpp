@@ -45,7 +45,8 @@ class WizardVariants : public AgentDesktop {
   // "Let's Start" with Return: the sign-in sheet, the browser, and the
   // address back to the agent, which asks for its token (the `pass`th time).
   ::testing::AssertionResult signIn(int pass) {
-    if (!pressUntil("Return", [&] { return countOf("get_auth") >= pass; }, 15000))
+    if (!pressUntil(
+            "Return", [&] { return countOf("get_auth") >= pass; }, 15000))
       return ::testing::AssertionFailure() << "no get_auth";
     if (!waitForAction("get_token", 30000, pass))
       return ::testing::AssertionFailure() << "the browser's return never reached the agent";
@@ -98,7 +99,8 @@ TEST_F(WizardVariants, OneSiteSummaryThenDoneLinksThere) {
   EXPECT_EQ(countOf("create_device"), 0) << "linked before Done";
 
   // Done has the focus.
-  ASSERT_TRUE(pressUntil("Return", [&] { return countOf("create_device") >= 1; }, 15000));
+  ASSERT_TRUE(pressUntil(
+      "Return", [&] { return countOf("create_device") >= 1; }, 15000));
   const QJsonObject create = request("create_device");
   EXPECT_EQ(create.value("zid").toString(), "US");
   EXPECT_EQ(create.value("subscription_id").toString(), "sub-us-7f3a");
@@ -107,7 +109,8 @@ TEST_F(WizardVariants, OneSiteSummaryThenDoneLinksThere) {
   ASSERT_TRUE(backupQuestion());
   EXPECT_GT(screenPixels(kMaskedSummaryBlock), 50000) << "the summary is not under the question";
   shot("backup-now-question");
-  ASSERT_TRUE(pressUntil("Return", [&] { return countOf("backup_now") >= 1; }, 15000));  // OK
+  ASSERT_TRUE(pressUntil(
+      "Return", [&] { return countOf("backup_now") >= 1; }, 15000));  // OK
   ASSERT_TRUE(trayTakesOver());
   EXPECT_TRUE(waitForTrayPicture(TrayPicture::Running, 20000)) << pictureName(trayPicture());
   EXPECT_TRUE(waitForLog("tray progress page: ", 10000)) << "the pop-up never shows the progress page";
@@ -136,7 +139,8 @@ TEST_F(WizardVariants, NimbraAccountLinksOnTheFirstSiteWithoutSummary) {
   // Under the question's mask the page is bare: no summary block.
   EXPECT_LT(screenPixels(kMaskedSummaryBlock), 5000);
   shot("backup-now-question");
-  ASSERT_TRUE(pressUntil("Return", [&] { return countOf("backup_now") >= 1; }, 15000));  // OK
+  ASSERT_TRUE(pressUntil(
+      "Return", [&] { return countOf("backup_now") >= 1; }, 15000));  // OK
   ASSERT_TRUE(trayTakesOver());
   EXPECT_TRUE(waitForTrayPicture(TrayPicture::Running, 20000)) << pictureName(trayPicture());
   shot("popup-running");
@@ -151,13 +155,14 @@ TEST_F(WizardVariants, SignInErrorsShowTheirSheetAndReturnToWelcome) {
 
   // First pass: the token is refused (15).
   ASSERT_TRUE(signIn(1));
-  ASSERT_TRUE(waitForLog("wizard shows error 15: Authentication failed. Sign out from the agent and sign in again.",
-                         15000))
+  ASSERT_TRUE(waitForLog(
+      "wizard shows error 15: Authentication failed. Sign out from the agent and sign in again.", 15000))
       << "no sheet for error 15";
   EXPECT_TRUE(waitUntil([&] { return masked(); }, 10000)) << "the error sheet does not cover the wizard";
   ASSERT_TRUE(waitForAgentFocus(10000));
   shot("error-15");
-  ASSERT_TRUE(pressUntil("Return", [&] { return logCount("wizard: welcome page") >= 2; }, 15000))  // OK
+  ASSERT_TRUE(pressUntil(
+      "Return", [&] { return logCount("wizard: welcome page") >= 2; }, 15000))  // OK
       << "not back on the welcome page";
   ASSERT_TRUE(welcomeDrawn(10000)) << "the error sheet stays";
   shot("welcome-after-15");
@@ -170,7 +175,8 @@ TEST_F(WizardVariants, SignInErrorsShowTheirSheetAndReturnToWelcome) {
   ASSERT_TRUE(waitForAction("get_site_info", 15000));
   ASSERT_TRUE(summaryShown(20000)) << "no summary page";
   ASSERT_TRUE(waitForAgentFocus(10000));
-  ASSERT_TRUE(pressUntil("Return", [&] { return countOf("create_device") >= 1; }, 15000));  // Done
+  ASSERT_TRUE(pressUntil(
+      "Return", [&] { return countOf("create_device") >= 1; }, 15000));  // Done
   ASSERT_TRUE(waitForLog("wizard shows error 17: You haven't set up the Nimbra Encryption Key.", 15000))
       << "no sheet for error 17";
   EXPECT_EQ(logCount("href=\"https://us.console.nimbrabackup.example/encryption\">console</a>"), 1)
@@ -178,7 +184,8 @@ TEST_F(WizardVariants, SignInErrorsShowTheirSheetAndReturnToWelcome) {
   EXPECT_TRUE(waitUntil([&] { return masked(); }, 10000));
   ASSERT_TRUE(waitForAgentFocus(10000));
   shot("error-17");
-  ASSERT_TRUE(pressUntil("Return", [&] { return logCount("wizard: welcome page") >= 3; }, 15000))  // OK
+  ASSERT_TRUE(pressUntil(
+      "Return", [&] { return logCount("wizard: welcome page") >= 3; }, 15000))  // OK
       << "not back on the welcome page";
   ASSERT_TRUE(welcomeDrawn(10000)) << "the error sheet stays";
   shot("welcome-after-17");
@@ -190,9 +197,11 @@ TEST_F(WizardVariants, SignInErrorsShowTheirSheetAndReturnToWelcome) {
   ASSERT_TRUE(waitForAction("get_site_info", 15000, 2));
   ASSERT_TRUE(summaryShown(20000)) << "no summary page";
   ASSERT_TRUE(waitForAgentFocus(10000));
-  ASSERT_TRUE(pressUntil("Return", [&] { return countOf("create_device") >= 2; }, 15000));  // Done
+  ASSERT_TRUE(pressUntil(
+      "Return", [&] { return countOf("create_device") >= 2; }, 15000));  // Done
   ASSERT_TRUE(backupQuestion());
-  ASSERT_TRUE(pressUntil("Escape", [&] { return logCount("back up now: not now") >= 1; }, 15000));  // Not Now
+  ASSERT_TRUE(pressUntil(
+      "Escape", [&] { return logCount("back up now: not now") >= 1; }, 15000));  // Not Now
   ASSERT_TRUE(trayTakesOver());
   ASSERT_TRUE(waitForAction("get_status", 15000));
   shot("linked");
