@@ -228,20 +228,36 @@ int VellMessageSheet::exec() {
   raise();
   if (!sheet_) activateWindow();
   // The primary button takes the focus, so Return answers the sheet.
+  QPushButton* primary = nullptr;
   for (auto it = buttons_.constEnd(); it != buttons_.constBegin();) {
     --it;
     if (isAffirmative(static_cast<QMessageBox::StandardButton>(it.key()))) {
-      it.value()->setFocus();
+      primary = it.value();
       break;
     }
   }
+  if (primary) primary->setFocus();
 
   QEventLoop loop;
   loop_ = &loop;
   running().append(this);
   QPointer<VellMessageSheet> self(this);
+  // While a sheet is up, keys are for it alone: when the focus lands on the
+  // window under it (another sheet of the window hidden, the window shown
+  // again and activated), it comes back to the sheet.
+  QPointer<QPushButton> keeper(primary);
+  const QMetaObject::Connection focus =
+      connect(qApp, &QApplication::focusChanged, this, [this, keeper](QWidget*, QWidget* now) {
+        if (!sheet_ || !now || !isVisible() || isAncestorOf(now) || now->window() != window()) return;
+        if (running().isEmpty() || running().last() != this) return;
+        if (keeper)
+          keeper->setFocus(Qt::OtherFocusReason);
+        else
+          setFocus(Qt::OtherFocusReason);
+      });
   const int rc = loop.exec(QEventLoop::DialogExec);
   if (!self) return QMessageBox::NoButton;  // destroyed while up
+  disconnect(focus);
   running().removeAll(this);
   loop_ = nullptr;
   hide();
@@ -251,11 +267,11 @@ int VellMessageSheet::exec() {
 
 void VellMessageSheet::quit(int result) {
   result_ = result;
-  if (loop_) {
-    loop_->exit(result);
-  } else {
-    hide();
-  }
+  if (loop_) loop_->exit(result);
+  // At once: the loop returns only when the code running under it does, and
+  // that code may open the next wait (the sign-in sheet is quit by the
+  // message that goes on to show the connecting frame).
+  hide();
 }
 
 void VellMessageSheet::keyPressEvent(QKeyEvent* event) {

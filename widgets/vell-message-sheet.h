@@ -51,8 +51,9 @@ class VellMessageSheet : public QFrame {
   // default). Escape presses the Cancel, Discard, No or Close button if the
   // sheet has one. A call while the sheet already runs returns NoButton.
   int exec();
-  // Ends a running exec() with `result` and hides the sheet; without a
-  // running exec() it only hides the sheet.
+  // Ends a running exec() with `result` and hides the sheet at once (exec()
+  // returns when the code that called quit() under its loop returns);
+  // without a running exec() it only hides the sheet.
   void quit(int result = QMessageBox::NoButton);
   bool isRunning() const { return loop_ != nullptr; }
 

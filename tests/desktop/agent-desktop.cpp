@@ -471,4 +471,117 @@ QString AgentDesktop::agentStderr() const {
   return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : QString();
 }
 
+// ---- wizard variants, more backups, the session (one block, kept together) ----
+
+int AgentDesktop::logCount(const QString& text) const {
+  return agentLog().count(text);
+}
+
+bool AgentDesktop::waitForLog(const QString& text, int ms, int count) {
+  return waitUntil([&] { return logCount(text) >= count; }, ms);
+}
+
+::testing::AssertionResult AgentDesktop::startLinked(const QString& scenario, const QStringList& args) {
+  if (auto r = useDebugLog(); !r) return r;
+  if (auto r = startSim(scenario); !r) return r;
+  if (auto r = startAgent(args); !r) return r;
+  if (!waitForAction("get_status", 30000)) return ::testing::AssertionFailure() << "the agent never polls";
+  if (withTray() && !waitUntil([&] { return !trayIcon().isEmpty(); }, 20000))
+    return ::testing::AssertionFailure() << "no icon in the tray";
+  return ::testing::AssertionSuccess();
+}
+
+QString AgentDesktop::waitForAgentWindow(int ms, const QString& regex) {
+  QString window;
+  waitUntil(
+      [&] {
+        const QStringList w = agentWindows(regex);
+        window = w.isEmpty() ? QString() : w.first();
+        return !window.isEmpty();
+      },
+      ms);
+  return window;
+}
+
+AgentDesktop::ShownNotification AgentDesktop::takeNotification() {
+  ShownNotification s;
+  s.menu = desktop_->contextMenu(QString());
+  run("dunstctl", {"close-all"});
+  waitUntil([&] { return desktop_->displayed() == 0; }, 5000);
+  const QJsonArray history = notifications();
+  if (!history.isEmpty()) {
+    s.summary = history[0].toObject().value("summary").toString();
+    s.body = history[0].toObject().value("body").toString();
+  }
+  return s;
+}
+
+QPoint AgentDesktop::findColour(const QColor& colour, const QRect& area, int tolerance) {
+  const QString png = QString::fromStdString(scratch_->path()) + "/find.png";
+  if (!desktop_->screenshot(png).isEmpty()) return {};
+  const QImage image = QImage(png).convertToFormat(QImage::Format_RGB32);
+  const QRect inside = area.intersected(image.rect());
+  qint64 sx = 0, sy = 0, n = 0;
+  for (int y = inside.top(); y <= inside.bottom(); ++y) {
+    const QRgb* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+    for (int x = inside.left(); x <= inside.right(); ++x) {
+      const QRgb c = line[x];
+      if (std::abs(qRed(c) - colour.red()) + std::abs(qGreen(c) - colour.green()) +
+              std::abs(qBlue(c) - colour.blue()) <=
+          tolerance) {
+        sx += x;
+        sy += y;
+        ++n;
+      }
+    }
+  }
+  return n == 0 ? QPoint() : QPoint(int(sx / n), int(sy / n));
+}
+
+QRect AgentDesktop::windowRect(const QString& window) const {
+  const QString out = run("xdotool", {"getwindowgeometry", "--shell", window});
+  const QRegularExpressionMatch x = QRegularExpression("X=(-?\\d+)").match(out);
+  const QRegularExpressionMatch y = QRegularExpression("Y=(-?\\d+)").match(out);
+  const QSize size = windowSize(window);
+  if (!x.hasMatch() || !y.hasMatch() || size.isEmpty()) return {};
+  return QRect(QPoint(x.captured(1).toInt(), y.captured(1).toInt()), size);
+}
+
+QPoint AgentDesktop::popupUserButton() {
+  // The header's right half, above the page, once the pop-up is drawn (the
+  // tolerance takes the lighter blue under the mouse too).
+  QPoint found;
+  waitUntil(
+      [&] {
+        const QRect pop = windowRect(popup());
+        if (!pop.isEmpty())
+          found = findColour(QColor(0x0A, 0x9C, 0xFF), QRect(pop.center().x(), pop.top(), pop.width() / 2, 50), 80);
+        return !found.isNull();
+      },
+      5000);
+  return found;
+}
+
+QPoint AgentDesktop::popupListButton() {
+  const QPoint user = popupUserButton();
+  // 12 apart, the list button's 32 and the user button's 24: centres 40 apart.
+  return user.isNull() ? user : user - QPoint(40, 0);
+}
+
+void AgentDesktop::clickAt(const QPoint& p) {
+  run("xdotool", {"mousemove", "--sync", QString::number(p.x()), QString::number(p.y()), "click", "1"});
+}
+
+bool AgentDesktop::pressUntil(const QString& key, const std::function<bool()>& done, int ms) {
+  QElapsedTimer clock;
+  clock.start();
+  while (clock.elapsed() < ms) {
+    keys({key});
+    if (waitUntil(done, 3000)) return true;
+  }
+  return done();
+}
+
+// ---- end of the block ----
+
 }  // namespace desktop_test

@@ -115,6 +115,40 @@ class AgentDesktop : public ::testing::Test {
   QString source(const QString& rel) const;
   QString build(const QString& rel) const;
 
+  // ---- wizard variants, more backups, the session (one block, kept together) ----
+  // How many times the agent's log contains `text`.
+  int logCount(const QString& text) const;
+  bool waitForLog(const QString& text, int ms, int count = 1);
+  // The agent, logging at debug level (useDebugLog), against the linked `scenario` until
+  // it polls and (on a desktop with a tray) shows its icon.
+  ::testing::AssertionResult startLinked(const QString& scenario, const QStringList& args = {});
+  // The first visible window of the agent whose title matches `regex`,
+  // waited for up to `ms`; empty when none came.
+  QString waitForAgentWindow(int ms, const QString& regex = QStringLiteral("^Nimbra Backup$"));
+  // The notification dunst shows: its title, its text and its menu of
+  // actions (read from dunst's context menu); all closed afterwards.
+  struct ShownNotification {
+    QString summary, body;
+    QStringList menu;
+  };
+  ShownNotification takeNotification();
+  // The centre of the pixels of `colour` (within `tolerance`) inside `area`
+  // of the screen, null when there are none: where a coloured control is.
+  QPoint findColour(const QColor& colour, const QRect& area, int tolerance = 6);
+  // A window's place on the screen, empty when it is gone.
+  QRect windowRect(const QString& window) const;
+  // The pop-up's user button (the blue disc at the right of its header) and
+  // its activity-list button (left of it), on the screen, waited for while
+  // the pop-up is drawn; null without a pop-up.
+  QPoint popupUserButton();
+  QPoint popupListButton();
+  void clickAt(const QPoint& p);
+  // Presses `key` until `done` holds (waiting 3 s after each press), as a
+  // person presses again when a window that just came up missed the key
+  // (the toolkit takes the focus a moment after the window manager gives it).
+  bool pressUntil(const QString& key, const std::function<bool()>& done, int ms);
+  // ---- end of the block ----
+
   std::unique_ptr<nimbra_test::TempDir> scratch_;
   std::unique_ptr<notifier_test::PrivateDesktop> desktop_;
   std::unique_ptr<QProcess> sim_, agent_;

@@ -10,36 +10,7 @@
 namespace desktop_test {
 namespace {
 
-class LinkedAgent : public AgentDesktop {
- protected:
-  // The agent started against `scenario` until it polls and shows its icon.
-  ::testing::AssertionResult connected(const QString& scenario) {
-    if (auto r = startSim(scenario); !r) return r;
-    if (auto r = startAgent(); !r) return r;
-    if (!waitForAction("get_status", 30000)) return ::testing::AssertionFailure() << "the agent never polls";
-    if (!waitUntil([&] { return !trayIcon().isEmpty(); }, 20000))
-      return ::testing::AssertionFailure() << "no icon in the tray";
-    return ::testing::AssertionSuccess();
-  }
-  // The notification dunst shows, read from the screen's notification
-  // service: its title, text and menu of actions; closed afterwards.
-  struct Shown {
-    QString summary, body;
-    QStringList menu;
-  };
-  Shown takeNotification() {
-    Shown s;
-    s.menu = desktop_->contextMenu(QString());
-    run("dunstctl", {"close-all"});
-    waitUntil([&] { return desktop_->displayed() == 0; }, 5000);
-    const QJsonArray history = notifications();
-    if (!history.isEmpty()) {
-      s.summary = history[0].toObject().value("summary").toString();
-      s.body = history[0].toObject().value("body").toString();
-    }
-    return s;
-  }
-};
+using LinkedAgent = AgentDesktop;
 
 struct BackupRow {
   const char* scenario;
@@ -55,7 +26,7 @@ class BackupOutcome : public LinkedAgent, public ::testing::WithParamInterface<B
 
 TEST_P(BackupOutcome, TrayPictureFollowsAndTheNotificationHasTheAgentsButton) {
   const BackupRow& row = GetParam();
-  ASSERT_TRUE(connected(row.scenario));
+  ASSERT_TRUE(startLinked(row.scenario));
   ASSERT_TRUE(waitForTrayPicture(TrayPicture::Running, 30000)) << "icon: " << pictureName(trayPicture());
   clickTrayIcon();
   EXPECT_TRUE(waitUntil([&] { return !popup().isEmpty(); }, 10000)) << "a click on the icon shows no pop-up";
@@ -64,7 +35,7 @@ TEST_P(BackupOutcome, TrayPictureFollowsAndTheNotificationHasTheAgentsButton) {
   ASSERT_TRUE(waitForTrayPicture(row.after, 60000)) << "icon: " << pictureName(trayPicture());
   ASSERT_TRUE(waitUntil([&] { return desktop_->displayed() >= 1; }, 30000)) << "no notification shown";
   shot("finished-notification");
-  const Shown shown = takeNotification();
+  const ShownNotification shown = takeNotification();
   EXPECT_EQ(shown.summary, QString("Nimbra Backup %1").arg(row.title));
   EXPECT_EQ(shown.body, "Check the activity logs in the agent for more information.");
   // The agent's button and the notification's default action (a click on it).
@@ -85,7 +56,7 @@ INSTANTIATE_TEST_SUITE_P(Scenarios, BackupOutcome,
                          });
 
 TEST_F(LinkedAgent, SecondLaunchOpensThePopupAndExitEndsTheAgent) {
-  ASSERT_TRUE(connected("idle"));
+  ASSERT_TRUE(startLinked("idle"));
   EXPECT_TRUE(popup().isEmpty()) << "the pop-up shows before anyone asked";
   EXPECT_EQ(launchAgain({}), 0);
   ASSERT_TRUE(waitUntil([&] { return !popup().isEmpty(); }, 15000)) << "\"open\" shows no pop-up";

@@ -69,6 +69,57 @@ TEST_F(WidgetsSheets, QuitEndsTheLoopAndASecondExecWhileRunningIsRefused) {
   EXPECT_FALSE(sheet.isVisible());
 }
 
+TEST_F(WidgetsSheets, QuitHidesAtOnceWhenAnotherLoopKeepsItsOwnFromReturning) {
+  // The sign-in sheet is quit from a slot that runs under its loop and opens
+  // the next wait at once: the loop returns only after that one, but the
+  // sheet and its mask must be gone from the screen now.
+  VellMessageSheet first(1, &window_, true), next(2, &window_, true);
+  VellMask* mask = VellMask::createMask(&first, &window_, QColor(0, 0, 0, 20));
+  bool firstShown = true, maskShown = true;
+  whileUp([&] {
+    first.quit();
+    whileUp([&] {
+      firstShown = first.isVisible();
+      maskShown = mask->isVisible();
+      next.quit();
+    });
+    next.exec();
+  });
+  EXPECT_EQ(first.exec(), QMessageBox::NoButton);
+  EXPECT_FALSE(firstShown) << "the quit sheet stays on screen under the next one";
+  EXPECT_FALSE(maskShown);
+}
+
+TEST_F(WidgetsSheets, KeysStayWithTheSheetWhileItIsUp) {
+  // A control of the window under the sheet that takes the focus (a sheet
+  // hidden above it, the window activated again) gives it back.
+  auto* under = new QPushButton(QStringLiteral("Let's Start"), &window_);
+  under->show();
+  window_.activateWindow();
+  QApplication::setActiveWindow(&window_);
+  VellMessageSheet sheet(2, &window_, true);
+  QWidget* focusAfter = nullptr;
+  int pressed = 0;
+  QObject::connect(under, &QPushButton::clicked, [&] { ++pressed; });
+  whileUp([&] {
+    under->setFocus();
+    QApplication::processEvents();
+    focusAfter = QApplication::focusWidget();
+    QKeyEvent ret(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QApplication::sendEvent(focusAfter ? focusAfter : &sheet, &ret);
+    // Should the key have gone astray, the sheet still ends.
+    QTimer::singleShot(2000, &sheet, [&] {
+      if (sheet.isRunning()) sheet.quit();
+    });
+  });
+  EXPECT_EQ(sheet.exec(), QMessageBox::Ok) << "Return does not answer the sheet";
+  EXPECT_EQ(focusAfter, sheet.button(QMessageBox::Ok));
+  EXPECT_EQ(pressed, 0) << "a key reached the control under the sheet";
+  // Afterwards the window's controls take the focus again.
+  under->setFocus();
+  EXPECT_EQ(QApplication::focusWidget(), under);
+}
+
 TEST_F(WidgetsSheets, DestroyedWhileUpReturnsNoButton) {
   auto* sheet = new VellMessageSheet(2, &window_, true);
   QPointer<VellMessageSheet> guard(sheet);

@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "dpi-info.h"
+#include "logger.h"
 #include "relative-age.h"
 #include "string-display.h"
 #include "style-manager.h"
@@ -178,6 +179,7 @@ void LogWidget::fillEntries(const QList<LogEntry>& entries) {
   }
   table_->setColumnWidth(0, 200);
   table_->setColumnWidth(1, 449);
+  LOG_DEBUG(vlog::kDefaultComponent, "activity dialog: %d rows", static_cast<int>(table_->rowCount()));
 }
 
 void LogWidget::fillRow(int row, const LogEntry& entry) {
@@ -192,6 +194,7 @@ void LogWidget::fillRow(int row, const LogEntry& entry) {
 
   const QString plain = string_display::render_event_message(entry, false, 449);
   label->setAccessibleName(plain);
+  LOG_DEBUG(vlog::kDefaultComponent, "activity row: %s", qUtf8Printable(plain));
   auto* item = new QTableWidgetItem;
   item->setToolTip(plain);
   item->setData(Qt::UserRole, QVariant::fromValue<qulonglong>(entry.id));

@@ -9,6 +9,7 @@
 
 #include "core/global-connecter.h"
 #include "dpi-info.h"
+#include "logger.h"
 #include "quota-model.h"
 #include "relative-age.h"
 #include "style-manager.h"
@@ -87,6 +88,8 @@ void QuotaInfoWidget::setUsage(const Json::Value& billing) {
   if (usage->label != usage_label_->text()) {
     usage_label_->setText(usage->label);
     usage_bar_->setAccessibleName(QTextDocumentFragment::fromHtml(usage->label).toPlainText());
+    LOG_DEBUG(vlog::kDefaultComponent, "quota usage: %s (%s)", qUtf8Printable(usage_bar_->accessibleName()),
+              qUtf8Printable(usage->style_sheet));
   }
 }
 

@@ -5,6 +5,7 @@
 #include <QDesktopWidget>
 #include <QGuiApplication>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QScreen>
 #include <QStyleOption>
@@ -44,7 +45,9 @@ void TrayMenuContainer::setPopupMode(bool popup) {
     setWindowFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
     setAttribute(Qt::WA_TranslucentBackground, true);
   } else {
-    setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
+    // CustomizeWindowHint: these buttons only (without it the window
+    // manager adds a maximise button to this fixed-size window).
+    setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
                    Qt::WindowMinimizeButtonHint);
     setAttribute(Qt::WA_TranslucentBackground, false);
   }
@@ -102,6 +105,15 @@ void TrayMenuContainer::paintEvent(QPaintEvent*) {
   option.initFrom(this);
   QPainter painter(this);
   style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
+}
+
+void TrayMenuContainer::keyPressEvent(QKeyEvent* event) {
+  // As a window, Escape closes it the way it closes the pop-up.
+  if (windowMode_ && event->key() == Qt::Key_Escape) {
+    hide();
+    return;
+  }
+  QWidget::keyPressEvent(event);
 }
 
 void TrayMenuContainer::resizeEvent(QResizeEvent* event) {

@@ -140,7 +140,7 @@ void Wizard::hideConnecting() {
 void Wizard::showError(int code, const Json::Value& response) {
   hideConnecting();
   const QString message = service_error::message(code, response);
-  LOG_INFO(vlog::kDefaultComponent, "wizard shows error %d", code);
+  LOG_INFO(vlog::kDefaultComponent, "wizard shows error %d: %s", code, qUtf8Printable(message));
   VellMessageSheet sheet(VellMessageSheet::Error, this, true);
   sheet.setFixedWidth(DPIinfo::scaled(480));
   // Error texts run to several lines: the sheet's plain body weight reads
@@ -169,7 +169,7 @@ void Wizard::closeEvent(QCloseEvent* event) {
 QWidget* Wizard::modalCover() const {
   const QList<VellMessageSheet*> running = VellMessageSheet::runningSheets();
   for (auto it = running.crbegin(); it != running.crend(); ++it)
-    if ((*it)->parentWidget() == this) return *it;
+    if ((*it)->parentWidget() == this && (*it)->isVisible()) return *it;
   if (connecting_ && connecting_->isVisible()) return connecting_;
   return nullptr;
 }

@@ -282,6 +282,16 @@ TEST_F(TrayIcon, WithoutANotificationAreaShowsAnOrdinaryWindow) {
   EXPECT_FALSE(popup()->windowFlags().testFlag(Qt::Popup));
   EXPECT_EQ(popup()->windowTitle(), QStringLiteral("Nimbra Backup"));
   EXPECT_TRUE(QRect(0, 0, 1280, 760).contains(popup()->frameGeometry().center()));
+  // A small fixed window: title, minimise and close, nothing to maximise.
+  const Qt::WindowFlags flags = popup()->windowFlags();
+  EXPECT_TRUE(flags.testFlag(Qt::CustomizeWindowHint)) << "the window manager adds its own buttons";
+  EXPECT_TRUE(flags.testFlag(Qt::WindowCloseButtonHint));
+  EXPECT_FALSE(flags.testFlag(Qt::WindowMaximizeButtonHint));
+  // Escape closes it, as it closes the pop-up.
+  QTest::keyClick(popup(), Qt::Key_Escape);
+  EXPECT_FALSE(popup()->isVisible()) << "Escape leaves the window up";
+  tray_->showMenuAt(QPoint());
+  ASSERT_TRUE(popup()->isVisible());
   // An ordinary window: a press elsewhere leaves it, a click raises it.
   emit GlobalConnecter::instance().sigPositionClicked(QPoint(5000, 5000));
   EXPECT_TRUE(popup()->isVisible());

@@ -107,6 +107,27 @@ TEST_F(WizardKeyboard, KeysDuringTheConnectingFrameReachNothingUnderIt) {
   EXPECT_EQ(asks.count(), 0);
 }
 
+TEST_F(WizardKeyboard, TheBrowsersReturnHidesTheSignInSheetAndKeysStayInTheConnectingFrame) {
+  // As the client manager does it: the message that closes the sign-in
+  // sheet runs under the sheet's loop and shows the connecting frame there.
+  bool sheetShown = true, tabReachedSheet = true;
+  later([&] {
+    VellMessageSheet* signIn = topSheet();
+    ASSERT_NE(signIn, nullptr);
+    wizard_.closeSignInSheet();
+    later([&] {
+      sheetShown = signIn->isVisible();
+      for (int i = 0; i < 3; ++i) QTest::keyClick(focused() ? focused() : &wizard_, Qt::Key_Tab);
+      tabReachedSheet = signIn->isAncestorOf(focused());
+      wizard_.hideConnecting();
+    });
+    wizard_.showConnecting();
+  });
+  wizard_.showSignInSheet();
+  EXPECT_FALSE(sheetShown) << "the sign-in sheet stays under the connecting frame";
+  EXPECT_FALSE(tabReachedSheet) << "Tab reaches the closed sign-in sheet";
+}
+
 TEST_F(WizardKeyboard, EveryFocusableControlHasAnAccessibleName) {
   later([&] { wizard_.closeSignInSheet(); });
   wizard_.showSignInSheet();
