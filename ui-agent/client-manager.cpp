@@ -2,8 +2,6 @@
 
 #include <QApplication>
 #include <QDesktopServices>
-#include <QIcon>
-#include <QLabel>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
@@ -19,6 +17,7 @@
 #include "core/service-error-text.h"
 #include "core/status-store.h"
 #include "dialogs/about-window.h"
+#include "dialogs/notice-box.h"
 #include "dialogs/update-status-dialog.h"
 #include "dpi-info.h"
 #include "json-access.h"
@@ -227,26 +226,6 @@ void ClientManager::slotTrayClickedWithoutConnection() {
   wizard->bringToFront();
 }
 
-namespace {
-
-// A message box styled by name: the box sizes itself from its label's
-// minimum width, measured here in the style sheet's font (left alone, it
-// measures before that font arrives and a line runs past the edge); longer
-// texts wrap. Buttons show text only, without the icons a desktop theme
-// gives the standard buttons.
-void finishMessageBox(QMessageBox& box) {
-  box.ensurePolished();
-  if (auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
-    label->ensurePolished();
-    const int wanted = label->fontMetrics().horizontalAdvance(label->text()) + 2;
-    label->setMinimumWidth(qMin(wanted, DPIinfo::scaled(420)));
-    label->setWordWrap(true);
-  }
-  for (QAbstractButton* button : box.buttons()) button->setIcon(QIcon());
-}
-
-}  // namespace
-
 void ClientManager::slotLogoutService() {
   QMessageBox box;
   box.setObjectName(QStringLiteral("LogoutConfirm"));
@@ -261,7 +240,7 @@ void ClientManager::slotLogoutService() {
   apply->setStyleSheet(getStyleSheet(QStringLiteral("component.apply_button")));
   box.setDefaultButton(cancel);
   box.setEscapeButton(cancel);
-  finishMessageBox(box);
+  notice_box::finish(box);
   box.exec();
   if (box.clickedButton() != apply) return;
   sendAction("logout");
@@ -279,7 +258,7 @@ void ClientManager::slotExitApplication() {
   QPushButton* ok = box.addButton(QMessageBox::Ok);
   ok->setText(ComponentStrings::getInstance()->string(QStringLiteral("ok")));
   ok->setStyleSheet(getStyleSheet(QStringLiteral("component.apply_button")));
-  finishMessageBox(box);
+  notice_box::finish(box);
   box.exec();
   QCoreApplication::quit();
 }
