@@ -1,15 +1,31 @@
 // Linux: no graphics back end to choose and no global mouse hook: the
 // presses on the agent's own windows feed the bus (a pop-up grabs the mouse,
 // so a press outside it arrives here too).
+#include <fontconfig/fontconfig.h>
+
+#include <thread>
+
 #include "agent-app.h"
 
 namespace agent_app::platform {
 
 namespace {
 PositionClickFilter* filter = nullptr;
+std::thread fontConfiguration;
+}  // namespace
+
+void prepareGraphics() {
+  // Loading the font configuration and its caches takes tens of
+  // milliseconds; it happens on a helper thread while the application
+  // connects to the display, instead of inside the first label built.
+  // (fontconfig is thread-safe, and Qt then finds it loaded.)
+  fontsNeeded();
+  fontConfiguration = std::thread([] { FcInit(); });
 }
 
-void prepareGraphics() {}
+void fontsNeeded() {
+  if (fontConfiguration.joinable()) fontConfiguration.join();
+}
 
 void installPositionSource(QApplication& app) {
   if (!filter) filter = new PositionClickFilter(&app);

@@ -18,6 +18,8 @@ void prepareGraphics() {
     qputenv("QT_ANGLE_PLATFORM", "warp");
 }
 
+void fontsNeeded() {}
+
 void installPositionSource(QApplication&) {
   // The hook runs on the main thread, serviced by its message loop.
   hook.install([](int x, int y) { emit GlobalConnecter::instance().sigPositionClicked(QPoint(x, y)); });

@@ -137,6 +137,7 @@ int run(int argc, char** argv, const Options& options) {
     QCoreApplication::installTranslator(&translator);
 
   // 12. Font by language (with readable stand-ins where a family is missing).
+  platform::fontsNeeded();
   language_font::install_font_substitutions();
   QApplication::setFont(language_font::application_font(language));
 

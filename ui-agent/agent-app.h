@@ -61,8 +61,12 @@ class PositionClickFilter : public QObject {
 
 // Platform halves (agent-app-posix.cpp / agent-app-windows.cpp).
 namespace platform {
-// Before the application object exists: the graphics back end.
+// Before the application object exists: the graphics back end (on Linux
+// also the font configuration, loaded on a helper thread meanwhile).
 void prepareGraphics();
+// Before the first text is laid out: waits for what prepareGraphics()
+// started to be ready.
+void fontsNeeded();
 // The source of sigPositionClicked: the low-level mouse hook on Windows,
 // PositionClickFilter on the application elsewhere.
 void installPositionSource(QApplication& app);

@@ -303,7 +303,7 @@ void ClientManager::slotMessageReceived(const QString& msg) {
 // ---- status and notifications -------------------------------------------------
 
 void ClientManager::slotHandleStatusChange(ServiceStatus, ServiceStatus current,
-                                           Json::Value current_content) {
+                                           const Json::Value& current_content) {
   failureCount = 0;
   StatusStore& store = StatusStore::instance();
   if ((static_cast<int>(current) & 0xF000) == kNotLinked) {
@@ -369,7 +369,7 @@ void ClientManager::runNotifier(const Json::Value& notifications) {
 
 // ---- answers -------------------------------------------------------------------
 
-void ClientManager::slotQueryServiceDone(const QObject* sender, Json::Value response) {
+void ClientManager::slotQueryServiceDone(const QObject* sender, const Json::Value& response) {
   if (sender != this) return;
   const std::string action = jsonx::get_string(response, "action");
   if (action == "get_connection_info")

@@ -51,7 +51,7 @@ class ClientManager : public QObject {
   bool isOpenLogPending() const { return openLogPending; }
 
  signals:
-  void sigQueryService(const QObject* sender, Json::Value request);
+  void sigQueryService(const QObject* sender, const Json::Value& request);
   void sigShowMessage(QString title, QString message);
 
  public slots:
@@ -67,9 +67,9 @@ class ClientManager : public QObject {
   void slotLogoutService();
   void slotExitApplication();
   void slotMessageReceived(const QString& msg);
-  void slotHandleStatusChange(ServiceStatus previous, ServiceStatus current, Json::Value current_content);
+  void slotHandleStatusChange(ServiceStatus previous, ServiceStatus current, const Json::Value& current_content);
   void slotHandleNotifications(const Json::Value& notifications);
-  void slotQueryServiceDone(const QObject* sender, Json::Value response);
+  void slotQueryServiceDone(const QObject* sender, const Json::Value& response);
   void slotQueryServiceFailed();
 
  private:

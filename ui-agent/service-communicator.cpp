@@ -76,7 +76,7 @@ std::string ServiceCommunicator::updateStatusFromFile() {
   return std::string();
 }
 
-void ServiceCommunicator::slotQueryService(const QObject* sender, Json::Value request) {
+void ServiceCommunicator::slotQueryService(const QObject* sender, const Json::Value& request) {
   Json::Value response;
   int result = 0;
   const std::string action = jsonx::get_string(request, "action");

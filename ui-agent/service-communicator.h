@@ -48,11 +48,11 @@ class ServiceCommunicator : public QObject {
   static std::string updateStatusFromFile();
 
  signals:
-  void sigQueryServiceDone(const QObject* sender, Json::Value response);
+  void sigQueryServiceDone(const QObject* sender, const Json::Value& response);
   void sigQueryServiceFailed();
 
  public slots:
-  void slotQueryService(const QObject* sender, Json::Value request);
+  void slotQueryService(const QObject* sender, const Json::Value& request);
 
  private:
   // One exchange with the service: 0 with `response` filled, or -1.

@@ -1,6 +1,7 @@
 #include "dpi-info.h"
 
 #include <QGuiApplication>
+#include <QHash>
 #include <QRegularExpression>
 #include <QScreen>
 
@@ -30,6 +31,16 @@ QString DPIinfo::getScaledStyleSheet(const QString& sheet) {
   // such as "#item12px".
   static const QRegularExpression px(QStringLiteral("(?<![\\w.#-])(-?\\d+(?:\\.\\d+)?)px\\b"));
   const double scale = getDPI();
+  // Widgets ask for the same few sheets again and again (every label of a
+  // kind, every page built): each is worked out once per scale.
+  thread_local QHash<QString, QString> done;
+  thread_local double doneScale = 0.0;
+  if (doneScale != scale) {
+    done.clear();
+    doneScale = scale;
+  }
+  const auto known = done.constFind(sheet);
+  if (known != done.constEnd()) return known.value();
   QString out;
   out.reserve(sheet.size());
   int last = 0;
@@ -42,5 +53,7 @@ QString DPIinfo::getScaledStyleSheet(const QString& sheet) {
     last = m.capturedEnd();
   }
   out += sheet.midRef(last);
+  // Bounded: the sheets are the style sheet file's and a few literals.
+  if (done.size() < 512) done.insert(sheet, out);
   return out;
 }

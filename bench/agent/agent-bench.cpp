@@ -2,10 +2,13 @@
 // minimal Qt tray application measured the same way in the same run:
 //
 //   start to tray icon embedded in the panel   median of 5, <= 2x the minimal app
-//   RSS after 60 s connected and polling                   <= 1.6x the minimal app
-//   CPU per second while connected and idle (30 s)         <= 10x the minimal app
+//   CPU per second while connected and idle (60 s)         <= 10x the minimal app
+//   RSS after 70 s connected and polling                   <= 1.6x the minimal app
 //   click on the icon to pop-up drawn, p95                 <= 50 ms
 //   the same while the service is stopped (SIGSTOP)        <= 50 ms
+//
+// The minimal app polls once a second, as a tray application that shows a
+// service's state must: its idle cost is that of a 1 s timer.
 //
 // The agent talks to nimbra-service-sim (scenario "idle": a linked device
 // between backups). "Embedded" is tint2 reparenting the icon's window into
@@ -197,7 +200,6 @@ int main(int argc, char** argv) {
 
   // ---- both running: memory, idle CPU, clicks -----------------------------------
   Running m = startApp(desktop, minimal);
-  const double t_started = now_ms();
   Running a = startApp(desktop, agent);
   if (m.start_ms < 0 || a.start_ms < 0) {
     std::fprintf(stderr, "agent-bench: an icon did not appear (logs in %s)\n", scratch.c_str());
@@ -208,14 +210,38 @@ int main(int argc, char** argv) {
   }
   const bool polling = wait_until([&] { return fileContains(record, "\"get_status\""); }, 20000);
   if (!polling) std::printf("  the agent never polled the service\n");
-  // Measured after 60 s of running, connected and polling.
-  while (now_ms() - t_started < 60000) std::this_thread::sleep_for(std::chrono::milliseconds(100));
+  const double t_polling = now_ms();
+  // Idle CPU: 60 s from 10 s after the first poll, sampled every second (a
+  // thread that ends in between loses at most a second of its time) and
+  // printed per 10 s so that a stray spike shows. The figure is the whole
+  // window's mean: what the agent does now and then counts.
+  while (now_ms() - t_polling < 10000) std::this_thread::sleep_for(std::chrono::milliseconds(100));
+  CpuMeter meter_minimal(m.pid), meter_agent(a.pid);
+  const double w0 = now_ms();
+  std::vector<double> slices_minimal, slices_agent;
+  double last_minimal = 0, last_agent = 0, last_w = w0;
+  for (int s = 1; s <= 60; ++s) {
+    while (now_ms() - w0 < s * 1000.0) std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    meter_minimal.sample();
+    meter_agent.sample();
+    if (s % 10 != 0) continue;
+    const double w = now_ms(), seconds = (w - last_w) / 1000.0;
+    slices_minimal.push_back((meter_minimal.ns() - last_minimal) / 1e6 / seconds);
+    slices_agent.push_back((meter_agent.ns() - last_agent) / 1e6 / seconds);
+    last_minimal = meter_minimal.ns();
+    last_agent = meter_agent.ns();
+    last_w = w;
+  }
+  const double seconds = (last_w - w0) / 1000.0;
+  const double cpu_minimal = meter_minimal.ns() / 1e6 / seconds;
+  const double cpu_agent = meter_agent.ns() / 1e6 / seconds;
+  std::printf("idle CPU per 10 s (ms/s): minimal");
+  for (double v : slices_minimal) std::printf(" %.3f", v);
+  std::printf("; agent");
+  for (double v : slices_agent) std::printf(" %.3f", v);
+  std::printf(" (%d threads)\n", meter_agent.threads());
+  // 70 s after the first poll: connected and polling for over a minute.
   const long rss_minimal = rss_kib(m.pid), rss_agent = rss_kib(a.pid);
-  const double c0_minimal = cpu_ns(m.pid), c0_agent = cpu_ns(a.pid), w0 = now_ms();
-  std::this_thread::sleep_for(std::chrono::seconds(30));
-  const double seconds = (now_ms() - w0) / 1000.0;
-  const double cpu_minimal = (cpu_ns(m.pid) - c0_minimal) / 1e6 / seconds;
-  const double cpu_agent = (cpu_ns(a.pid) - c0_agent) / 1e6 / seconds;
 
   const std::vector<double> click_minimal = clicks(desktop, m, 20);
   const std::vector<double> click_agent = clicks(desktop, a, 40);
@@ -235,9 +261,9 @@ int main(int argc, char** argv) {
   std::snprintf(what, sizeof what, "agent start to tray icon embedded, median (minimal %.0f ms)",
                 med_minimal);
   bench_report::report(what, percentile(start_agent, 0.5), "ms", 2 * med_minimal, false);
-  std::snprintf(what, sizeof what, "agent RSS after 60 s connected (minimal %.1f MB)", rss_minimal / 1024.0);
+  std::snprintf(what, sizeof what, "agent RSS after 70 s connected (minimal %.1f MB)", rss_minimal / 1024.0);
   bench_report::report(what, rss_agent / 1024.0, "MB", 1.6 * rss_minimal / 1024.0, false);
-  std::snprintf(what, sizeof what, "agent CPU connected and idle (minimal %.3f ms/s)", cpu_minimal);
+  std::snprintf(what, sizeof what, "agent CPU connected and idle, 60 s (minimal %.3f ms/s)", cpu_minimal);
   bench_report::report(what, cpu_agent, "ms/s", 10 * cpu_minimal, false);
   std::snprintf(what, sizeof what, "click on icon to pop-up drawn, p95 (minimal p95 %.0f ms)",
                 percentile(click_minimal, 0.95));

@@ -102,18 +102,37 @@ long rss_kib(pid_t pid) {
   return -1;
 }
 
-double cpu_ns(pid_t pid) {
+namespace {
+
+std::map<long, double> threadTimes(pid_t pid) {
+  std::map<long, double> out;
   const std::string dir = "/proc/" + std::to_string(pid) + "/task";
-  double total = 0;
   DIR* d = opendir(dir.c_str());
-  if (!d) return 0;
+  if (!d) return out;
   while (dirent* e = readdir(d)) {
     if (e->d_name[0] == '.') continue;
     std::ifstream f(dir + "/" + e->d_name + "/schedstat");
     double on_cpu = 0;
-    if (f >> on_cpu) total += on_cpu;
+    if (f >> on_cpu) out[std::strtol(e->d_name, nullptr, 10)] = on_cpu;
   }
   closedir(d);
+  return out;
+}
+
+}  // namespace
+
+CpuMeter::CpuMeter(pid_t pid) : pid_(pid), first_(threadTimes(pid)), last_(first_) {}
+
+void CpuMeter::sample() {
+  for (const auto& [tid, ns] : threadTimes(pid_)) {
+    first_.emplace(tid, 0.0);  // started since: all of its time counts
+    last_[tid] = ns;
+  }
+}
+
+double CpuMeter::ns() const {
+  double total = 0;
+  for (const auto& [tid, ns] : last_) total += ns - first_.at(tid);
   return total;
 }
 

@@ -31,8 +31,25 @@ void stop(pid_t pid, int ms = 3000);
 
 // Resident set size in KiB (VmRSS), or -1.
 long rss_kib(pid_t pid);
-// CPU time used by every live thread of the process, in nanoseconds.
-double cpu_ns(pid_t pid);
+// CPU time of a process, to the nanosecond, across threads that start and
+// end while it is measured: every thread's time on a CPU
+// (/proc/PID/task/TID/schedstat) is read at each sample(), so a thread that
+// ends loses at most what it used since the last sample. (The process-wide
+// counters of /proc/PID/stat count in 10 ms ticks: too coarse for a process
+// that uses a fraction of a millisecond per second.)
+class CpuMeter {
+ public:
+  explicit CpuMeter(pid_t pid);
+  void sample();
+  // Nanoseconds used between construction and the last sample.
+  double ns() const;
+  int threads() const { return static_cast<int>(last_.size()); }
+
+ private:
+  pid_t pid_;
+  std::map<long, double> first_;  // a thread's time at construction, 0 for later ones
+  std::map<long, double> last_;   // its time at the last sample that saw it
+};
 
 class Desktop {
  public:

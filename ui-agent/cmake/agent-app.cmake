@@ -19,6 +19,11 @@ if(TARGET agent_ui)
   add_library(agent_app STATIC ${agent_app_sources} ${agent_app_headers} ${agent_app_platform_sources})
   target_include_directories(agent_app PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
   target_link_libraries(agent_app PUBLIC agent_ui agent_platform)
+  if(NOT WIN32)
+    # Start-up loads the font configuration early (agent-app-posix.cpp).
+    find_package(Fontconfig REQUIRED)
+    target_link_libraries(agent_app PRIVATE Fontconfig::Fontconfig)
+  endif()
 
   add_executable(nimbra-backup-agent main.cpp)
   target_link_libraries(nimbra-backup-agent PRIVATE agent_app)

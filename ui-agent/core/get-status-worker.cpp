@@ -22,9 +22,11 @@ GetStatusWorker::GetStatusWorker(QObject* parent) : QObject(parent) {
 
 GetStatusWorker::~GetStatusWorker() {
   if (!timer_) return;
-  // The timer belongs to the thread that started polling; it is stopped and
-  // deleted there.
-  if (timer_->thread() == QThread::currentThread()) {
+  // The timer lives on the worker's thread. Once that thread has ended (it
+  // stopped the timer on its way out) or when it is this one, it goes now;
+  // otherwise its own thread deletes it.
+  QThread* owner = timer_->thread();
+  if (owner == QThread::currentThread() || owner->isFinished()) {
     delete timer_;
   } else {
     timer_->deleteLater();
@@ -34,17 +36,29 @@ GetStatusWorker::~GetStatusWorker() {
 void GetStatusWorker::startPolling() {
   if (!timer_) {
     timer_ = new QTimer();
+    timer_->setInterval(kPollIntervalMs);
     connect(timer_, SIGNAL(timeout()), this, SLOT(slotQueryServiceStatus()));
+    QThread* worker = thread();
+    if (worker != QThread::currentThread()) {
+      timer_->moveToThread(worker);
+      // A timer is stopped on its own thread: when that thread ends, before
+      // anyone deletes the worker.
+      connect(worker, &QThread::finished, timer_, &QTimer::stop, Qt::DirectConnection);
+    }
   }
-  if (!timer_->isActive()) timer_->start(kPollIntervalMs);
+  if (polling_.exchange(true)) return;
+  QTimer* timer = timer_;
+  QMetaObject::invokeMethod(timer, [timer] { timer->start(); });
 }
 
 void GetStatusWorker::stopPolling() {
-  if (timer_ && timer_->isActive()) timer_->stop();
+  if (!timer_ || !polling_.exchange(false)) return;
+  QTimer* timer = timer_;
+  QMetaObject::invokeMethod(timer, [timer] { timer->stop(); });
 }
 
 bool GetStatusWorker::isPolling() const {
-  return timer_ && timer_->isActive();
+  return polling_.load();
 }
 
 void GetStatusWorker::slotQueryServiceStatus() {
@@ -54,13 +68,11 @@ void GetStatusWorker::slotQueryServiceStatus() {
   emit sigQueryService(this, request);
 }
 
-void GetStatusWorker::slotQueryServiceDone(const QObject* sender, Json::Value response) {
+void GetStatusWorker::slotQueryServiceDone(const QObject* sender, const Json::Value& response) {
   if (sender != this) return;
 
   StatusStore& store = StatusStore::instance();
-  ServiceStatus previous = StatusUnknown;
-  Json::Value previous_content;
-  store.getStatus(previous, previous_content);
+  const ServiceStatus previous = store.status();
 
   // Members of the wrong type read as their defaults; the log tells once
   // when the answers turn unreadable, and once when they are sound again.
@@ -77,7 +89,8 @@ void GetStatusWorker::slotQueryServiceDone(const QObject* sender, Json::Value re
   const ServiceStatus current = service_status::from_int64(jsonx::get_int64(response, "status"));
   // A `content` that is not an object counts as missing.
   const Json::Value& member_content = jsonx::member(response, "content");
-  const Json::Value content = jsonx::is_object(member_content) ? member_content : Json::Value();
+  static const Json::Value missing;
+  const Json::Value& content = jsonx::is_object(member_content) ? member_content : missing;
   store.setStatus(current, content);
 
   const Json::Value& connection = jsonx::member(response, "connection");

@@ -6,14 +6,17 @@
 // decisions of its own.
 //
 // The worker lives on a thread of its own. startPolling(), stopPolling() and
-// isPolling() are called from the main thread, where the timer is created
-// and ticks; each tick reaches slotQueryServiceStatus() queued, on the
-// worker's thread.
+// isPolling() are called from the main thread; the timer is created there
+// and handed to the worker's thread, where it ticks and calls
+// slotQueryServiceStatus() without waking the main thread. Starting and
+// stopping reach it queued, in the order they were asked for; isPolling()
+// answers at once.
 
 #include <json/value.h>
 
 #include <QObject>
 
+#include <atomic>
 #include <string>
 
 #include "core/json-meta-type.h"
@@ -35,16 +38,17 @@ class GetStatusWorker : public QObject {
   bool isPolling() const;
 
  signals:
-  void sigQueryService(const QObject* sender, Json::Value request);
-  void sigNotifyStatusChange(ServiceStatus previous, ServiceStatus current, Json::Value current_content);
+  void sigQueryService(const QObject* sender, const Json::Value& request);
+  void sigNotifyStatusChange(ServiceStatus previous, ServiceStatus current, const Json::Value& current_content);
 
  public slots:
   void slotQueryServiceStatus();
-  void slotQueryServiceDone(const QObject* sender, Json::Value response);
+  void slotQueryServiceDone(const QObject* sender, const Json::Value& response);
 
  private:
   QTimer* timer_ = nullptr;
   // What was wrong with the last answer ("" when nothing), on the worker's
   // thread.
   std::string answerProblem_;
+  std::atomic<bool> polling_{false};
 };

@@ -37,15 +37,15 @@ class GlobalConnecter : public QObject {
   void sigUpdateQuota();
   void sigGetConnectionInfo();
   void sigConnectServer(ConnectionInfo info);
-  void sigQueryService(const QObject* sender, Json::Value request);
-  void sigQueryServiceDone(const QObject* sender, Json::Value response);
+  void sigQueryService(const QObject* sender, const Json::Value& request);
+  void sigQueryServiceDone(const QObject* sender, const Json::Value& response);
   void sigQueryServiceFailed();
   void sigLogoutService();
   void sigExitApplication();
   void sigCancelCreateDevice();
   void sigCreateDevice(const QString& zid, const QString& sub_id, const QString& account_type);
   void sigGetAuthURL();
-  void sigNotifyStatusChange(ServiceStatus previous, ServiceStatus current, Json::Value content);
+  void sigNotifyStatusChange(ServiceStatus previous, ServiceStatus current, const Json::Value& content);
   void sigShowMessage(QString title, QString message);
   void sigMessageReceived(const QString& message);
   void sigOpenLogWindow();

@@ -13,6 +13,11 @@ void StatusStore::getStatus(ServiceStatus& status, Json::Value& content) const {
   content = content_;
 }
 
+ServiceStatus StatusStore::status() const {
+  QMutexLocker lock(&mutex_);
+  return status_;
+}
+
 void StatusStore::setStatus(ServiceStatus status, const Json::Value& content) {
   QMutexLocker lock(&mutex_);
   status_ = status;

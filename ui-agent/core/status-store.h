@@ -22,6 +22,8 @@ class StatusStore {
   StatusStore& operator=(const StatusStore&) = delete;
 
   void getStatus(ServiceStatus& status, Json::Value& content) const;
+  // The status alone, without copying its content.
+  ServiceStatus status() const;
   void setStatus(ServiceStatus status, const Json::Value& content);
 
   // 0 and `info` filled when a connection is held; otherwise -1 and `info`

@@ -53,7 +53,7 @@ class SettingsWidget : public QWidget {
   void applyServerConfig(const Json::Value& config);
 
  signals:
-  void sigQueryService(const QObject* sender, Json::Value request);
+  void sigQueryService(const QObject* sender, const Json::Value& request);
 
  public slots:
   // The limit radio was toggled.

@@ -49,5 +49,6 @@ void LatestEventLine::refreshAge(qint64 now) {
   if (!entry_) return;
   const QString age = tray_text::relative_age_text(now, entry_->time);
   age_->setText(tray_text::line_div(age));
-  age_->setAccessibleName(age);
+  // Said again every second: a name set again is announced again.
+  if (age_->accessibleName() != age) age_->setAccessibleName(age);
 }

@@ -248,7 +248,7 @@ void TrayMenu::slotShowSettingsWindow() {
   emit sigQueryService(this, request);
 }
 
-void TrayMenu::slotQueryServiceDone(const QObject* /*sender*/, Json::Value response) {
+void TrayMenu::slotQueryServiceDone(const QObject* /*sender*/, const Json::Value& response) {
   // The settings open for any bandwidth answer, whoever asked.
   if (jsonx::get_string(response, "action") != kBandwidthAction) return;
   const Json::Value& server = jsonx::member(response, "server_config");

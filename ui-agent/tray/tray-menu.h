@@ -53,13 +53,13 @@ class TrayMenu : public QFrame {
   void setClock(const tray_text::Clock& clock);
 
  signals:
-  void sigQueryService(const QObject* sender, Json::Value request);
+  void sigQueryService(const QObject* sender, const Json::Value& request);
   void sigTrayStatusChanged(TrayStatus status);
 
  public slots:
   void slotSeeAllClicked();
   void slotShowSettingsWindow();
-  void slotQueryServiceDone(const QObject* sender, Json::Value response);
+  void slotQueryServiceDone(const QObject* sender, const Json::Value& response);
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;

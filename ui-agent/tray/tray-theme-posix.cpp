@@ -36,6 +36,12 @@ tray_theme::Scheme schemeFromMessageValue(QVariant v) {
 
 struct PanelThemeWatcher::Impl {
   tray_theme::Scheme portal = tray_theme::Scheme::Unknown;
+  // The palette's verdict, worked out once per palette and style (the icon
+  // is asked for at every status, and the style's standard palette is built
+  // afresh on each call).
+  mutable bool paletteKnown = false;
+  mutable tray_theme::Scheme palette = tray_theme::Scheme::Unknown;
+  mutable const QStyle* paletteStyle = nullptr;
 };
 
 PanelThemeWatcher::PanelThemeWatcher(QObject* parent) : PanelThemeWatcher(QDBusConnection::sessionBus(), parent) {}
@@ -80,10 +86,14 @@ tray_theme::Scheme PanelThemeWatcher::portalScheme() const {
 }
 
 bool PanelThemeWatcher::isSystemDarkTheme() const {
-  tray_theme::Scheme palette = tray_theme::Scheme::Unknown;
-  if (qobject_cast<QApplication*>(QCoreApplication::instance()) && QApplication::style())
-    palette = tray_theme::schemeFromPalette(QGuiApplication::palette(), QApplication::style()->standardPalette());
-  return tray_theme::isDark(d->portal, palette);
+  const QStyle* style = qobject_cast<QApplication*>(QCoreApplication::instance()) ? QApplication::style() : nullptr;
+  if (!d->paletteKnown || style != d->paletteStyle) {
+    d->palette = style ? tray_theme::schemeFromPalette(QGuiApplication::palette(), style->standardPalette())
+                       : tray_theme::Scheme::Unknown;
+    d->paletteStyle = style;
+    d->paletteKnown = true;
+  }
+  return tray_theme::isDark(d->portal, d->palette);
 }
 
 void PanelThemeWatcher::onSettingChanged(const QString& nameSpace, const QString& key, const QDBusVariant& value) {
@@ -95,6 +105,9 @@ void PanelThemeWatcher::onSettingChanged(const QString& nameSpace, const QString
 }
 
 bool PanelThemeWatcher::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange) emit changed();
+  if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange) {
+    d->paletteKnown = false;
+    emit changed();
+  }
   return QObject::eventFilter(watched, event);
 }

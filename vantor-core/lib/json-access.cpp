@@ -132,12 +132,27 @@ bool is_object(const Json::Value& v) {
   return v.isObject();
 }
 
+namespace {
+
+// Made once per thread and kind: making a reader costs more than reading a
+// small answer, and a reader starts afresh with every document.
+Json::CharReader& reader_for(bool collect_comments) {
+  thread_local std::unique_ptr<Json::CharReader> readers[2];
+  std::unique_ptr<Json::CharReader>& reader = readers[collect_comments ? 1 : 0];
+  if (!reader) {
+    Json::CharReaderBuilder builder;
+    builder["collectComments"] = collect_comments;
+    // Anything but blanks after the document means a broken message.
+    builder["failIfExtra"] = true;
+    reader.reset(builder.newCharReader());
+  }
+  return *reader;
+}
+
+}  // namespace
+
 bool parse(const std::string& text, Json::Value& out, std::string* error, bool collect_comments) {
-  Json::CharReaderBuilder builder;
-  builder["collectComments"] = collect_comments;
-  // Anything but blanks after the document means a broken message.
-  builder["failIfExtra"] = true;
-  std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
+  Json::CharReader* reader = &reader_for(collect_comments);
   std::string errs;
   Json::Value parsed;
   bool ok = false;

@@ -3,12 +3,14 @@
 // values of the wrong type.
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QDBusAbstractAdaptor>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QSignalSpy>
+#include <QStyle>
 #include <QTest>
 
 #include <memory>
@@ -113,3 +115,34 @@ TEST_F(PanelTheme, TrayPictureFollowsTheDesktopScheme) {
 }  // namespace
 
 #include "panel-theme-test.moc"
+
+namespace {
+
+// A palette whose window colour tells the panel's shade.
+QPalette paletteWithWindow(const QColor& window) {
+  QPalette p = QApplication::style()->standardPalette();
+  p.setColor(QPalette::Window, window);
+  return p;
+}
+
+}  // namespace
+
+// Without a portal the palette decides; the watcher keeps its verdict between
+// questions (the icon asks every second), so a palette change must reach it.
+TEST(PanelThemePalette, APaletteChangeIsSeenAtTheNextQuestion) {
+  const QPalette before = QApplication::palette();
+  PanelThemeWatcher watcher(QDBusConnection(QStringLiteral("no-such-bus")), nullptr);
+  QSignalSpy changed(&watcher, &PanelThemeWatcher::changed);
+
+  QApplication::setPalette(paletteWithWindow(QColor(0xF4, 0xF4, 0xF4)));
+  EXPECT_FALSE(watcher.isSystemDarkTheme());
+  EXPECT_FALSE(watcher.isSystemDarkTheme());  // asked again: the same answer
+
+  QApplication::setPalette(paletteWithWindow(QColor(0x20, 0x22, 0x25)));
+  EXPECT_GE(changed.count(), 1);
+  EXPECT_TRUE(watcher.isSystemDarkTheme());
+
+  QApplication::setPalette(paletteWithWindow(QColor(0xF4, 0xF4, 0xF4)));
+  EXPECT_FALSE(watcher.isSystemDarkTheme());
+  QApplication::setPalette(before);
+}
