@@ -5,7 +5,6 @@
 
 #include <QDesktopServices>
 #include <QElapsedTimer>
-#include <QEventLoop>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStackedWidget>
@@ -122,11 +121,17 @@ class Manager : public ::testing::Test {
   }
   // Runs `act` inside an event loop and tells whether the agent asked the
   // application to quit within `ms`.
+  // True when `act` makes the application quit within `ms`. It runs in
+  // QCoreApplication::exec, not a loop of its own: quit() marks every loop
+  // of the thread to end, and only exec clears that mark when it returns
+  // (otherwise every later loop in this process would end at once).
   static bool quitsDuring(const std::function<void()>& act, int ms = 8000) {
-    QEventLoop loop;
-    QTimer::singleShot(0, &loop, act);
-    QTimer::singleShot(ms, &loop, [&loop] { loop.exit(1); });
-    return loop.exec() == 0;
+    QTimer::singleShot(0, qApp, act);
+    QTimer timeout;
+    timeout.setSingleShot(true);
+    QObject::connect(&timeout, &QTimer::timeout, [] { QCoreApplication::exit(1); });
+    timeout.start(ms);
+    return QCoreApplication::exec() == 0;
   }
   void connect() {
     manager_->start(false);
