@@ -104,6 +104,9 @@ void TrayMenuContainer::paintEvent(QPaintEvent*) {
   QStyleOption option;
   option.initFrom(this);
   QPainter painter(this);
+  // As a framed window nothing shows through: the corners that the
+  // pop-up's rounded card leaves take the card's white.
+  if (windowMode_) painter.fillRect(rect(), Qt::white);
   style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
 }
 
