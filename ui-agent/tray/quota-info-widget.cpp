@@ -76,12 +76,8 @@ void QuotaInfoWidget::setAccount(const QString& account) {
 }
 
 void QuotaInfoWidget::setUsage(const Json::Value& billing) {
-  // The same billing comes with every status: nothing to work out again.
-  if (billingShown_ && billing == shownBilling_) return;
   const auto usage = quota_model::usage_for(billing);
   if (!usage) return;
-  shownBilling_ = billing;
-  billingShown_ = true;
   usage_bar_->setValue(usage->bar);
   // The status comes every second with the same usage mostly: a style sheet
   // set again polishes the bar again, so only a change is applied.

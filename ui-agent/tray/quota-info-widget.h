@@ -42,6 +42,4 @@ class QuotaInfoWidget : public QWidget {
   QLabel* usage_label_;
   QProgressBar* usage_bar_;
   QString shownStyle_;  // the bar's style sheet by name
-  Json::Value shownBilling_;  // the billing the bar and label show
-  bool billingShown_ = false;
 };
