@@ -8,6 +8,9 @@
 #include <QEvent>
 #include <QStyle>
 
+#include <functional>
+#include <utility>
+
 #include "logger.h"
 #include "tray/tray-theme.h"
 
@@ -32,6 +35,24 @@ tray_theme::Scheme schemeFromMessageValue(QVariant v) {
   return tray_theme::schemeFromPortal(value);
 }
 
+// Receives the portal's SettingChanged signal (a D-Bus connection needs a
+// slot of the signal's signature) and hands it to the watcher.
+class PortalListener : public QObject {
+  Q_OBJECT
+ public:
+  PortalListener(std::function<void(const QString&, const QString&, const QVariant&)> onChange,
+                 QObject* parent)
+      : QObject(parent), onChange_(std::move(onChange)) {}
+
+ public slots:
+  void onSettingChanged(const QString& nameSpace, const QString& key, const QDBusVariant& value) {
+    onChange_(nameSpace, key, value.variant());
+  }
+
+ private:
+  std::function<void(const QString&, const QString&, const QVariant&)> onChange_;
+};
+
 }  // namespace
 
 struct PanelThemeWatcher::Impl {
@@ -42,24 +63,39 @@ struct PanelThemeWatcher::Impl {
   mutable bool paletteKnown = false;
   mutable tray_theme::Scheme palette = tray_theme::Scheme::Unknown;
   mutable const QStyle* paletteStyle = nullptr;
+
+  // A setting the portal announced: true when it changed what the watcher knows.
+  bool applySetting(const QString& nameSpace, const QString& key, const QVariant& value) {
+    if (nameSpace != QLatin1String(kAppearance) || key != QLatin1String(kColorScheme)) return false;
+    const tray_theme::Scheme scheme = schemeFromMessageValue(value);
+    if (scheme == portal) return false;
+    portal = scheme;
+    return true;
+  }
 };
 
-PanelThemeWatcher::PanelThemeWatcher(QObject* parent) : PanelThemeWatcher(QDBusConnection::sessionBus(), parent) {}
+PanelThemeWatcher::PanelThemeWatcher(QObject* parent) : PanelThemeWatcher(QString(), parent) {}
 
-PanelThemeWatcher::PanelThemeWatcher(const QDBusConnection& busIn, QObject* parent)
+PanelThemeWatcher::PanelThemeWatcher(const QString& busConnectionName, QObject* parent)
     : QObject(parent), d(new Impl) {
   if (qApp) qApp->installEventFilter(this);
-  QDBusConnection bus(busIn);
+  QDBusConnection bus =
+      busConnectionName.isEmpty() ? QDBusConnection::sessionBus() : QDBusConnection(busConnectionName);
   if (!bus.isConnected()) {
     LOG_INFO(vlog::kDefaultComponent, "no session bus: the panel colour follows the palette");
     return;
   }
   bus.connect(QString::fromLatin1(kPortalService), QString::fromLatin1(kPortalPath),
-              QString::fromLatin1(kSettings), QStringLiteral("SettingChanged"), this,
+              QString::fromLatin1(kSettings), QStringLiteral("SettingChanged"),
+              new PortalListener(
+                  [this](const QString& nameSpace, const QString& key, const QVariant& value) {
+                    if (d->applySetting(nameSpace, key, value)) emit changed();
+                  },
+                  this),
               SLOT(onSettingChanged(QString, QString, QDBusVariant)));
-  QDBusMessage read = QDBusMessage::createMethodCall(QString::fromLatin1(kPortalService),
-                                                     QString::fromLatin1(kPortalPath),
-                                                     QString::fromLatin1(kSettings), QStringLiteral("Read"));
+  QDBusMessage read =
+      QDBusMessage::createMethodCall(QString::fromLatin1(kPortalService), QString::fromLatin1(kPortalPath),
+                                     QString::fromLatin1(kSettings), QStringLiteral("Read"));
   read << QString::fromLatin1(kAppearance) << QString::fromLatin1(kColorScheme);
   // Asked without waiting: the answer arrives through the event loop.
   auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(read, 3000), this);
@@ -86,7 +122,8 @@ tray_theme::Scheme PanelThemeWatcher::portalScheme() const {
 }
 
 bool PanelThemeWatcher::isSystemDarkTheme() const {
-  const QStyle* style = qobject_cast<QApplication*>(QCoreApplication::instance()) ? QApplication::style() : nullptr;
+  const QStyle* style =
+      qobject_cast<QApplication*>(QCoreApplication::instance()) ? QApplication::style() : nullptr;
   if (!d->paletteKnown || style != d->paletteStyle) {
     d->palette = style ? tray_theme::schemeFromPalette(QGuiApplication::palette(), style->standardPalette())
                        : tray_theme::Scheme::Unknown;
@@ -96,14 +133,6 @@ bool PanelThemeWatcher::isSystemDarkTheme() const {
   return tray_theme::isDark(d->portal, d->palette);
 }
 
-void PanelThemeWatcher::onSettingChanged(const QString& nameSpace, const QString& key, const QDBusVariant& value) {
-  if (nameSpace != QLatin1String(kAppearance) || key != QLatin1String(kColorScheme)) return;
-  const tray_theme::Scheme scheme = schemeFromMessageValue(value.variant());
-  if (scheme == d->portal) return;
-  d->portal = scheme;
-  emit changed();
-}
-
 bool PanelThemeWatcher::eventFilter(QObject* watched, QEvent* event) {
   if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange) {
     d->paletteKnown = false;
@@ -111,3 +140,5 @@ bool PanelThemeWatcher::eventFilter(QObject* watched, QEvent* event) {
   }
   return QObject::eventFilter(watched, event);
 }
+
+#include "tray-theme-posix.moc"

@@ -1,5 +1,4 @@
 // Windows: the taskbar theme value of the registry, read afresh every time.
-#include <QDBusConnection>
 #include <QEvent>
 
 #include "os-services.h"
@@ -9,7 +8,7 @@ struct PanelThemeWatcher::Impl {};
 
 PanelThemeWatcher::PanelThemeWatcher(QObject* parent) : QObject(parent), d(new Impl) {}
 
-PanelThemeWatcher::PanelThemeWatcher(const QDBusConnection&, QObject* parent) : PanelThemeWatcher(parent) {}
+PanelThemeWatcher::PanelThemeWatcher(const QString&, QObject* parent) : PanelThemeWatcher(parent) {}
 
 PanelThemeWatcher::~PanelThemeWatcher() = default;
 
@@ -22,8 +21,6 @@ bool PanelThemeWatcher::isSystemDarkTheme() const {
   const bool has = os_services::read_system_uses_light_theme(value);
   return os_services::is_dark_taskbar(os_services::running_windows_version(), has, value);
 }
-
-void PanelThemeWatcher::onSettingChanged(const QString&, const QString&, const QDBusVariant&) {}
 
 bool PanelThemeWatcher::eventFilter(QObject* watched, QEvent* event) {
   return QObject::eventFilter(watched, event);

@@ -8,7 +8,6 @@
 // color-scheme read through the settings portal over D-Bus; when the portal
 // has no preference, the platform's palette; dark when neither tells.
 
-#include <QDBusVariant>
 #include <QObject>
 #include <QPalette>
 #include <QString>
@@ -16,8 +15,6 @@
 #include <memory>
 
 #include "core/tray-status.h"
-
-class QDBusConnection;
 
 namespace tray_theme {
 
@@ -45,8 +42,10 @@ class PanelThemeWatcher : public QObject {
   Q_OBJECT
  public:
   explicit PanelThemeWatcher(QObject* parent = nullptr);
-  // Watches the portal on `bus` (tests give a private bus).
-  PanelThemeWatcher(const QDBusConnection& bus, QObject* parent);
+  // Linux: watches the portal on the bus connection of that name, opened
+  // beforehand (tests give a private bus); an empty name is the session bus.
+  // Windows: the name is ignored.
+  PanelThemeWatcher(const QString& busConnectionName, QObject* parent);
   ~PanelThemeWatcher() override;
 
   bool isSystemDarkTheme() const;
@@ -58,9 +57,6 @@ class PanelThemeWatcher : public QObject {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
-
- private slots:
-  void onSettingChanged(const QString& nameSpace, const QString& key, const QDBusVariant& value);
 
  private:
   struct Impl;

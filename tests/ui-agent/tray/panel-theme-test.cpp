@@ -7,6 +7,7 @@
 #include <QDBusAbstractAdaptor>
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusVariant>
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QSignalSpy>
@@ -80,8 +81,8 @@ class PanelTheme : public ::testing::Test {
 };
 
 TEST_F(PanelTheme, PortalAnswerThenChangesFollow) {
-  QDBusConnection bus = QDBusConnection::connectToBus(address_, "watcher");
-  PanelThemeWatcher watcher(bus, nullptr);
+  ASSERT_TRUE(QDBusConnection::connectToBus(address_, "watcher").isConnected());
+  PanelThemeWatcher watcher(QStringLiteral("watcher"), nullptr);
   QSignalSpy changed(&watcher, &PanelThemeWatcher::changed);
   ASSERT_TRUE(changed.wait(5000));
   EXPECT_EQ(watcher.portalScheme(), tray_theme::Scheme::Dark);
@@ -109,7 +110,8 @@ TEST_F(PanelTheme, TrayPictureFollowsTheDesktopScheme) {
   EXPECT_EQ(tray.currentIconName(), QStringLiteral("logo_tray_icn_green_dark"));
   changeScheme(QVariant::fromValue(1u));
   // Re-picked within a second of the change.
-  EXPECT_TRUE(waitForIcon(tray, QStringLiteral("logo_tray_icn_green"), 1000)) << tray.currentIconName().toStdString();
+  EXPECT_TRUE(waitForIcon(tray, QStringLiteral("logo_tray_icn_green"), 1000))
+      << tray.currentIconName().toStdString();
 }
 
 }  // namespace
@@ -131,7 +133,7 @@ QPalette paletteWithWindow(const QColor& window) {
 // questions (the icon asks every second), so a palette change must reach it.
 TEST(PanelThemePalette, APaletteChangeIsSeenAtTheNextQuestion) {
   const QPalette before = QApplication::palette();
-  PanelThemeWatcher watcher(QDBusConnection(QStringLiteral("no-such-bus")), nullptr);
+  PanelThemeWatcher watcher(QStringLiteral("no-such-bus"), nullptr);
   QSignalSpy changed(&watcher, &PanelThemeWatcher::changed);
 
   QApplication::setPalette(paletteWithWindow(QColor(0xF4, 0xF4, 0xF4)));
