@@ -123,8 +123,7 @@ ClientManager::ClientManager() : QObject(nullptr) {
   statusWorker->moveToThread(statusThread);
   statusThread->start(QThread::InheritPriority);
 
-  wizard = new Wizard();
-  wizard->setFixedSize(DPIinfo::scaled(900), DPIinfo::scaled(540));
+  wizard = new Wizard();  // 900 x 540, its own size
   wizard->hide();
   about = new AboutWindowContainer();
   about->hide();
@@ -154,7 +153,14 @@ void ClientManager::start(bool openLog) {
   tray->setVisible(true);
 }
 
+// The requests of the sign-in and device registration, answered to the wizard.
+static bool isRegistrationAction(const std::string& action) {
+  return action == "get_auth" || action == "get_token" || action == "get_site_info" ||
+         action == "create_device";
+}
+
 void ClientManager::send(const Json::Value& request) {
+  if (isRegistrationAction(jsonx::get_string(request, "action"))) ++registrationInFlight;
   emit sigQueryService(this, request);
 }
 
@@ -372,6 +378,7 @@ void ClientManager::runNotifier(const Json::Value& notifications) {
 void ClientManager::slotQueryServiceDone(const QObject* sender, const Json::Value& response) {
   if (sender != this) return;
   const std::string action = jsonx::get_string(response, "action");
+  if (isRegistrationAction(action) && registrationInFlight > 0) --registrationInFlight;
   if (action == "get_connection_info")
     onConnectionInfo(response);
   else if (action == "get_portal_link")
@@ -517,6 +524,17 @@ void ClientManager::onCreateDevice(const Json::Value& response) {
 }
 
 void ClientManager::slotQueryServiceFailed() {
+  if (registrationInFlight > 0) {
+    // A registration request got no answer: the wizard would wait under its
+    // connecting frame (or the sign-in sheet) for ever. Back to the welcome
+    // page, with the generic error.
+    --registrationInFlight;
+    CM_LOG_ERROR("a registration request failed: back to the welcome page");
+    authPending.exchange(false);
+    wizard->closeSignInSheet();
+    wizard->showError(-1);
+    wizard->showWelcomePage();
+  }
   const client_manager_rules::Failure verdict =
       client_manager_rules::countFailure(failureCount, statusWorker->isPolling());
   if (verdict == client_manager_rules::Failure::Retry) {

@@ -99,6 +99,7 @@ class ClientManager : public QObject {
   bool showMenuWhenConnected = false;
   bool openLogPending = false;
   std::atomic<bool> authPending{false};
+  int registrationInFlight = 0;  // registration requests sent, not yet answered
 };
 
 // Platform halves (client-manager-posix.cpp / client-manager-windows.cpp).

@@ -7,6 +7,7 @@
 #include <QHash>
 #include <QJsonDocument>
 #include <QJsonValue>
+#include <QRegularExpression>
 #include <QTranslator>
 
 #include <algorithm>
@@ -289,8 +290,64 @@ bool same_char(QChar a, QChar b) {
   return norm(a) == norm(b);
 }
 
-// The rich ending shared by the named and generic kinds: elide the filled
-// text to `width` pixels, then put the values that are still shown in bold.
+// How much of `filled` may be kept so that the markup stays well-formed:
+// never inside a tag (a value filled into an attribute counts as part of the
+// tag), and the elements opened before the cut listed for closing.
+struct Cut {
+  int kept;
+  QStringList open;  // element names, outermost first
+};
+
+Cut well_formed_cut(const QString& filled, const std::vector<Span>& spans, int kept) {
+  Cut cut{kept, {}};
+  std::size_t next_span = 0;
+  // Skips a value (text from the service, never markup) starting at `i`.
+  auto skip_span = [&](int& i) {
+    while (next_span < spans.size() && spans[next_span].start + spans[next_span].length <= i) ++next_span;
+    if (next_span < spans.size() && spans[next_span].start == i && spans[next_span].length > 0) {
+      i += spans[next_span].length;
+      return true;
+    }
+    return false;
+  };
+  int i = 0;
+  while (i < kept) {
+    if (skip_span(i)) continue;
+    if (filled.at(i) != QLatin1Char('<')) {
+      ++i;
+      continue;
+    }
+    int close = i + 1;
+    while (close < kept) {
+      if (skip_span(close)) continue;
+      if (filled.at(close) == QLatin1Char('>')) break;
+      ++close;
+    }
+    if (close >= kept) {
+      cut.kept = i;  // the cut falls inside this tag: drop the tag
+      break;
+    }
+    static const QRegularExpression name_re(QStringLiteral("^<\\s*(/?)\\s*([A-Za-z][A-Za-z0-9]*)"));
+    const QString tag = filled.mid(i, close - i + 1);
+    const QRegularExpressionMatch m = name_re.match(tag);
+    if (m.hasMatch()) {
+      const QString name = m.captured(2).toLower();
+      static const QStringList kVoid = {QStringLiteral("br"), QStringLiteral("img"), QStringLiteral("hr")};
+      if (!m.captured(1).isEmpty()) {
+        const int at = cut.open.lastIndexOf(name);
+        if (at >= 0) cut.open = cut.open.mid(0, at);
+      } else if (!tag.endsWith(QLatin1String("/>")) && !kVoid.contains(name)) {
+        cut.open.append(name);
+      }
+    }
+    i = close + 1;
+  }
+  return cut;
+}
+
+// The rich ending shared by every kind: elide the filled text to `width`
+// pixels, then put the values that are still shown in bold. A cut never
+// falls inside a tag, and what it leaves open is closed after the ellipsis.
 QString elide_and_embolden(const QFontMetrics& fm, const QString& filled, const std::vector<Span>& spans,
                            int width) {
   const QString elided = fm.elidedText(filled, Qt::ElideRight, width, 0);
@@ -299,10 +356,49 @@ QString elide_and_embolden(const QFontMetrics& fm, const QString& filled, const 
   while (kept < limit && same_char(filled.at(kept), elided.at(kept))) ++kept;
   const bool whole = kept == filled.size() && elided.size() == filled.size();
   if (whole) return wrap_bold(filled, spans, filled.size(), true);
+  const Cut cut = well_formed_cut(filled, spans, kept);
   // The kept part of the original (with bold values), then Qt's tail (the
-  // ellipsis).
-  QString head = wrap_bold(filled.left(kept), spans, kept, false);
-  return head + elided.midRef(kept);
+  // ellipsis), then the closing tags.
+  QString out = wrap_bold(filled.left(cut.kept), spans, cut.kept, false);
+  if (cut.kept == kept)
+    out += elided.midRef(kept);
+  else
+    out += QChar(0x2026);
+  for (int k = cut.open.size() - 1; k >= 0; --k)
+    out += QLatin1String("</") + cut.open.at(k) + QLatin1Char('>');
+  return out;
+}
+
+// A body whose string members are at most kValueCapBytes long: longer ones
+// are cut (at a character boundary) and end in an ellipsis. A message shows a
+// few lines and a tool tip; a megabyte value would only cost time and memory
+// on every rendering.
+constexpr int kValueCapBytes = 1024;
+
+bool over_cap(const Json::Value& body) {
+  if (!body.isObject()) return false;
+  for (auto it = body.begin(); it != body.end(); ++it) {
+    const char* begin = nullptr;
+    const char* end = nullptr;
+    if (it->isString() && it->getString(&begin, &end) && end - begin > kValueCapBytes) return true;
+  }
+  return false;
+}
+
+Json::Value bounded_body(const Json::Value& body) {
+  Json::Value out(Json::objectValue);
+  for (auto it = body.begin(); it != body.end(); ++it) {
+    const char* begin = nullptr;
+    const char* end = nullptr;
+    if (it->isString() && it->getString(&begin, &end) && end - begin > kValueCapBytes) {
+      int cut = kValueCapBytes;
+      while (cut > 0 && (static_cast<unsigned char>(begin[cut]) & 0xC0) == 0x80) --cut;
+      out[it.name()] = std::string(begin, begin + cut) + "\xE2\x80\xA6";
+    } else {
+      out[it.name()] = *it;
+    }
+  }
+  return out;
 }
 
 // Named kind: "{...}" spans become %1, %2, ... in order of appearance,
@@ -444,6 +540,11 @@ SizeText format_size(quint64 bytes, bool decimal) {
   const double bd = static_cast<double>(b);
   const double value = static_cast<double>(bytes);
   auto number = [](double x) { return QString::number(x, 'g', 3); };
+  // Past 1000 TB the units go on (PB, EB), so that no amount up to 2^64
+  // shows in exponent notation.
+  if (bytes >= b * b * b * b * b * 1000)
+    return {number(value / (bd * bd * bd * bd * bd * bd)), QStringLiteral("EB")};
+  if (bytes >= b * b * b * b * 1000) return {number(value / (bd * bd * bd * bd * bd)), QStringLiteral("PB")};
   if (bytes >= b * b * b * 1000) return {number(value / (bd * bd * bd * bd)), QStringLiteral("TB")};
   if (bytes >= b * b * 1000) return {number(value / (bd * bd * bd)), QStringLiteral("GB")};
   if (bytes >= b * 1000) return {number(value / (bd * bd)), QStringLiteral("MB")};
@@ -473,19 +574,23 @@ QString render_event_message(const LogEntry& entry, bool rich, int limit) {
   return render_event_message(entry.type, entry.body, rich, limit);
 }
 
-QString render_event_message(quint32 type, const Json::Value& body, bool rich, int limit) {
+QString render_event_message(quint32 type, const Json::Value& full_body, bool rich, int limit) {
   const EventType* event = find_event(type);
   if (!event) {
     LOG_WARN(vlog::kDefaultComponent, "unknown log type: %d", static_cast<int>(type));
     return QString();
   }
   const int width = width_budget(limit);
+  Json::Value bounded;
+  const bool cut_values = over_cap(full_body);
+  if (cut_values) bounded = bounded_body(full_body);
+  const Json::Value& body = cut_values ? bounded : full_body;
 
   switch (event->kind) {
     case EventKind::Fixed: {
       const QString message = text(event->row);
       if (!rich) return message;
-      return QFontMetrics(QApplication::font()).elidedText(message, Qt::ElideRight, width, 0);
+      return elide_and_embolden(QFontMetrics(QApplication::font()), message, {}, width);
     }
 
     case EventKind::Named: {

@@ -21,6 +21,11 @@ void VellLabel::setElideMode(Qt::TextElideMode mode) {
   applyElide();
 }
 
+void VellLabel::setFullTextToolTip(bool on) {
+  fullTip_ = on;
+  applyElide();
+}
+
 void VellLabel::setText(const QString& text) {
   // Texts are often set again unchanged (the tray's, every second): eliding
   // lays the text out, so an unchanged text is left as it is.
@@ -69,6 +74,7 @@ void VellLabel::applyElide() {
   if (!elides()) {
     QLabel::setText(full_);
     shown_ = full_;
+    if (fullTip_) setToolTip(full_);
     return;
   }
   const int room = contentsRect().width() - 2 * margin() - (indent() > 0 ? 2 * indent() : 0);
@@ -78,7 +84,7 @@ void VellLabel::applyElide() {
   const QString shown = fm.horizontalAdvance(full_) <= room ? full_ : fm.elidedText(full_, elide_, qMax(room, 0));
   QLabel::setText(shown);
   shown_ = shown;
-  setToolTip(shown == full_ ? QString() : full_);
+  setToolTip(shown == full_ && !fullTip_ ? QString() : full_);
 }
 
 LinkLabel::LinkLabel(QWidget* parent) : LinkLabel(QString(), parent) {}

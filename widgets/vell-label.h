@@ -14,6 +14,9 @@ class VellLabel : public QLabel {
   // shortened with an ellipsis and the whole text becomes the tool tip.
   void setElideMode(Qt::TextElideMode mode);
   Qt::TextElideMode elideMode() const { return elide_; }
+  // With `on`, the tool tip is the whole text whether or not it is elided
+  // (by default it is the whole text only while elided).
+  void setFullTextToolTip(bool on);
   void setText(const QString& text);
   // The text as set, before any eliding.
   QString fullText() const { return full_; }
@@ -36,6 +39,7 @@ class VellLabel : public QLabel {
   QSize withText(QSize hint, const QString& wanted) const;
   void applyElide();
   Qt::TextElideMode elide_ = Qt::ElideNone;
+  bool fullTip_ = false;
   QString full_;
   QString shown_;  // what applyElide() last put on the label
 };

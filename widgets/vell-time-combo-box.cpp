@@ -22,6 +22,7 @@ VellTimeComboBox::VellTimeComboBox(QWidget* parent) : QComboBox(parent), custom_
     }
   };
   hookEditor();
+  connect(this, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &VellTimeComboBox::noteTime);
   // setEditable() creates the line edit later; hook it when it appears.
   connect(this, &QComboBox::editTextChanged, this, [hookEditor](const QString&) { hookEditor(); });
 }
@@ -62,38 +63,71 @@ QString VellTimeComboBox::timeText() const {
 }
 
 bool VellTimeComboBox::setTimeText(const QString& text) {
+  int listed = -1;
+  QString time;
   // A full item text ("05:00 Next day") selects that item as it is.
   const int exact = findText(text, Qt::MatchExactly);
   if (exact >= 0 && !itemData(exact, kCustomRole).toBool()) {
-    setCurrentIndex(exact);
-    if (isEditable()) setEditText(itemText(exact));
+    listed = exact;
+  } else {
+    time = normalizeTime(text.left(5).contains(QLatin1Char(':')) ? text.left(5) : text);
+    if (time.isEmpty()) return false;
+    for (int i = 0; i < count() && listed < 0; ++i)
+      if (!itemData(i, kCustomRole).toBool() && itemText(i).left(5) == time) listed = i;
+  }
+  quiet_ = true;
+  if (listed >= 0) {
+    selectListed(listed);
+  } else {
+    const QString label = custom_.isEmpty() ? time : time + QLatin1Char(' ') + custom_;
     const int stale = customIndex();
     if (stale >= 0) removeItem(stale);
-    return true;
-  }
-  const QString time = normalizeTime(text.left(5).contains(QLatin1Char(':')) ? text.left(5) : text);
-  if (time.isEmpty()) return false;
-  for (int i = 0; i < count(); ++i) {
-    if (!itemData(i, kCustomRole).toBool() && itemText(i).left(5) == time) {
-      setCurrentIndex(i);
-      if (isEditable()) setEditText(itemText(i));
-      const int stale = customIndex();
-      if (stale >= 0) removeItem(stale);
-      return true;
-    }
-  }
-  const QString label = custom_.isEmpty() ? time : time + QLatin1Char(' ') + custom_;
-  int idx = customIndex();
-  if (idx < 0) {
-    addItem(label);
-    idx = count() - 1;
+    const int idx = customInsertIndex(time);
+    insertItem(idx, label);
     setItemData(idx, true, kCustomRole);
-  } else {
-    setItemText(idx, label);
+    setCurrentIndex(idx);
+    if (isEditable()) setEditText(label);
   }
-  setCurrentIndex(idx);
-  if (isEditable()) setEditText(label);
+  quiet_ = false;
+  noteTime();
   return true;
+}
+
+void VellTimeComboBox::selectListed(int index) {
+  const int stale = customIndex();
+  if (stale >= 0 && stale != index) {
+    removeItem(stale);
+    if (stale < index) --index;
+  }
+  setCurrentIndex(index);
+  if (isEditable()) setEditText(itemText(index));
+}
+
+int VellTimeComboBox::customInsertIndex(const QString& time) const {
+  auto minutes = [](const QString& t) { return t.left(2).toInt() * 60 + t.mid(3, 2).toInt(); };
+  const int wanted = minutes(time);
+  // The listed items run forward in time, possibly across midnight: the
+  // custom time goes before the first item it does not come after.
+  int previous = -1;
+  for (int i = 0; i < count(); ++i) {
+    const QString itemTime = normalizeTime(itemText(i).left(5));
+    if (itemTime.isEmpty()) continue;
+    const int m = minutes(itemTime);
+    if (previous >= 0) {
+      const int step = (m - previous + 1440) % 1440;
+      if (step > 0 && (wanted - previous + 1440) % 1440 < step) return i;
+    }
+    previous = m;
+  }
+  return count();
+}
+
+void VellTimeComboBox::noteTime() {
+  if (quiet_) return;
+  const QString time = timeText();
+  if (time == lastTime_) return;
+  lastTime_ = time;
+  emit timeChanged(time);
 }
 
 void VellTimeComboBox::commitTypedText() {

@@ -4,7 +4,12 @@
 // When editable, the user may type a time that is not in the list ("7:30",
 // "07:30", "0730"): it is kept as one extra item "HH:MM" + " " + custom text
 // (for example "07:30 (Custom)") and selected, so timeText() gives "07:30".
-// Input that is no time puts back the previous selection.
+// The custom item sits where its time falls in the list's own (possibly
+// wrapping) order of times, so the list stays in time order; a new custom
+// time replaces the previous one. Input that is no time puts back the
+// previous selection. timeChanged() follows every change of the selected
+// time, whether an item was picked or a custom time typed (relabelling the
+// custom item keeps its index, so currentIndexChanged() alone misses it).
 
 #include <QComboBox>
 
@@ -30,9 +35,20 @@ class VellTimeComboBox : public QComboBox {
   // "7:30", "07:30", "0730", "730" -> "07:30"; "" when not a time of day.
   static QString normalizeTime(const QString& text);
 
+ signals:
+  void timeChanged(const QString& time);
+
  private:
   void commitTypedText();
   int customIndex() const;
+  // Selects `index` and drops a custom item other than it.
+  void selectListed(int index);
+  // Where a custom item of `time` keeps the list in time order.
+  int customInsertIndex(const QString& time) const;
+  void noteTime();
+
+  QString lastTime_;
+  bool quiet_ = false;
 
   QString custom_;
 };

@@ -17,6 +17,7 @@
 #include "style-manager.h"
 #include "vell-button.h"
 #include "vell-label.h"
+#include "window-placement.h"
 
 namespace {
 
@@ -181,6 +182,7 @@ void AboutWindow::keyPressEvent(QKeyEvent* event) {
 
 AboutWindowContainer::AboutWindowContainer(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("AboutWindowContainer"));
+  window_placement::centreWhenShown(this);
   setAttribute(Qt::WA_TranslucentBackground);
   setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
   setWindowTitle(text(Str::app_name));

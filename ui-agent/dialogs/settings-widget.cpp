@@ -23,6 +23,7 @@
 #include "vell-label.h"
 #include "vell-scroll-area.h"
 #include "vell-time-combo-box.h"
+#include "window-placement.h"
 
 namespace {
 
@@ -54,6 +55,7 @@ QString withLineHeight(const QString& html, int logicalLineHeight) {
 
 SettingsWidget::SettingsWidget(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("SettingsWidget"));
+  window_placement::centreWhenShown(this);
   setWindowFlags(Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint);
   setWindowTitle(text(Str::act_settings));
   setAccessibleName(text(Str::act_settings));
@@ -75,8 +77,9 @@ SettingsWidget::SettingsWidget(QWidget* parent) : QWidget(parent) {
             [radio](bool checked) { radio->setFocusPolicy(checked ? Qt::StrongFocus : Qt::ClickFocus); });
   connect(m_rateEdit, &QLineEdit::textChanged, this, &SettingsWidget::slotCheckInputBandWidthVaild);
   connect(m_rangeCheckBox, &QCheckBox::stateChanged, this, &SettingsWidget::slotChangeRangeStatus);
-  connect(m_startCombo, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
-          &SettingsWidget::slotUpadteEndTimeItems);
+  // Every change of the start, picked or typed, rebuilds the end list (a
+  // typed time relabels the custom item in place, which no index change shows).
+  connect(m_startCombo, &VellTimeComboBox::timeChanged, this, &SettingsWidget::slotUpadteEndTimeItems);
   connect(m_cancelButton, &QPushButton::clicked, this, &QWidget::hide);
   connect(m_saveButton, &QPushButton::clicked, this, &SettingsWidget::slotSaveSettings);
   connect(m_learnMoreLink, &LinkLabel::clicked, this,

@@ -9,6 +9,7 @@
 #include "string-display.h"
 #include "style-manager.h"
 #include "vell-button.h"
+#include "window-placement.h"
 
 Qt::WindowFlags UpdateStatusDialog::baseWindowFlags() {
   return Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
@@ -16,6 +17,7 @@ Qt::WindowFlags UpdateStatusDialog::baseWindowFlags() {
 
 UpdateStatusDialog::UpdateStatusDialog(QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("UpdateStatusDialog"));
+  window_placement::centreWhenShown(this);
   using string_display::text;
 
   icon_ = new QLabel(this);

@@ -33,10 +33,12 @@ BackupScheduleInfoWidget::BackupScheduleInfoWidget(QWidget* parent) : QFrame(par
     return caption;
   };
   auto makeValue = [this](const char* name, QLabel* caption) {
-    auto* value = new QLabel(QStringLiteral("--"), this);
+    auto* value = new VellLabel(this);
     value->setObjectName(QLatin1String(name));
     value->setStyleSheet(DPIinfo::getScaledStyleSheet(QLatin1String(kValueStyle)));
     value->setFixedSize(DPIinfo::scaled(142), DPIinfo::scaled(20));
+    value->setElideMode(Qt::ElideRight);  // the full value becomes the tool tip
+    value->setText(QStringLiteral("--"));
     caption->setBuddy(value);
     return value;
   };

@@ -4,7 +4,6 @@
 
 #include <QFrame>
 
-class QLabel;
 class VellLabel;
 
 class BackupScheduleInfoWidget : public QFrame {
@@ -17,12 +16,13 @@ class BackupScheduleInfoWidget : public QFrame {
   void setLastBackupTime(quint64 secs);
   void setNextBackupTime(quint64 secs);
   // The status page writes the schedule-type texts straight into the value.
-  QLabel* nextBackupLabel() const { return next_value_; }
-  QLabel* lastBackupLabel() const { return last_value_; }
+  // A value wider than its label is elided, with the whole text as tool tip.
+  VellLabel* nextBackupLabel() const { return next_value_; }
+  VellLabel* lastBackupLabel() const { return last_value_; }
 
  private:
   VellLabel* last_caption_;
   VellLabel* next_caption_;
-  QLabel* last_value_;
-  QLabel* next_value_;
+  VellLabel* last_value_;
+  VellLabel* next_value_;
 };

@@ -84,15 +84,23 @@ QString Fitter::labelStyleSheet() {
 Fitter::Fitter(Fitter&&) noexcept = default;
 Fitter::~Fitter() = default;
 
+namespace {
+// The series goes on below 0 until a text fits: a text with a link carries a
+// markup allowance of up to a few thousand pixels, so limits far below 0
+// still show words. At this floor every rendering is its ellipsis alone.
+constexpr int kFloor = -20000;
+}  // namespace
+
 Fitter Fitter::tray() {
   const int width = DPIinfo::scaled(177);
-  return Fitter({354, 1, 0}, width, width, DPIinfo::scaled(40), QStringLiteral(" ."), Measure::HeightForWidth);
+  return Fitter({354, 1, kFloor}, width, width, DPIinfo::scaled(40), QStringLiteral(" ."),
+                Measure::HeightForWidth);
 }
 
 Fitter Fitter::activity() {
   // Three lines of 441 wide; the height limit stays 60: the rows' line
   // height is 20 at any scale.
-  return Fitter({1313, 10, 0}, DPIinfo::scaled(441), 1323, 60, QString(), Measure::AdjustSize);
+  return Fitter({1313, 10, kFloor}, DPIinfo::scaled(441), 1323, 60, QString(), Measure::AdjustSize);
 }
 
 QString Fitter::labelText(const QString& message) const {

@@ -6,7 +6,8 @@
 // one rendered at the first limit of a descending series, from the top,
 // whose label is low enough: limits 354, 353, ... for the pop-up's two
 // lines of 177, and 1313, 1303, ... for the activity dialog's three lines of
-// 441.
+// 441, going on below 0 until one fits (a text with a link is granted its
+// markup's width on top of the limit).
 //
 // Walking the series one limit at a time lays out hundreds of texts for one
 // label. The answer does not need that: a lower limit never gives a longer

@@ -36,11 +36,13 @@ void LatestEventLine::refresh(qint64 now) {
   if (!entry_) return;
   if (!fitted_) {
     message_ = fitter_.fit(*entry_).message;
+    plain_ = string_display::render_event_message(*entry_, false, 449);
     fitted_ = true;
-    const QString plain = string_display::render_event_message(*entry_, false, 449);
-    event_->setToolTip(plain);
-    event_->setAccessibleName(plain);
   }
+  // Said again whenever the line is shown: the error page puts its own
+  // text in the same label.
+  if (event_->toolTip() != plain_) event_->setToolTip(plain_);
+  if (event_->accessibleName() != plain_) event_->setAccessibleName(plain_);
   event_->setText(tray_text::line_div(message_));
   refreshAge(now);
 }

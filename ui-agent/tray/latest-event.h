@@ -36,5 +36,6 @@ class LatestEventLine {
   std::optional<LogEntry> entry_;
   bool fitted_ = false;
   QString message_;
+  QString plain_;
   event_fit::Fitter fitter_;
 };

@@ -15,6 +15,7 @@
 #include "string-display.h"
 #include "style-manager.h"
 #include "vell-button.h"
+#include "window-placement.h"
 
 namespace {
 
@@ -57,6 +58,7 @@ QLabel* cellLabel(const QString& text, const QString& style) {
 
 LogWidget::LogWidget(QWidget* parent) : QWidget(parent), fitter_(event_fit::Fitter::activity()) {
   setObjectName(QStringLiteral("LogWidget"));
+  window_placement::centreWhenShown(this);
   setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint);
   setFixedSize(DPIinfo::scaled(700), DPIinfo::scaled(442));
   QPalette pal = palette();

@@ -71,7 +71,10 @@ View view_for(ServiceStatus status, const Json::Value& content, double previous_
   t.total = jsonx::get_uint64(tr, "total");
   t.speed = jsonx::get_int64(tr, "speed");
   v.finish = finish_for(t, previous_estimate, now);
-  const double raw = t.total == 0 ? 0.0 : static_cast<double>(t.transferred) / static_cast<double>(t.total) * 100;
+  // A transfer past its total (the service counts both) shows as done.
+  const double raw =
+      t.total == 0 ? 0.0
+                   : std::min(100.0, static_cast<double>(t.transferred) / static_cast<double>(t.total) * 100);
   v.percent = round_three_significant(raw);
   v.bar = bar_value(v.percent);
   v.percent_text = QStringLiteral("%1%").arg(QString::number(v.percent, 'g', 6));

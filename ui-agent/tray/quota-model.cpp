@@ -11,6 +11,9 @@ std::optional<Usage> usage_for(const Json::Value& billing) {
   const quint64 quota = jsonx::get_uint64(billing, "quota");
   Usage u;
   u.percent = quota == 0 ? 0.0 : static_cast<double>(used) * 100 / static_cast<double>(quota);
+  // Anything stored against no storage at all is over the quota: a full red
+  // bar, not an empty blue one.
+  if (quota == 0 && used > 0) u.percent = 100;
   u.bar = u.percent >= 100 ? 100 : static_cast<int>(u.percent);
   u.red = u.percent >= 95;
   u.style_sheet = u.red ? QStringLiteral("tray_usage_red") : QStringLiteral("tray_usage_blue");

@@ -11,11 +11,11 @@
 namespace quota_model {
 
 struct Usage {
-  double percent = 0;    // used x 100 / quota, 0 for quota 0
-  int bar = 0;           // the bar's value (maximum 100)
-  bool red = false;      // from 95 % on
-  QString style_sheet;   // "tray_usage_blue" or "tray_usage_red"
-  QString label;         // "%1 / %2" with the coloured used amount
+  double percent = 0;   // used x 100 / quota; for quota 0, 0 when nothing is used, else 100
+  int bar = 0;          // the bar's value (maximum 100)
+  bool red = false;     // from 95 % on
+  QString style_sheet;  // "tray_usage_blue" or "tray_usage_red"
+  QString label;        // "%1 / %2" with the coloured used amount
 };
 
 // Usage for the status content's "billing" object; nullopt (nothing

@@ -65,6 +65,7 @@ void TrayMenuContainer::placeAt(QPoint anchor) {
   const tray_placement::Placement p = tray_placement::place(availableGeometry(), sizeHint(), anchor, side_);
   side_ = p.side;
   anchor_ = anchor;
+  placed_ = true;
   move(p.pos);
 }
 
@@ -121,7 +122,9 @@ void TrayMenuContainer::keyPressEvent(QKeyEvent* event) {
 
 void TrayMenuContainer::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  if (isVisible() && !windowMode_ && side_ != tray_placement::NotPlaced) placeAt(anchor_);
+  // Below its anchor the side stays 0 (not placed): whether it was placed
+  // is its own flag.
+  if (isVisible() && !windowMode_ && placed_) placeAt(anchor_);
 }
 
 // ---- balloons --------------------------------------------------------------

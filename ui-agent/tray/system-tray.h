@@ -63,6 +63,7 @@ class TrayMenuContainer : public QWidget {
   QWidget* content_;
   QPoint anchor_;
   int side_ = 0;
+  bool placed_ = false;  // by showAt() at least once
   bool windowMode_ = false;
   std::function<QRect()> available_;
 };

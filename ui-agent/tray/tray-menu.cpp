@@ -80,9 +80,13 @@ TrayMenu::TrayMenu(QWidget* parent) : QFrame(parent) {
   header->addSpacing(DPIinfo::scaled(12));
   header->addWidget(user_button_);
 
+  // The margins count from the card's outer edge: its border is inside
+  // them, so that the pages get their whole 360 x 160.
+  ensurePolished();
+  const int frame = frameWidth();
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(DPIinfo::scaled(20), DPIinfo::scaled(12), DPIinfo::scaled(20),
-                             DPIinfo::scaled(12));
+  layout->setContentsMargins(DPIinfo::scaled(20) - frame, DPIinfo::scaled(12) - frame,
+                             DPIinfo::scaled(20) - frame, DPIinfo::scaled(12) - frame);
   layout->setSpacing(0);
   layout->addLayout(header);
   layout->addSpacing(DPIinfo::scaled(24));
@@ -127,6 +131,8 @@ void TrayMenu::buildHeader() {
   list_button_->setAccessibleName(string_display::text(Str::title_activities));
   list_button_->setToolTip(list_button_->accessibleName());
   list_button_->setFocusPolicy(Qt::StrongFocus);
+  // As high as the user button beside it: the header row is 24.
+  list_button_->setFixedSize(DPIinfo::scaled(24), DPIinfo::scaled(24));
 
   user_button_ = new VellIconButton(this);
   user_button_->setObjectName(QStringLiteral("trayUserButton"));

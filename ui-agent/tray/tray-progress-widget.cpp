@@ -42,6 +42,7 @@ TrayProgressWidget::TrayProgressWidget(QWidget* parent) : QWidget(parent) {
   phase_->setStyleSheet(getStyleSheet(QStringLiteral("tray_status_display")));
   phase_->setFixedWidth(DPIinfo::scaled(296));
   phase_->setElideMode(Qt::ElideRight);
+  phase_->setFullTextToolTip(true);
   phase_->setText(string_display::text(Str::desc_status_backup));
 
   finish_ = new QLabel(this);
@@ -114,7 +115,6 @@ void TrayProgressWidget::updateStatus(ServiceStatus status, const Json::Value& c
   const qint64 now = clock_();
   const auto view = tray_progress_page::view_for(status, content, estimate_, now);
   phase_->setText(string_display::text(view.phase));
-  phase_->setToolTip(phase_->fullText());
   phase_->setAccessibleName(phase_->fullText());
   picture_->setAccessibleName(phase_->fullText());
   if (view.has_transfer) {

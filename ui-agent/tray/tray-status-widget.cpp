@@ -35,7 +35,10 @@ TrayStatusWidget::TrayStatusWidget(QWidget* parent) : QWidget(parent) {
   age_ = latest_->ageLabel();
 
   schedule_ = new BackupScheduleInfoWidget(this);
-  schedule_->setFixedSize(DPIinfo::scaled(376), DPIinfo::scaled(68));
+  // The page's width (the 376 of the box's design would stick 16 out of the
+  // pages' 360) and one less than 68, so that it stands 16 under the event
+  // line inside the pages' 160.
+  schedule_->setFixedSize(DPIinfo::scaled(360), DPIinfo::scaled(67));
 
   // picture | column (result, latest event + age); the schedule box below.
   auto* column = new QVBoxLayout;
@@ -124,17 +127,7 @@ void TrayStatusWidget::updateStatus(const Json::Value& content) {
     event_->setToolTip(QString());
   }
   if (view.last_backup) schedule_->lastBackupLabel()->setText(*view.last_backup);
-  QLabel* next = schedule_->nextBackupLabel();
-  if (view.next_backup) {
-    next->setToolTip(QString());
-    const QFontMetrics fm(next->font());
-    if (fm.horizontalAdvance(*view.next_backup) > next->width()) {
-      next->setText(fm.elidedText(*view.next_backup, Qt::ElideRight, next->width()));
-      next->setToolTip(*view.next_backup);
-    } else {
-      next->setText(*view.next_backup);
-    }
-  }
+  if (view.next_backup) schedule_->nextBackupLabel()->setText(*view.next_backup);
   age_->show();
   latest_->refresh(clock_());
   emit sigTrayStatusChanged(view.result.tray);

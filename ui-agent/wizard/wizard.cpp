@@ -21,6 +21,7 @@
 #include "vell-mask.h"
 #include "vell-message-sheet.h"
 #include "welcome-page.h"
+#include "window-placement.h"
 
 namespace {
 
@@ -36,6 +37,8 @@ Qt::WindowFlags Wizard::windowFlagsOfWizard() {
 
 Wizard::Wizard(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("Wizard"));
+  // Once: bringing it to the front shows it again where the user left it.
+  window_placement::centreWhenShown(this, true);
   stack_ = new QStackedWidget(this);
   stack_->setObjectName(QStringLiteral("WizardPages"));
   stack_->setContentsMargins(0, 0, 0, 0);
@@ -61,7 +64,8 @@ Wizard::Wizard(QWidget* parent) : QWidget(parent) {
   setWindowTitle(text(Str::app_name));
   setWindowIcon(QIcon(getGlobalImage(QStringLiteral("app_img"))));
   setWindowFlags(windowFlagsOfWizard());
-  setFixedSize(DPIinfo::scaled(900), DPIinfo::scaled(600));
+  // The wizard owns its size: 900 x 540.
+  setFixedSize(DPIinfo::scaled(900), DPIinfo::scaled(540));
   setAccessibleName(text(Str::app_name));
 }
 

@@ -13,13 +13,20 @@
 #include <QTest>
 #include <QUrl>
 
+#include <functional>
+#include <memory>
+
 #include "agent-test.h"
 #include "dialogs/about-window.h"
+#include "dialogs/settings-widget.h"
 #include "dialogs/update-status-dialog.h"
 #include "string-display.h"
 #include "support/qt-print.h"
+#include "tray/log-widget.h"
 #include "vell-button.h"
 #include "vell-label.h"
+#include "window-placement.h"
+#include "wizard/wizard.h"
 
 namespace {
 
@@ -30,6 +37,47 @@ void loadLook() {
   qputenv("NIMBRA_UI_SCALE", "1");
   agent_test::loadLook();
 }
+
+// --- where the windows open -------------------------------------------------
+
+TEST(WindowPlacement, CentredInTheWorkAreaAndKeptInsideIt) {
+  using window_placement::centredIn;
+  EXPECT_EQ(centredIn(QRect(0, 0, 1280, 800), QSize(700, 442)), QPoint(290, 179));
+  EXPECT_EQ(centredIn(QRect(1920, 30, 1280, 770), QSize(400, 230)), QPoint(2360, 300));
+  EXPECT_EQ(centredIn(QRect(0, 0, 800, 600), QSize(900, 540)), QPoint(0, 30));
+}
+
+struct WindowRow {
+  const char* name;
+  std::function<QWidget*()> make;
+};
+void PrintTo(const WindowRow& r, std::ostream* os) {
+  *os << r.name;
+}
+class WindowsOpen : public ::testing::TestWithParam<WindowRow> {
+ protected:
+  static void SetUpTestSuite() { loadLook(); }
+};
+
+// Wherever a window manager would put them, the windows open centred on the
+// screen that holds the pointer.
+TEST_P(WindowsOpen, CentredOnThePointersScreen) {
+  std::unique_ptr<QWidget> window(GetParam().make());
+  window->move(7, 7);
+  window->show();
+  const QRect area = window_placement::workAreaAt(QCursor::pos());
+  EXPECT_EQ(window->pos(), window_placement::centredIn(area, window->frameGeometry().size()));
+  window->hide();
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Windows, WindowsOpen,
+    ::testing::Values(WindowRow{"wizard", [] { return static_cast<QWidget*>(new Wizard); }},
+                      WindowRow{"activity", [] { return static_cast<QWidget*>(new LogWidget); }},
+                      WindowRow{"settings", [] { return static_cast<QWidget*>(new SettingsWidget); }},
+                      WindowRow{"about", [] { return static_cast<QWidget*>(new AboutWindowContainer); }},
+                      WindowRow{"update", [] { return static_cast<QWidget*>(new UpdateStatusDialog); }}),
+    [](const ::testing::TestParamInfo<WindowRow>& i) { return std::string(i.param.name); });
 
 // --- update status dialog --------------------------------------------------
 

@@ -14,11 +14,13 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <set>
 
 #include "agent-test.h"
 #include "client-manager.h"
 #include "core/get-status-worker.h"
 #include "core/global-connecter.h"
+#include "core/service-error-text.h"
 #include "core/status-store.h"
 #include "dialogs/update-status-dialog.h"
 #include "service-communicator.h"
@@ -26,6 +28,7 @@
 #include "tray/system-tray.h"
 #include "tray/tray-menu.h"
 #include "vell-message-sheet.h"
+#include "wizard/nimbra-loading-frame.h"
 #include "wizard/summary-page.h"
 #include "wizard/wizard.h"
 
@@ -88,6 +91,10 @@ class Manager : public ::testing::Test {
     if (sender != manager_.get()) return;
     requests_.push_back(request);
     const std::string action = request["action"].asString();
+    if (failing_.count(action)) {
+      QTimer::singleShot(0, manager_.get(), [] { emit GlobalConnecter::instance().sigQueryServiceFailed(); });
+      return;
+    }
     auto it = answers_.find(action);
     if (it == answers_.end()) return;
     Json::Value answer = it->second;
@@ -147,6 +154,7 @@ class Manager : public ::testing::Test {
   QTimer answerer_;
   UrlCatcher urls_;
   std::map<std::string, Json::Value> answers_;
+  std::set<std::string> failing_;  // actions whose exchange fails
   std::vector<Json::Value> requests_;
   QStringList sheets_, boxes_;
   int questionAnswer_ = QMessageBox::Apply;
@@ -220,6 +228,36 @@ TEST_F(Manager, RegistrationEndToEnd) {
   EXPECT_FALSE(QGuiApplication::quitOnLastWindowClosed());
   EXPECT_EQ(log_.text().find("tok-123"), std::string::npos) << "the token reached the log";
 }
+
+// A registration request whose exchange fails ends the wait (sign-in sheet
+// or connecting frame): the generic error, then the welcome page.
+class RegistrationFailure : public Manager, public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(RegistrationFailure, ReturnsToTheWelcomePageWithTheGenericError) {
+  const std::string failing = GetParam();
+  manager_->start(false);
+  answer("get_auth", R"({"redirect_to":"https://signin.example/start"})");
+  answer("get_token", "{}");
+  failing_.insert(failing);
+  urls_.then = [] { send(QString(kScheme) + "?access_token=tok"); };
+  QTimer::singleShot(0, [failing] {
+    if (failing == "create_device")
+      emit GlobalConnecter::instance().sigCreateDevice("z1", "s1", "vell");
+    else
+      emit GlobalConnecter::instance().sigGetAuthURL();
+  });
+  const QString generic = service_error::message(-1);
+  ASSERT_TRUE(until([&] { return sheets_.contains(generic); })) << sheets_.join('|').toStdString();
+  Wizard* wizard = manager_->wizardWindow();
+  ASSERT_TRUE(until([&] { return VellMessageSheet::runningSheets().isEmpty(); }));
+  EXPECT_TRUE(wizard->connectingFrame() == nullptr || !wizard->connectingFrame()->isVisible());
+  EXPECT_EQ(wizard->pageStack()->currentWidget(), reinterpret_cast<QWidget*>(wizard->welcomePage()));
+  EXPECT_FALSE(manager_->isAuthPending());
+  EXPECT_EQ(count(failing), 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Requests, RegistrationFailure,
+                         ::testing::Values("get_auth", "get_token", "get_site_info", "create_device"));
 
 TEST_F(Manager, SiteInfoWithErrorButDataSucceeds) {
   manager_->start(false);

@@ -17,6 +17,7 @@
 
 #include "agent-test.h"
 #include "core/global-connecter.h"
+#include "dialogs/settings-rules.h"
 #include "dialogs/settings-widget.h"
 #include "json-access.h"
 #include "string-display.h"
@@ -199,6 +200,52 @@ TEST_F(SettingsWidgetTest, StartAt22OffersTheEndList) {
   EXPECT_EQ(endCombo()->currentText(), QStringLiteral("00:00 Next day"));
 }
 
+// A start typed with the keyboard, then Return: every change of the start
+// rebuilds the end list, including a typed time replacing a typed one.
+struct TypedStarts {
+  std::vector<const char*> typed;
+  const char* end;  // the end shown (and saved) afterwards
+};
+
+class SettingsTypedStart : public SettingsWidgetTest, public ::testing::WithParamInterface<TypedStarts> {};
+
+TEST_P(SettingsTypedStart, RebuildsTheEndListAndSavesThatRange) {
+  widget->loadClientConfig(parse(kLimited0700To2300));
+  showActive();
+  QLineEdit* edit = startCombo()->lineEdit();
+  ASSERT_NE(edit, nullptr);
+  QString start;
+  for (const char* typed : GetParam().typed) {
+    edit->setFocus();
+    edit->selectAll();
+    QTest::keyClicks(edit, QString::fromLatin1(typed));
+    QTest::keyClick(edit, Qt::Key_Return);
+    const QString time = VellTimeComboBox::normalizeTime(QString::fromLatin1(typed));
+    if (!time.isEmpty()) start = time;  // no time puts the last one back
+  }
+  EXPECT_EQ(startCombo()->timeText(), start);
+  // The start list stays in time order with at most one custom item.
+  EXPECT_LE(startCombo()->count(), 25);
+  for (int i = 1; i < startCombo()->count(); ++i)
+    EXPECT_LT(startCombo()->itemText(i - 1).left(5), startCombo()->itemText(i).left(5));
+  const QStringList ends = settings_rules::endItems(start, string_display::text(Str::next_day));
+  ASSERT_EQ(endCombo()->count(), ends.size());
+  EXPECT_EQ(endCombo()->itemText(0), ends.first());
+  EXPECT_EQ(endCombo()->currentText(), QString::fromLatin1(GetParam().end));
+  widget->slotSaveSettings();
+  const Json::Value bandwidth = sentRequest()["bandwidth"];
+  EXPECT_EQ(bandwidth["bandwidth_start_time"], Json::Value(start.toStdString()));
+  EXPECT_EQ(bandwidth["bandwidth_end_time"],
+            Json::Value(QString::fromLatin1(GetParam().end).left(5).toStdString()));
+}
+
+INSTANTIATE_TEST_SUITE_P(Settings, SettingsTypedStart,
+                         ::testing::Values(TypedStarts{{"7:30", "22:45"}, "23:45"},
+                                           TypedStarts{{"7:30", "8:30"}, "09:30"},
+                                           TypedStarts{{"0730", "07:00"}, "08:00"},
+                                           TypedStarts{{"22:00"}, "23:00"},
+                                           TypedStarts{{"23:15", "later"}, "00:15 Next day"}));
+
 // What counts as valid, and how times load and save, are settings_rules'
 // tables; here one configuration through the dialog and back.
 TEST_F(SettingsWidgetTest, HalfHourRangeLoadsAsCustomAndNextDayAndSavesBareTimes) {
@@ -206,10 +253,20 @@ TEST_F(SettingsWidgetTest, HalfHourRangeLoadsAsCustomAndNextDayAndSavesBareTimes
                                      "bandwidth_start_time":"07:30","bandwidth_end_time":"05:30"})"));
   EXPECT_EQ(startCombo()->currentText(), QStringLiteral("07:30 (Custom)"));
   EXPECT_EQ(endCombo()->currentText(), QStringLiteral("05:30 Next day"));
+  // The custom start sits where its time falls in the list.
+  EXPECT_EQ(startCombo()->currentIndex(), 8);
   widget->slotSaveSettings();
   const Json::Value bandwidth = sentRequest()["bandwidth"];
   EXPECT_EQ(bandwidth["bandwidth_start_time"], Json::Value("07:30"));
   EXPECT_EQ(bandwidth["bandwidth_end_time"], Json::Value("05:30"));
+}
+
+TEST_F(SettingsWidgetTest, CustomEndSitsWhereItsTimeFallsInTheList) {
+  widget->loadClientConfig(parse(R"({"bandwidth_type":1,"bandwidth_rate":20,"bandwidth_limit_range":true,
+                                     "bandwidth_start_time":"07:00","bandwidth_end_time":"05:30"})"));
+  ASSERT_EQ(endCombo()->currentText(), QStringLiteral("05:30 Next day"));
+  EXPECT_EQ(endCombo()->itemText(endCombo()->currentIndex() - 1), QStringLiteral("05:00 Next day"));
+  EXPECT_EQ(endCombo()->itemText(endCombo()->currentIndex() + 1), QStringLiteral("06:00 Next day"));
 }
 
 TEST_F(SettingsWidgetTest, CancelHidesWithoutARequest) {

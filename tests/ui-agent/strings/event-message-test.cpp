@@ -64,6 +64,33 @@ LiveMarkup live_markup(const QString& rich) {
   return live;
 }
 
+// Whether every tag of a rich text is complete (quoted attribute values may
+// hold anything) and every element opened is closed, in order.
+bool well_formed(const QString& rich) {
+  QStringList open;
+  static const QRegularExpression name(QStringLiteral("^<\\s*(/?)\\s*([A-Za-z][A-Za-z0-9]*)"));
+  for (int i = 0; i < rich.size(); ++i) {
+    if (rich.at(i) != QLatin1Char('<')) continue;
+    int j = i + 1;
+    for (QChar quote; j < rich.size() && (!quote.isNull() || rich.at(j) != QLatin1Char('>')); ++j) {
+      if (rich.at(j) == quote)
+        quote = QChar();
+      else if (quote.isNull() && (rich.at(j) == QLatin1Char('"') || rich.at(j) == QLatin1Char('\'')))
+        quote = rich.at(j);
+    }
+    if (j >= rich.size()) return false;
+    const QRegularExpressionMatch m = name.match(rich.mid(i, j - i + 1));
+    if (!m.hasMatch()) return false;
+    if (m.captured(1).isEmpty()) {
+      if (m.captured(2) != QLatin1String("br")) open << m.captured(2);
+    } else if (open.isEmpty() || open.takeLast() != m.captured(2)) {
+      return false;
+    }
+    i = j;
+  }
+  return open.isEmpty();
+}
+
 class EventTable : public ::testing::TestWithParam<EventRow> {};
 
 TEST_P(EventTable, ValuesLandInTheListedOrderAndWrongTypesReadAsEmpty) {
@@ -117,6 +144,22 @@ TEST_P(EventTable, ValuesLandInTheListedOrderAndWrongTypesReadAsEmpty) {
     const LiveMarkup live = live_markup(render_event_message(row.type, markup_body, true, limit));
     EXPECT_EQ(live.images, 0) << limit;
     EXPECT_EQ(live.evil_links, 0) << limit;
+  }
+
+  // Every elided rendering is well-formed, down to limits below 0: a cut
+  // never falls inside a tag, and what it leaves open is closed.
+  for (int limit = 1313; limit >= -300; limit -= 7) {
+    const QString rich = render_event_message(row.type, body, true, limit);
+    ASSERT_TRUE(well_formed(rich)) << limit << ": " << rich.toStdString();
+  }
+  // A megabyte value is cut to a sane length, ending in an ellipsis.
+  Json::Value huge = body;
+  for (const QString& member : members)
+    if (member != QLatin1String("-")) huge[member.toStdString()] = std::string(1 << 20, 'x');
+  const QString plain = render_event_message(row.type, huge, false, 449);
+  EXPECT_LE(plain.size(), tmpl.size() + 1100 * members.size());
+  if (fill_in_order(tmpl, values, false) != fill_in_order(tmpl, empty, false)) {
+    EXPECT_TRUE(plain.contains(QStringLiteral("xxx") + kEllipsis)) << plain.left(80).toStdString();
   }
 }
 

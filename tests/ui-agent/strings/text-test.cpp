@@ -85,14 +85,16 @@ INSTANTIATE_TEST_SUITE_P(
                       SizeCase{1024000, false, "0.977 MB"}, SizeCase{kMiB * 1000 - 1, false, "1e+03 MB"},
                       SizeCase{kMiB * 1000, false, "0.977 GB"}, SizeCase{kGiB, false, "1 GB"},
                       SizeCase{kGiB * 1000 - 1, false, "1e+03 GB"}, SizeCase{kGiB * 1000, false, "0.977 TB"},
-                      SizeCase{kGiB * 1024, false, "1 TB"},
-                      SizeCase{std::numeric_limits<quint64>::max(), false, "1.68e+07 TB"},
+                      SizeCase{kGiB * 1024, false, "1 TB"}, SizeCase{kGiB * 1024 * 999, false, "999 TB"},
+                      SizeCase{kGiB * 1024 * 1000, false, "0.977 PB"},
+                      SizeCase{std::numeric_limits<quint64>::max(), false, "16 EB"},
                       SizeCase{0, true, "0 Bytes"}, SizeCase{999, true, "999 Bytes"},
                       SizeCase{1000, true, "1 KB"}, SizeCase{1536, true, "1.54 KB"},
                       SizeCase{999999, true, "1e+03 KB"}, SizeCase{1000000, true, "1 MB"},
                       SizeCase{999999999, true, "1e+03 MB"}, SizeCase{1000000000, true, "1 GB"},
                       SizeCase{999999999999ULL, true, "1e+03 GB"}, SizeCase{1000000000000ULL, true, "1 TB"},
-                      SizeCase{1500000000000000ULL, true, "1.5e+03 TB"}));
+                      SizeCase{1500000000000000ULL, true, "1.5 PB"},
+                      SizeCase{std::numeric_limits<quint64>::max(), true, "18.4 EB"}));
 
 struct NotificationCase {
   int type;

@@ -7,10 +7,16 @@
 #include <functional>
 #include <vector>
 
+#include <QApplication>
+#include <QLabel>
+#include <QTranslator>
+
+#include "core/language-font.h"
 #include "string-display.h"
 #include "support/temp-dir.h"
 #include "tray-fixture.h"
 #include "tray/event-fit.h"
+#include "tray/latest-event.h"
 
 namespace {
 
@@ -108,5 +114,60 @@ INSTANTIATE_TEST_SUITE_P(Cases, FastFitMatchesWalk,
                                            FitCase{"activity_scale1", "1", false, 20},
                                            FitCase{"activity_scale2", "2", false, 100}),
                          [](const ::testing::TestParamInfo<FitCase>& i) { return std::string(i.param.name); });
+
+// Every event type, with an empty body, in every language the agent offers:
+// the pop-up's latest-event label holds its text within its two lines.
+struct LanguageScale {
+  const char* language;
+  const char* scale;
+};
+void PrintTo(const LanguageScale& c, std::ostream* os) {
+  *os << c.language << " x" << c.scale;
+}
+
+class EveryEventFitsThePopUp : public tray_test::TrayTest,
+                               public ::testing::WithParamInterface<LanguageScale> {
+ protected:
+  void SetUp() override {
+    language_font::install_font_substitutions();
+    saved_ = QApplication::font();
+    const QString language = QString::fromLatin1(GetParam().language);
+    QApplication::setFont(language_font::application_font(language));
+    if (language != QLatin1String("enu")) {
+      ASSERT_TRUE(string_display::load_translation(translator_, language));
+      QCoreApplication::installTranslator(&translator_);
+    }
+  }
+  void TearDown() override {
+    QCoreApplication::removeTranslator(&translator_);
+    QApplication::setFont(saved_);
+  }
+  QFont saved_;
+  QTranslator translator_;
+};
+
+TEST_P(EveryEventFitsThePopUp, LabelHeightStaysWithinItsTwoLines) {
+  nimbra_test::ScopedEnv scale("NIMBRA_UI_SCALE", GetParam().scale);
+  QWidget page;
+  LatestEventLine line(&page, QStringLiteral("fit"));
+  QLabel* label = line.eventLabel();
+  for (quint32 type : eventTypes()) {
+    line.setEntry(tray_test::entry(type, tray_test::kMoment, type));
+    line.refresh(tray_test::kMoment);
+    EXPECT_LE(label->heightForWidth(label->width()), label->height())
+        << "type " << type << ": " << label->text().toStdString();
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Languages, EveryEventFitsThePopUp, ::testing::ValuesIn([] {
+      std::vector<LanguageScale> cases;
+      for (const char* language : {"enu", "ger", "fre", "spn", "tha", "chs", "cht", "jpn", "krn"})
+        for (const char* scale : {"1", "2"}) cases.push_back({language, scale});
+      return cases;
+    }()),
+    [](const ::testing::TestParamInfo<LanguageScale>& i) {
+      return std::string(i.param.language) + "_x" + i.param.scale;
+    });
 
 }  // namespace

@@ -17,6 +17,7 @@
 #include "tray/quota-info-widget.h"
 #include "tray/system-tray.h"
 #include "tray/tray-menu.h"
+#include "tray/tray-placement.h"
 #include "tray/tray-theme.h"
 
 namespace {
@@ -246,6 +247,23 @@ TEST_F(TrayIcon, SecondShowLeavesThePopupWhereItIs) {
   EXPECT_EQ(popup()->side(), 2);
   tray_->showMenuAt(QPoint(100, 780));
   EXPECT_EQ(popup()->pos(), first);
+}
+
+// Placed below its anchor (side 0) or above it (side 2), the pop-up is
+// placed again from its anchor when its size changes.
+TEST_F(TrayIcon, ResizeRePlacesOnEitherSide) {
+  tray_->setConnectionMode(1);
+  for (const QPoint anchor : {QPoint(1270, 60), QPoint(1270, 750)}) {
+    popup()->content()->setMinimumWidth(0);
+    tray_->showMenuAt(anchor);
+    ASSERT_TRUE(popup()->isVisible());
+    const int side = popup()->side();
+    popup()->content()->setMinimumWidth(popup()->width() + 80);
+    popup()->adjustSize();
+    const auto expected = tray_placement::place(QRect(0, 0, 1280, 760), popup()->sizeHint(), anchor, side);
+    EXPECT_EQ(popup()->pos(), expected.pos) << "side " << side;
+    popup()->hide();
+  }
 }
 
 TEST_F(TrayIcon, PressOnTheEdgeKeepsItOpenOnePastCloses) {

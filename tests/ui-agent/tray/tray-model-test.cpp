@@ -232,6 +232,13 @@ TEST_F(ProgressPage, ViewFromContent) {
       agent_test::parse(R"({"transfer":{"transfer":"5","total":0,"speed":[1]}})"), 0, tray_test::kMoment);
   EXPECT_EQ(z.percent_text, QStringLiteral("0%"));
   EXPECT_EQ(z.bar, 0);
+  // More than the total is 100 %.
+  const auto over = tray_progress_page::view_for(
+      static_cast<ServiceStatus>(0x3003),
+      agent_test::parse(R"({"transfer":{"transfer":18446744073709551615,"total":3,"speed":1}})"), 0,
+      tray_test::kMoment);
+  EXPECT_EQ(over.percent_text, QStringLiteral("100%"));
+  EXPECT_EQ(over.bar, 10000);
 }
 
 // ---- page choice, kept entries, menu entries ----------------------------------
@@ -332,7 +339,10 @@ TEST_P(QuotaUsage, PercentColourAndBar) {
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, QuotaUsage,
-    ::testing::Values(QuotaRow{"quota_zero", R"({"used_bytes":500,"quota":0})", 0, false},
+    ::testing::Values(QuotaRow{"quota_zero", R"({"used_bytes":0,"quota":0})", 0, false},
+                      QuotaRow{"used_of_quota_zero_full", R"({"used_bytes":500,"quota":0})", 100, true},
+                      QuotaRow{"max_of_quota_zero_full", R"({"used_bytes":18446744073709551615,"quota":0})",
+                               100, true},
                       QuotaRow{"u95_of_100_red", R"({"used_bytes":95,"quota":100})", 95, true},
                       QuotaRow{"u94_99_blue", R"({"used_bytes":9499,"quota":10000})", 94, false},
                       QuotaRow{"over_quota_full", R"({"used_bytes":300,"quota":100})", 100, true}),
@@ -342,6 +352,10 @@ TEST(QuotaUsageText, SizesAndMissingMembers) {
   const auto u = quota_model::usage_for(agent_test::parse(R"({"used_bytes":1536,"quota":1073741824})"));
   ASSERT_TRUE(u.has_value());
   EXPECT_EQ(u->label, QStringLiteral("<span style=\"color: #0A9CFF\">1.5 KB</span> / 1 GB"));
+  const auto most =
+      quota_model::usage_for(agent_test::parse(R"({"used_bytes":18446744073709551615,"quota":0})"));
+  ASSERT_TRUE(most.has_value());
+  EXPECT_EQ(most->label, QStringLiteral("<span style=\"color: #E64040\">16 EB</span> / 0 Bytes"));
   EXPECT_FALSE(quota_model::usage_for(agent_test::parse(R"({"used_bytes":1536})")).has_value());
   EXPECT_FALSE(quota_model::usage_for(agent_test::parse(R"({"quota":1})")).has_value());
   EXPECT_FALSE(quota_model::usage_for(agent_test::parse(R"([1,2])")).has_value());

@@ -16,14 +16,18 @@
 #include <QStackedWidget>
 #include <QTableWidget>
 #include <QTest>
+#include <QTextDocument>
 #include <QToolButton>
+#include <QTranslator>
 #include <memory>
 
 #include "core/global-connecter.h"
+#include "core/language-font.h"
 #include "core/service-error-text.h"
 #include "dialogs/settings-widget.h"
 #include "dpi-info.h"
 #include "string-display.h"
+#include "support/temp-dir.h"
 #include "tray-fixture.h"
 #include "tray/log-widget.h"
 #include "tray/quota-info-widget.h"
@@ -114,6 +118,10 @@ TEST_F(TrayWidgets, StatusPageResultAndErrorPage) {
   EXPECT_EQ(event->width(), DPIinfo::scaled(177));
   EXPECT_FALSE(age->isHidden());
   EXPECT_TRUE(age->text().contains(QStringLiteral("Just now")));
+  // Its tool tip and name are the newest entry's plain text again at once.
+  const QString plain = string_display::render_event_message(entry(8), false, 449);
+  EXPECT_EQ(event->toolTip(), plain);
+  EXPECT_EQ(accessibleName(event), plain);
 }
 
 TEST_F(TrayWidgets, StatusPageRepeatedAnswerKeepsStateAndMovesTheAgeOn) {
@@ -161,6 +169,72 @@ TEST_F(TrayWidgets, ProgressPageCountsDownWhileStalled) {
   EXPECT_EQ(child<QProgressBar>(page, "progressBar")->value(), 2500);
 }
 
+// Inside the card's border the pages get 360 x 160; nothing on them is
+// clipped, and the schedule box stands 16 under the event line.
+TEST_F(TrayWidgets, PagesGetTheirRoomAtEveryScale) {
+  for (const char* scale : {"1", "2"}) {
+    nimbra_test::ScopedEnv env("NIMBRA_UI_SCALE", scale);
+    TrayMenu menu;
+    menu.setFixedSize(DPIinfo::scaled(400), DPIinfo::scaled(232));
+    menu.show();
+    QApplication::processEvents();
+    auto* pages = child<QStackedWidget>(&menu, "trayPages");
+    EXPECT_EQ(pages->size(), QSize(DPIinfo::scaled(360), DPIinfo::scaled(160))) << "scale " << scale;
+    for (QWidget* page :
+         {static_cast<QWidget*>(menu.statusPage()), static_cast<QWidget*>(menu.progressPage())}) {
+      page->resize(pages->size());
+      for (QWidget* w : page->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+        EXPECT_TRUE(page->rect().contains(w->geometry())) << scale << " " << w->objectName().toStdString();
+    }
+    const QWidget* event = child<QWidget>(menu.statusPage(), "statusLatestEvent");
+    const QWidget* box = child<QWidget>(menu.statusPage(), "BackupScheduleInfoWidget");
+    EXPECT_EQ(box->y() - (event->y() + event->height()), DPIinfo::scaled(16)) << "scale " << scale;
+  }
+}
+
+// In every language, no one-line text of the pages is cut without an
+// ellipsis: what does not fit is elided, with the whole text as tool tip.
+class TrayPagesInLanguage : public tray_test::TrayTest, public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(TrayPagesInLanguage, OneLineTextsFitOrAreElided) {
+  const QString language = QString::fromLatin1(GetParam());
+  language_font::install_font_substitutions();
+  const QFont saved = QApplication::font();
+  QApplication::setFont(language_font::application_font(language));
+  QTranslator translator;
+  if (language != QLatin1String("enu") && string_display::load_translation(translator, language))
+    QCoreApplication::installTranslator(&translator);
+  {
+    TrayMenu menu;
+    menu.setFixedSize(DPIinfo::scaled(400), DPIinfo::scaled(232));
+    menu.show();
+    for (
+        const char* content :
+        {R"({"connected":true,"last_backup_result":{"last_backup_status":2,"backed_up":false,"last_backup_time":0}})",
+         R"({"connected":true,"last_backup_result":{"last_backup_status":2,"backed_up":true,"last_backup_time":1706745000},
+              "next_backup_time":0})",
+         R"({"connected":true,"last_backup_result":{"last_backup_status":4},"next_backup_time":1706800000})"}) {
+      menu.updateServiceStatus(static_cast<ServiceStatus>(0x2000), agent_test::parse(content));
+      QApplication::processEvents();
+      for (QLabel* label : menu.statusPage()->findChildren<QLabel*>()) {
+        if (label->wordWrap() || label->text().isEmpty() || Qt::mightBeRichText(label->text())) continue;
+        const int room = label->contentsRect().width();
+        const bool fits = label->fontMetrics().horizontalAdvance(label->text()) <= room;
+        EXPECT_TRUE(fits) << GetParam() << " " << label->objectName().toStdString() << ": "
+                          << label->text().toStdString() << " in " << room;
+        if (label->text().endsWith(QChar(0x2026))) {
+          EXPECT_FALSE(label->toolTip().isEmpty()) << label->objectName().toStdString();
+        }
+      }
+    }
+  }
+  QCoreApplication::removeTranslator(&translator);
+  QApplication::setFont(saved);
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, TrayPagesInLanguage,
+                         ::testing::Values("enu", "ger", "fre", "spn", "tha", "chs", "cht", "jpn", "krn"));
+
 // Shown in the pop-up, the page titles are whole: each has the room of its
 // column, whatever width it had when its text was set.
 TEST_F(TrayWidgets, PageTitlesAreWholeOnceShown) {
@@ -172,6 +246,7 @@ TEST_F(TrayWidgets, PageTitlesAreWholeOnceShown) {
   ASSERT_TRUE(phase->isVisible());
   EXPECT_FALSE(phase->fullText().isEmpty());
   EXPECT_EQ(phase->text(), phase->fullText());
+  EXPECT_EQ(phase->toolTip(), phase->fullText());
   EXPECT_GE(phase->width(), phase->fontMetrics().horizontalAdvance(phase->fullText()));
   menu_->updateServiceStatus(static_cast<ServiceStatus>(0x2000), agent_test::parse(R"({"connected":true})"));
   QApplication::processEvents();

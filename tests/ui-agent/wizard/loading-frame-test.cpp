@@ -39,7 +39,7 @@ class LoadingFrameTest : public ::testing::Test {
  protected:
   static void SetUpTestSuite() { wizard_test::loadLook(); }
   void SetUp() override {
-    parent_.resize(900, 600);
+    parent_.resize(900, 540);
     parent_.show();
     frame_ = new NimbraLoadingFrame(&parent_);
     frame_->setText(QStringLiteral("Connecting to server..."));

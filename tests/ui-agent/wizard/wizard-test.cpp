@@ -13,6 +13,7 @@
 #include "core/global-connecter.h"
 #include "core/service-error-text.h"
 #include "core/status-store.h"
+#include "dpi-info.h"
 #include "string-display.h"
 #include "wizard-fixture.h"
 #include "wizard/nimbra-loading-frame.h"
@@ -36,6 +37,7 @@ class WizardTest : public ::testing::Test {
 TEST_F(WizardTest, BuiltAsADialogOnWhiteWithTheWelcomePageCurrent) {
   EXPECT_EQ(wizard_.windowFlags(), Wizard::windowFlagsOfWizard());
   EXPECT_EQ(wizard_.windowTitle(), text(Str::app_name));
+  EXPECT_EQ(wizard_.size(), QSize(DPIinfo::scaled(900), DPIinfo::scaled(540)));
   EXPECT_TRUE(wizard_.autoFillBackground());
   EXPECT_EQ(wizard_.palette().color(QPalette::Inactive, QPalette::Window), QColor(255, 255, 255, 255));
   EXPECT_EQ(wizard_.pageStack()->currentWidget(), wizard_.welcomePage());
