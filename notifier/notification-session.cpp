@@ -1,5 +1,6 @@
 #include "notification-session.h"
 
+#include <QDBusConnectionInterface>
 #include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusServiceWatcher>
@@ -46,6 +47,15 @@ ShowOutcome NotificationSession::probe(ServerTraits& traits) {
   }
   const QVariantList args = reply.arguments();
   traits = traits_from_capabilities(args.isEmpty() ? QStringList() : args.first().toStringList());
+  const QDBusMessage id =
+      bus_.call(QDBusMessage::createMethodCall("org.freedesktop.DBus", "/org/freedesktop/DBus",
+                                               "org.freedesktop.DBus", "GetId"),
+                QDBus::Block, kCallTimeoutMs);
+  const QString owner =
+      bus_.interface() ? bus_.interface()->serviceOwner(kNotificationsService).value() : QString();
+  server_ = id.type() == QDBusMessage::ReplyMessage && !id.arguments().isEmpty() && !owner.isEmpty()
+                ? id.arguments().first().toString() + ' ' + owner
+                : QString();
   o.code = kExitShown;
   return o;
 }
@@ -63,10 +73,10 @@ bool NotificationSession::subscribe() {
   return a && c;
 }
 
-ShowOutcome NotificationSession::show(const std::vector<NotifyCall>& calls) {
+ShowOutcome NotificationSession::show(const std::vector<NotifyCall>& calls, uint replaces) {
   ShowOutcome o;
   if (!subscribe()) LOG_WARN(vlog::kDefaultComponent, "cannot follow the notification service's signals");
-  uint previous = 0;
+  uint previous = replaces;
   for (const NotifyCall& c : calls) {
     QDBusMessage m = method("Notify");
     m << c.app_name << QVariant::fromValue<uint>(previous) << c.app_icon << c.summary << c.body << c.actions
@@ -85,6 +95,8 @@ ShowOutcome NotificationSession::show(const std::vector<NotifyCall>& calls) {
     open_.insert(id);
     if (!c.button_key.isEmpty()) action_keys_.insert(c.button_key);
     previous = id;
+    o.last_id = id;
+    o.last_kind = c.summary;
     ++o.shown;
   }
   if (o.shown == 0) {

@@ -38,6 +38,8 @@ struct ShowOutcome {
   int code = kExitNoService;
   QString error;  // one line when code != kExitShown
   int shown = 0;
+  uint last_id = 0;   // the notification that stays on screen
+  QString last_kind;  // its title
 };
 
 class NotificationSession : public QObject {
@@ -46,12 +48,16 @@ class NotificationSession : public QObject {
   // `agent` is the program started with "open" when a button is chosen.
   NotificationSession(const QDBusConnection& bus, QString agent, int linger_ms, QObject* parent = nullptr);
 
-  // Asks the service for its capabilities (into `traits`); kExitNoService
-  // when there is no bus or no service.
+  // Asks the service for its capabilities (into `traits`) and who it is;
+  // kExitNoService when there is no bus or no service.
   ShowOutcome probe(ServerTraits& traits);
-  // Shows `calls` in order, each replacing the previous one. kExitShown when
-  // at least one is on screen; then the session waits for its actions.
-  ShowOutcome show(const std::vector<NotifyCall>& calls);
+  // The service instance that answered probe(): the bus's id and the
+  // service's unique name; empty when unknown.
+  QString server() const { return server_; }
+  // Shows `calls` in order, each replacing the previous one, the first
+  // replacing `replaces` (0: none). kExitShown when at least one is on
+  // screen; then the session waits for its actions.
+  ShowOutcome show(const std::vector<NotifyCall>& calls, uint replaces = 0);
 
   // Ids of the notifications still open.
   QSet<uint> openIds() const { return open_; }
@@ -78,6 +84,7 @@ class NotificationSession : public QObject {
 
   QDBusConnection bus_;
   QString agent_;
+  QString server_;
   QSet<uint> open_;
   QSet<QString> action_keys_;
   QTimer linger_;

@@ -9,6 +9,7 @@
 
 #include "detach.h"
 #include "logger.h"
+#include "notification-ledger.h"
 #include "notification-request.h"
 #include "notification-session.h"
 #include "paths.h"
@@ -62,7 +63,14 @@ int show_and_stay(int argc, char** argv, const NotifierRequest& request, const R
   const QString app_name =
       QString::fromUtf8(string_display::catalogue_rows()[static_cast<int>(Str::app_name)].source);
   const QString icon = notification_icon(app_dir, [](const QString& f) { return QFileInfo::exists(f); });
-  outcome = session.show(build_notify_calls(request, traits, app_name, icon));
+  const std::vector<NotifyCall> calls = build_notify_calls(request, traits, app_name, icon);
+  // The earlier notification of the same kind is replaced, not stacked.
+  with_ledger(ledger_path(), [&](Ledger& ledger) {
+    outcome = session.show(calls, replaced_id(ledger, session.server(), calls));
+    if (outcome.code != kExitShown || session.server().isEmpty()) return false;
+    record_shown(ledger, session.server(), outcome.last_kind, outcome.last_id);
+    return true;
+  });
   if (outcome.code != kExitShown) return fail(outcome.code, outcome.error);
 
   QObject::connect(&session, &NotificationSession::finished, &app, &QCoreApplication::quit,

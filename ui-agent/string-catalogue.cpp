@@ -286,6 +286,12 @@ constexpr CatalogueRow kRows[] = {
     NIMBRA_ROW(days, QT_TRANSLATE_NOOP("global", "days")),
     NIMBRA_ROW(label_learn_more, QT_TRANSLATE_NOOP("global", "Learn more")),
     NIMBRA_ROW(label_knowledge_center, QT_TRANSLATE_NOOP("global", "Knowledge Center")),
+    NIMBRA_ROW(tray_tip_not_set_up, QT_TRANSLATE_NOOP("global", "Not set up")),
+    NIMBRA_ROW(tray_tip_unreachable, QT_TRANSLATE_NOOP("global", "Service not reachable")),
+    NIMBRA_ROW(tray_tip_last_result, QT_TRANSLATE_NOOP("global", "Last backup: %1, %2")),
+    NIMBRA_ROW(tray_menu_backup_now, QT_TRANSLATE_NOOP("global", "Back up now")),
+    NIMBRA_ROW(tray_menu_backup_running, QT_TRANSLATE_NOOP("global", "A backup is running")),
+    NIMBRA_ROW(act_copy, QT_TRANSLATE_NOOP("global", "Copy")),
 };
 // clang-format on
 #undef NIMBRA_ROW

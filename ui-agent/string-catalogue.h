@@ -274,7 +274,13 @@ enum class Str : int {
   days,
   label_learn_more,
   label_knowledge_center,
+  tray_tip_not_set_up,
+  tray_tip_unreachable,
+  tray_tip_last_result,
+  tray_menu_backup_now,
+  tray_menu_backup_running,
+  act_copy,
 };
 
 // Number of rows in the catalogue.
-inline constexpr int kStrCount = static_cast<int>(Str::label_knowledge_center) + 1;
+inline constexpr int kStrCount = static_cast<int>(Str::act_copy) + 1;

@@ -1063,5 +1063,29 @@
         <source>Knowledge Center</source>
         <translation>知识中心</translation>
     </message>
+    <message>
+        <source>Not set up</source>
+        <translation>尚未设置</translation>
+    </message>
+    <message>
+        <source>Service not reachable</source>
+        <translation>无法连接到服务</translation>
+    </message>
+    <message>
+        <source>Last backup: %1, %2</source>
+        <translation>上次备份：%1，%2</translation>
+    </message>
+    <message>
+        <source>Back up now</source>
+        <translation>立即备份</translation>
+    </message>
+    <message>
+        <source>A backup is running</source>
+        <translation>备份正在进行中</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
 </context>
 </TS>

@@ -1063,5 +1063,29 @@
         <source>Knowledge Center</source>
         <translation>知識中心</translation>
     </message>
+    <message>
+        <source>Not set up</source>
+        <translation>尚未設定</translation>
+    </message>
+    <message>
+        <source>Service not reachable</source>
+        <translation>無法連線至服務</translation>
+    </message>
+    <message>
+        <source>Last backup: %1, %2</source>
+        <translation>上次備份：%1，%2</translation>
+    </message>
+    <message>
+        <source>Back up now</source>
+        <translation>立即備份</translation>
+    </message>
+    <message>
+        <source>A backup is running</source>
+        <translation>備份正在進行中</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>複製</translation>
+    </message>
 </context>
 </TS>

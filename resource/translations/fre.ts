@@ -1063,5 +1063,29 @@
         <source>Knowledge Center</source>
         <translation>Centre de connaissances</translation>
     </message>
+    <message>
+        <source>Not set up</source>
+        <translation>Non configuré</translation>
+    </message>
+    <message>
+        <source>Service not reachable</source>
+        <translation>Service injoignable</translation>
+    </message>
+    <message>
+        <source>Last backup: %1, %2</source>
+        <translation>Dernière sauvegarde : %1, %2</translation>
+    </message>
+    <message>
+        <source>Back up now</source>
+        <translation>Sauvegarder maintenant</translation>
+    </message>
+    <message>
+        <source>A backup is running</source>
+        <translation>Une sauvegarde est en cours</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
 </context>
 </TS>

@@ -1063,5 +1063,29 @@
         <source>Knowledge Center</source>
         <translation>Wissensdatenbank</translation>
     </message>
+    <message>
+        <source>Not set up</source>
+        <translation>Nicht eingerichtet</translation>
+    </message>
+    <message>
+        <source>Service not reachable</source>
+        <translation>Dienst nicht erreichbar</translation>
+    </message>
+    <message>
+        <source>Last backup: %1, %2</source>
+        <translation>Letzte Sicherung: %1, %2</translation>
+    </message>
+    <message>
+        <source>Back up now</source>
+        <translation>Jetzt sichern</translation>
+    </message>
+    <message>
+        <source>A backup is running</source>
+        <translation>Eine Sicherung läuft</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
 </context>
 </TS>

@@ -1063,5 +1063,29 @@
         <source>Knowledge Center</source>
         <translation>ナレッジセンター</translation>
     </message>
+    <message>
+        <source>Not set up</source>
+        <translation>未設定</translation>
+    </message>
+    <message>
+        <source>Service not reachable</source>
+        <translation>サービスに接続できません</translation>
+    </message>
+    <message>
+        <source>Last backup: %1, %2</source>
+        <translation>前回のバックアップ: %1、%2</translation>
+    </message>
+    <message>
+        <source>Back up now</source>
+        <translation>今すぐバックアップ</translation>
+    </message>
+    <message>
+        <source>A backup is running</source>
+        <translation>バックアップを実行中です</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
 </context>
 </TS>

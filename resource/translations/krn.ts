@@ -1063,5 +1063,29 @@
         <source>Knowledge Center</source>
         <translation>지식 센터</translation>
     </message>
+    <message>
+        <source>Not set up</source>
+        <translation>설정되지 않음</translation>
+    </message>
+    <message>
+        <source>Service not reachable</source>
+        <translation>서비스에 연결할 수 없음</translation>
+    </message>
+    <message>
+        <source>Last backup: %1, %2</source>
+        <translation>마지막 백업: %1, %2</translation>
+    </message>
+    <message>
+        <source>Back up now</source>
+        <translation>지금 백업</translation>
+    </message>
+    <message>
+        <source>A backup is running</source>
+        <translation>백업이 진행 중입니다</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>복사</translation>
+    </message>
 </context>
 </TS>

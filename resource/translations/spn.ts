@@ -1063,5 +1063,29 @@
         <source>Knowledge Center</source>
         <translation>Centro de conocimiento</translation>
     </message>
+    <message>
+        <source>Not set up</source>
+        <translation>Sin configurar</translation>
+    </message>
+    <message>
+        <source>Service not reachable</source>
+        <translation>Servicio no disponible</translation>
+    </message>
+    <message>
+        <source>Last backup: %1, %2</source>
+        <translation>Última copia: %1, %2</translation>
+    </message>
+    <message>
+        <source>Back up now</source>
+        <translation>Hacer copia ahora</translation>
+    </message>
+    <message>
+        <source>A backup is running</source>
+        <translation>Hay una copia en curso</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
 </context>
 </TS>

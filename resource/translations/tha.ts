@@ -1063,5 +1063,29 @@
         <source>Knowledge Center</source>
         <translation>ศูนย์ความรู้</translation>
     </message>
+    <message>
+        <source>Not set up</source>
+        <translation>ยังไม่ได้ตั้งค่า</translation>
+    </message>
+    <message>
+        <source>Service not reachable</source>
+        <translation>ไม่สามารถติดต่อบริการได้</translation>
+    </message>
+    <message>
+        <source>Last backup: %1, %2</source>
+        <translation>สำรองข้อมูลล่าสุด: %1, %2</translation>
+    </message>
+    <message>
+        <source>Back up now</source>
+        <translation>สำรองข้อมูลตอนนี้</translation>
+    </message>
+    <message>
+        <source>A backup is running</source>
+        <translation>กำลังสำรองข้อมูลอยู่</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>คัดลอก</translation>
+    </message>
 </context>
 </TS>

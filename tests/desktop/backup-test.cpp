@@ -1,7 +1,7 @@
 // A linked device: the tray icon's picture follows the backup, the finished
 // backup is shown by the desktop's notification service with the agent's
-// button, a second launch opens the pop-up by the icon, and Exit ends the
-// agent after its notice.
+// button, a second launch opens the pop-up by the icon, the icon's menu
+// backs up now, and Exit ends the agent after its notice.
 #include <QJsonObject>
 #include <QRegularExpression>
 
@@ -55,7 +55,7 @@ INSTANTIATE_TEST_SUITE_P(Scenarios, BackupOutcome,
                            return name.remove('-').toStdString();
                          });
 
-TEST_F(LinkedAgent, SecondLaunchOpensThePopupAndExitEndsTheAgent) {
+TEST_F(LinkedAgent, SecondLaunchOpensThePopupMenuBacksUpNowAndExitEndsTheAgent) {
   ASSERT_TRUE(startLinked("idle"));
   EXPECT_TRUE(popup().isEmpty()) << "the pop-up shows before anyone asked";
   EXPECT_EQ(launchAgain({}), 0);
@@ -75,11 +75,24 @@ TEST_F(LinkedAgent, SecondLaunchOpensThePopupAndExitEndsTheAgent) {
   run("xdotool", {"mousemove", "--sync", "300", "300", "click", "1"});
   EXPECT_TRUE(waitUntil([&] { return popup().isEmpty(); }, 10000)) << "a click outside leaves the pop-up up";
 
-  // The icon's menu: Exit, then the notice, then the agent ends.
-  clickTrayIcon(3);
-  ASSERT_TRUE(waitUntil([&] { return waitForAgentFocus(200) || !agentWindows(".*").isEmpty(); }, 10000));
+  // The icon's menu by keyboard: "Back up now" (below "Open") asks the service;
+  // the menu is up when the agent shows one window more than before.
+  const int windows = agentWindows(".*").size();
+  auto openMenu = [&] {
+    clickTrayIcon(3);
+    return waitUntil([&] { return agentWindows(".*").size() > windows; }, 10000);
+  };
+  EXPECT_EQ(countOf("backup_now"), 0);
+  ASSERT_TRUE(openMenu());
   shot("right-menu");
-  keys({"Down", "Return"});
+  keys({"Down", "Down", "Return"});
+  EXPECT_TRUE(waitForAction("backup_now", 15000)) << actions().join(' ').toStdString();
+
+  // Exit (the last entry, Up from none), then the notice, then the agent ends.
+  ASSERT_TRUE(waitUntil([&] { return agentWindows(".*").size() == windows; }, 10000)) << "the menu stays";
+  run("xdotool", {"mousemove", "--sync", "300", "300"});
+  ASSERT_TRUE(openMenu());
+  keys({"Up", "Return"});
   QString notice;
   ASSERT_TRUE(waitUntil(
       [&] {

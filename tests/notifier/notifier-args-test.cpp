@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "notification-ledger.h"
 #include "notification-request.h"
 #include "notifier-args.h"
 #include "support/qt-print.h"
@@ -146,6 +147,62 @@ TEST(NotifierIcon, ThePngBesideTheProgramsElseTheThemeName) {
   EXPECT_EQ(asked, found);
   EXPECT_EQ(notification_icon("/opt/x/bin", [](const QString&) { return false; }), "nimbra-backup-agent");
   EXPECT_EQ(agent_program("/opt/x/bin"), "/opt/x/bin/nimbra-backup-agent");
+}
+
+}  // namespace
+
+namespace {
+
+// ---- the kept ids: a damaged file is an empty ledger ------------------------
+
+struct BadLedger {
+  const char* name;
+  const char* json;
+};
+void PrintTo(const BadLedger& b, std::ostream* os) {
+  *os << b.name;
+}
+class NotifierBadLedger : public ::testing::TestWithParam<BadLedger> {};
+
+TEST_P(NotifierBadLedger, IsEmptyWithOneLine) {
+  QString problem;
+  const Ledger l = parse_ledger(GetParam().json, &problem);
+  EXPECT_TRUE(l.server.isEmpty() && l.ids.isEmpty());
+  EXPECT_FALSE(problem.isEmpty() || problem.contains('\n')) << problem.toStdString();
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, NotifierBadLedger,
+                         ::testing::Values(BadLedger{"Empty", ""}, BadLedger{"NotJson", "{\"server\""},
+                                           BadLedger{"Array", "[]"}, BadLedger{"NoIds", R"({"server":"s"})"},
+                                           BadLedger{"ServerNumber", R"({"server":1,"ids":{}})"},
+                                           BadLedger{"IdString", R"({"server":"s","ids":{"A":"7"}})"},
+                                           BadLedger{"IdZero", R"({"server":"s","ids":{"A":0}})"},
+                                           BadLedger{"IdFraction", R"({"server":"s","ids":{"A":1.5}})"},
+                                           BadLedger{"IdOver32Bits",
+                                                     R"({"server":"s","ids":{"A":4294967296}})"}),
+                         [](const auto& p) { return std::string(p.param.name); });
+
+NotifyCall call_titled(const QString& title) {
+  NotifyCall c;
+  c.summary = title;
+  return c;
+}
+
+TEST(NotifierLedger, ARunReplacesTheKindItEndsWithOfTheSameServiceOnly) {
+  Ledger l;
+  record_shown(l, "bus :1.4", "Backup failed", 7);
+  record_shown(l, "bus :1.4", "Storage full", 9);
+  l = parse_ledger(serialize_ledger(l), nullptr);
+  EXPECT_EQ(replaced_id(l, "bus :1.4", {call_titled("Storage full"), call_titled("Backup failed")}), 7u);
+  EXPECT_EQ(replaced_id(l, "bus :1.4", {call_titled("Backup failed"), call_titled("Storage full")}), 9u);
+  EXPECT_EQ(replaced_id(l, "bus :1.4", {call_titled("Device removed")}), 0u);
+  EXPECT_EQ(replaced_id(l, "bus :1.5", {call_titled("Backup failed")}), 0u);  // a restarted service
+  EXPECT_EQ(replaced_id(l, "bus :1.4", {}), 0u);
+  // Kind "Backup failed" now shows in 9: "Storage full" is no longer on screen.
+  record_shown(l, "bus :1.4", "Backup failed", 9);
+  EXPECT_EQ(l.ids, (QHash<QString, uint>{{"Backup failed", 9}}));
+  record_shown(l, "bus :1.5", "Storage full", 3);
+  EXPECT_EQ(l.ids, (QHash<QString, uint>{{"Storage full", 3}}));
 }
 
 }  // namespace

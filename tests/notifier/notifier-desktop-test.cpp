@@ -199,6 +199,18 @@ TEST_F(NotifierOnDesktop, ElementsOfOneRunReplaceEachOtherInOrder) {
   EXPECT_EQ(app_.agentArgs(), "");
 }
 
+TEST_F(NotifierOnDesktop, ARepeatedEventReplacesItsEarlierNotificationOthersStay) {
+  show({element("Backup failed", "one", "Open Nimbra Backup", 1)});
+  show({element("Storage full", "two", "Open Nimbra Backup", 1)});
+  show({element("Backup failed", "three", "Open Nimbra Backup", 1)});
+  EXPECT_EQ(desktop_.displayed(), 2);
+  desktop_.run("dunstctl", {"close-all"});
+  QStringList bodies;
+  for (const QJsonValue& shown : desktop_.history()) bodies << shown.toObject().value("body").toString();
+  bodies.sort();
+  EXPECT_EQ(bodies, QStringList({"three", "two"}));
+}
+
 TEST_F(NotifierOnDesktop, MarkupInTitleAndTextIsShownAsText) {
   show({element("<b>Nimbra</b> & co", "Tom & <i>Jerry</i> <a href=\"x\">y</a>", "Open Nimbra Backup", 1)});
   desktop_.run("dunstctl", {"close-all"});

@@ -1,6 +1,8 @@
-// `cpack -G DEB`: the package builds, holds the application tree under
-// /opt/nimbra-backup and the desktop files and icons where the desktop looks,
-// depends on the libraries the programs use and registers the URL handler.
+// `cpack -G DEB`: two packages, the agent and the simulator, laid out as
+// Debian wants (the application tree under /usr/lib/nimbra-backup with links
+// from /usr/bin, docs in /usr/share/doc), without a lintian error; the
+// desktop files and icons where the desktop looks, the dependencies of the
+// programs and the registered URL handler.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -17,9 +19,26 @@ using ::testing::HasSubstr;
 
 namespace {
 
-constexpr const char* kAppDir = "/opt/nimbra-backup/";
+constexpr const char* kAppDir = "/usr/lib/nimbra-backup/";
 
-TEST(DebianPackage, BuildsWithTheTreeTheDependenciesAndTheHandler) {
+// The one package called `name` in `folder`.
+QString package_file(const QString& folder, const QString& name) {
+  const QStringList debs = QDir(folder).entryList({name + "_*_*.deb"}, QDir::Files);
+  return debs.size() == 1 ? folder + "/" + debs.first() : QString();
+}
+
+QStringList paths_in(const QString& deb) {
+  const Ran list = run_program("dpkg-deb", {"--contents", deb});
+  EXPECT_EQ(list.code, 0) << list.err.toStdString();
+  QStringList paths;
+  for (const QString& line : list.out.split('\n', Qt::SkipEmptyParts)) {
+    // "<mode> <owner> <size> <date> <time> ./usr/... [-> target]"
+    paths << line.mid(line.indexOf(" ./") + 2).section(" -> ", 0, 0);
+  }
+  return paths;
+}
+
+TEST(DebianPackage, AgentAndSimulatorApartLaidOutAsDebianWantsWithoutLintianErrors) {
   nimbra_test::TempDir tmp;
   const QString out = QString::fromStdString(tmp.path());
   const QString build = QString::fromLocal8Bit(qgetenv("NIMBRA_BUILD_DIR"));
@@ -27,23 +46,38 @@ TEST(DebianPackage, BuildsWithTheTreeTheDependenciesAndTheHandler) {
       run_program(NIMBRA_CPACK_COMMAND, {"-G", "DEB", "-B", out, "--config", build + "/CPackConfig.cmake"},
                   QProcessEnvironment::systemEnvironment(), 500000);
   ASSERT_EQ(pack.code, 0) << pack.out.toStdString() << pack.err.toStdString();
-  const QStringList debs = QDir(out).entryList({"nimbra-backup-agent_*_*.deb"}, QDir::Files);
-  ASSERT_EQ(debs.size(), 1) << pack.out.toStdString();
-  const QString deb = out + "/" + debs.first();
+  const QString deb = package_file(out, "nimbra-backup-agent");
+  const QString sim = package_file(out, "nimbra-service-sim");
+  ASSERT_FALSE(deb.isEmpty() || sim.isEmpty()) << pack.out.toStdString();
 
-  const Ran list = run_program("dpkg-deb", {"--contents", deb});
-  ASSERT_EQ(list.code, 0) << list.err.toStdString();
-  QStringList paths;
-  for (const QString& line : list.out.split('\n', Qt::SkipEmptyParts))
-    paths << line.section(' ', -1).mid(1);  // "./opt/..." -> "/opt/..."
-  for (const QString& f : expected_app_files(build))
+  // Errors fail; the warnings kept are listed in the README.
+  const Ran lint = run_program("lintian", {"--tag-display-limit", "0", deb, sim},
+                               QProcessEnvironment::systemEnvironment(), 300000);
+  const QStringList errors = lint.out.split('\n').filter(QRegularExpression("^E: "));
+  EXPECT_TRUE(lint.code == 0 && errors.isEmpty()) << lint.code << "\n"
+                                                  << lint.out.toStdString() << lint.err.toStdString();
+
+  const QStringList paths = paths_in(deb);
+  for (const QString& f : expected_app_files(build)) {
+    if (f.contains("service-sim")) continue;
     EXPECT_TRUE(paths.contains(kAppDir + f)) << f.toStdString();
+  }
   for (const QString& f : expected_desktop_files()) {
     const QString system = f.startsWith("etc/") ? "/" + f : "/usr/" + f;
     EXPECT_TRUE(paths.contains(system)) << system.toStdString();
   }
-  EXPECT_TRUE(paths.filter("/usr/local").isEmpty());
-  EXPECT_TRUE(paths.filter(QRegularExpression("^/opt/nimbra-backup/(share/applications|etc)")).isEmpty());
+  for (const char* f : {"/usr/bin/nimbra-backup-agent", "/usr/share/doc/nimbra-backup-agent/copyright",
+                        "/usr/share/doc/nimbra-backup-agent/changelog.Debian.gz"})
+    EXPECT_TRUE(paths.contains(f)) << f;
+  // Nothing in /opt or /usr/local, no translation sources, no simulator.
+  EXPECT_EQ(paths.filter(QRegularExpression("^/(opt|usr/local)/|\\.ts$|service-sim")), QStringList());
+
+  const QStringList simPaths = paths_in(sim);
+  for (const char* f : {"/usr/bin/nimbra-service-sim", "/usr/lib/nimbra-backup/bin/nimbra-service-sim",
+                        "/usr/share/doc/nimbra-service-sim/copyright"})
+    EXPECT_TRUE(simPaths.contains(f)) << f;
+  EXPECT_FALSE(simPaths.filter(QRegularExpression("/scenarios/.+\\.json$")).isEmpty());
+  EXPECT_EQ(simPaths.filter(QRegularExpression("agent|notifier|^/etc/")), QStringList());
 
   const Ran depends = run_program("dpkg-deb", {"--field", deb, "Depends"});
   for (const char* lib : {"libqt5core5a", "libqt5dbus5", "libjsoncpp", "hicolor-icon-theme"})
@@ -63,7 +97,8 @@ TEST(DebianPackage, BuildsWithTheTreeTheDependenciesAndTheHandler) {
   EXPECT_EQ(v.code, 0) << v.out.toStdString();
   QFile f(entry);
   ASSERT_TRUE(f.open(QIODevice::ReadOnly));
-  EXPECT_THAT(f.readAll().toStdString(), HasSubstr("\nExec=/opt/nimbra-backup/bin/nimbra-backup-agent %u\n"));
+  EXPECT_THAT(f.readAll().toStdString(),
+              HasSubstr("\nExec=/usr/lib/nimbra-backup/bin/nimbra-backup-agent %u\n"));
 }
 
 }  // namespace

@@ -149,7 +149,7 @@ SystemTray::SystemTray(QObject* parent) : QSystemTrayIcon(parent) {
   holdOpen_ = [this] { return menu_->userMenu() && menu_->userMenu()->isVisible(); };
   theme_ = new PanelThemeWatcher(this);
   applyIcon();
-  setToolTip(string_display::text(Str::app_name));
+  applyView();
 
   GlobalConnecter& bus = GlobalConnecter::instance();
   connect(&bus, &GlobalConnecter::sigPositionClicked, this, &SystemTray::slotPositionClicked);
@@ -162,6 +162,18 @@ SystemTray::SystemTray(QObject* parent) : QSystemTrayIcon(parent) {
           &GlobalConnecter::sigTrayClickedWithoutConnection);
   // A change of the desktop's colour scheme picks the picture again.
   connect(theme_, &PanelThemeWatcher::changed, this, &SystemTray::applyIcon);
+  connect(this, &SystemTray::sigQueryService, &bus, &GlobalConnecter::sigQueryService);
+  // Whether the service answers: any answer says yes, a failed request no.
+  connect(&bus, &GlobalConnecter::sigQueryServiceDone, this, [this]() {
+    if (facts_.reachable) return;
+    facts_.reachable = true;
+    applyView();
+  });
+  connect(&bus, &GlobalConnecter::sigQueryServiceFailed, this, [this]() {
+    if (!facts_.reachable) return;
+    facts_.reachable = false;
+    applyView();
+  });
 
   QTimer::singleShot(1000, this, [this]() { emit sigGetConnectionInfo(); });
 }
@@ -192,23 +204,69 @@ void SystemTray::slotStatusChanged(TrayStatus s) {
 
 void SystemTray::setConnectionMode(int mode) {
   mode_ = mode;
+  facts_.mode = mode;
   if (mode != 1 && rightMenu_) {
     setContextMenu(nullptr);
     rightMenu_->deleteLater();
     rightMenu_ = nullptr;
+    backupNow_ = backupReason_ = nullptr;
     menu_->clearLogEntries();
     status_ = TrayIdle;
+    facts_.status = StatusUnknown;
+    facts_.content = Json::Value();
     applyIcon();
   } else if (mode == 1 && !rightMenu_) {
-    rightMenu_ = new QMenu();
-    rightMenu_->setObjectName(QStringLiteral("RightMenu"));
-    rightMenu_->setFixedWidth(DPIinfo::scaled(100));
-    rightMenu_->setStyleSheet(getStyleSheet(QStringLiteral("tray_right_menu")));
-    QAction* quit = rightMenu_->addAction(string_display::text(Str::act_tray_quit));
-    quit->setObjectName(QStringLiteral("ExitAction"));
-    connect(quit, &QAction::triggered, &GlobalConnecter::instance(), &GlobalConnecter::sigExitApplication);
-    setContextMenu(rightMenu_);
+    buildRightMenu();
   }
+  applyView();
+}
+
+void SystemTray::buildRightMenu() {
+  using string_display::text;
+  rightMenu_ = new QMenu();
+  rightMenu_->setObjectName(QStringLiteral("RightMenu"));
+  rightMenu_->setAccessibleName(text(Str::app_name));
+  rightMenu_->setMinimumWidth(DPIinfo::scaled(100));
+  rightMenu_->setStyleSheet(getStyleSheet(QStringLiteral("tray_right_menu")));
+  auto add = [this](Str label, const char* name) {
+    QAction* a = rightMenu_->addAction(string_display::text(label));
+    a->setObjectName(QLatin1String(name));
+    return a;
+  };
+  connect(add(Str::notification_btn, "OpenAction"), &QAction::triggered, this, [this]() {
+    const QRect icon = geometry();
+    showMenuAt(icon.isValid() ? icon.center() : QPoint());
+  });
+  backupNow_ = add(Str::tray_menu_backup_now, "BackupNowAction");
+  connect(backupNow_, &QAction::triggered, this, &SystemTray::backupNow);
+  backupReason_ = add(Str::tray_menu_backup_running, "BackupNowReason");
+  backupReason_->setEnabled(false);
+  rightMenu_->addSeparator();
+  connect(add(Str::title_activities, "ActivityAction"), &QAction::triggered, this,
+          &SystemTray::showLogWindow);
+  connect(add(Str::act_settings, "SettingsAction"), &QAction::triggered, menu_,
+          &TrayMenu::slotShowSettingsWindow);
+  rightMenu_->addSeparator();
+  QAction* quit = add(Str::act_tray_quit, "ExitAction");
+  connect(quit, &QAction::triggered, &GlobalConnecter::instance(), &GlobalConnecter::sigExitApplication);
+  setContextMenu(rightMenu_);
+}
+
+void SystemTray::backupNow() {
+  if (!view_.backup_now) return;
+  LOG_INFO(vlog::kDefaultComponent, "tray menu: back up now");
+  Json::Value request(Json::objectValue);
+  request["action"] = "backup_now";
+  emit sigQueryService(this, request);
+}
+
+void SystemTray::applyView() {
+  view_ = tray_icon_model::view_for(facts_);
+  if (toolTip() != view_.tool_tip) setToolTip(view_.tool_tip);
+  if (!backupNow_) return;
+  backupNow_->setEnabled(view_.backup_now);
+  backupReason_->setVisible(view_.backup_reason.has_value());
+  if (view_.backup_reason) backupReason_->setText(string_display::text(*view_.backup_reason));
 }
 
 void SystemTray::showMenuAt(QPoint p) {
@@ -283,6 +341,10 @@ void SystemTray::showNotifications(const Json::Value& notifications) {
 
 void SystemTray::updateServiceStatus(ServiceStatus status, const Json::Value& content) {
   menu_->updateServiceStatus(status, content);
+  facts_.status = status;
+  facts_.content = content;
+  facts_.reachable = true;
+  applyView();
 }
 
 void SystemTray::appendLogEntries(const QList<LogEntry>& entries) {

@@ -5,7 +5,9 @@
 // colour deciding between the light and the dark picture), opens the pop-up
 // on a click while connected or asks for the wizard while not, closes the
 // pop-up on a press outside it, shows balloons and carries the right-click
-// menu with "Exit", which exists exactly while connected (mode 1).
+// menu, which exists exactly while connected (mode 1): open the pop-up,
+// "Back up now" (with why it is disabled), the activity dialog, settings and
+// "Exit". The tool tip names the state (tray-icon-model.h).
 //
 // Without a notification area (a desktop without a tray), the pop-up is
 // shown as an ordinary small window when the agent is asked to show itself.
@@ -23,6 +25,7 @@
 #include "core/log-entry.h"
 #include "core/service-status.h"
 #include "core/tray-status.h"
+#include "tray/tray-icon-model.h"
 
 class PanelThemeWatcher;
 class TrayMenu;
@@ -107,6 +110,8 @@ class SystemTray : public QSystemTrayIcon {
 
   TrayMenuContainer* container() const { return container_; }
   QMenu* rightMenu() const { return rightMenu_; }
+  // What the tool tip and the right-click menu show now.
+  const tray_icon_model::View& iconView() const { return view_; }
   TrayStatus trayStatus() const { return status_; }
   // The picture name now shown, "_dark" included.
   QString currentIconName() const { return iconName_; }
@@ -121,6 +126,8 @@ class SystemTray : public QSystemTrayIcon {
 
  signals:
   void sigGetConnectionInfo();
+  // "Back up now" from the right-click menu.
+  void sigQueryService(const QObject* sender, const Json::Value& request);
   void sigTrayClickedWithoutConnection();
 
  public slots:
@@ -132,6 +139,10 @@ class SystemTray : public QSystemTrayIcon {
 
  private:
   void applyIcon();
+  // The tool tip and the menu's enabled states from the facts.
+  void applyView();
+  void buildRightMenu();
+  void backupNow();
   void click();
   // What the application turning active means, once the window system has
   // named the window that took the focus.
@@ -143,6 +154,10 @@ class SystemTray : public QSystemTrayIcon {
   int mode_ = 0;
   TrayStatus status_ = TrayIdle;
   QMenu* rightMenu_ = nullptr;
+  QAction* backupNow_ = nullptr;
+  QAction* backupReason_ = nullptr;
+  tray_icon_model::Facts facts_;
+  tray_icon_model::View view_;
   QString iconName_;
   PanelThemeWatcher* theme_ = nullptr;
   std::function<bool()> holdOpen_;

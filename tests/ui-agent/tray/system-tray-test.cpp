@@ -13,6 +13,7 @@
 
 #include "agent-test.h"
 #include "core/global-connecter.h"
+#include "core/json-meta-type.h"
 #include "support/qt-print.h"
 #include "tray/quota-info-widget.h"
 #include "tray/system-tray.h"
@@ -124,18 +125,40 @@ TEST_F(TrayIcon, StatusPicksThePicture) {
   EXPECT_EQ(tray_->currentIconName(), QStringLiteral("logo_tray_icn_connect"));
 }
 
-TEST_F(TrayIcon, ExitMenuExistsExactlyInModeOne) {
+TEST_F(TrayIcon, RightMenuExistsExactlyInModeOne) {
   QSignalSpy exit(&GlobalConnecter::instance(), &GlobalConnecter::sigExitApplication);
+  QSignalSpy sent(&GlobalConnecter::instance(), &GlobalConnecter::sigQueryService);
   tray_->setConnectionMode(1);
   QMenu* menu = tray_->rightMenu();
   ASSERT_NE(menu, nullptr);
   EXPECT_EQ(tray_->contextMenu(), menu);
   EXPECT_EQ(menu->objectName(), QStringLiteral("RightMenu"));
-  ASSERT_EQ(menu->actions().size(), 1);
-  EXPECT_EQ(menu->actions().first()->text(), QStringLiteral("Exit"));
+  QStringList names;
+  for (QAction* a : menu->actions()) names << (a->isSeparator() ? QStringLiteral("-") : a->objectName());
+  EXPECT_EQ(names, QStringList({"OpenAction", "BackupNowAction", "BackupNowReason", "-", "ActivityAction",
+                                "SettingsAction", "-", "ExitAction"}));
   tray_->setConnectionMode(1);
   EXPECT_EQ(tray_->rightMenu(), menu);  // the same menu, not a second one
-  menu->actions().first()->trigger();
+  auto* backup = menu->findChild<QAction*>("BackupNowAction");
+  auto* reason = menu->findChild<QAction*>("BackupNowReason");
+  ASSERT_TRUE(backup && reason);
+
+  // The model's verdict reaches the menu and the tool tip; a disabled entry sends nothing.
+  tray_->updateServiceStatus(StatusBackupRunning, agent_test::parse(R"({"connected":true})"));
+  EXPECT_FALSE(backup->isEnabled());
+  EXPECT_TRUE(reason->isVisible());
+  EXPECT_EQ(reason->text(), QStringLiteral("A backup is running"));
+  EXPECT_EQ(tray_->toolTip(), QStringLiteral("Nimbra Backup\nBacking up..."));
+  backup->trigger();
+  emit GlobalConnecter::instance().sigQueryServiceFailed();
+  EXPECT_EQ(reason->text(), QStringLiteral("Service not reachable"));
+  tray_->updateServiceStatus(StatusIdle, agent_test::parse(R"({"connected":true})"));
+  EXPECT_TRUE(backup->isEnabled());
+  EXPECT_FALSE(reason->isVisible());
+  backup->trigger();
+  ASSERT_EQ(sent.count(), 1);
+  EXPECT_EQ(sent.first().at(1).value<Json::Value>()["action"].asString(), "backup_now");
+  menu->findChild<QAction*>("ExitAction")->trigger();
   EXPECT_EQ(exit.count(), 1);
 
   tray_->slotStatusChanged(TrayError);

@@ -1,5 +1,6 @@
 // The tray's decision tables: relative ages, the status and progress pages'
-// views, page choice, kept entries, menu entries by account, quota usage.
+// views, page choice, kept entries, menu entries by account, quota usage,
+// the tray icon's tool tip and "Back up now".
 
 #include <gtest/gtest.h>
 
@@ -10,6 +11,7 @@
 #include "tray/quota-model.h"
 #include "tray/relative-age.h"
 #include "tray/status-page-model.h"
+#include "tray/tray-icon-model.h"
 #include "tray/tray-menu-model.h"
 
 using tray_test::entry;
@@ -268,6 +270,61 @@ INSTANTIATE_TEST_SUITE_P(Rows, PageChoice,
                                            PageRow{"unknown_zero_connected", 0, true, true},
                                            PageRow{"not_linked_connected", 0x1005, true, true}),
                          [](const ::testing::TestParamInfo<PageRow>& i) { return std::string(i.param.name); });
+
+// The tool tip's second line ("{t}" the local time of 1700000000) and
+// "Back up now" with the reason it is disabled.
+struct IconRow {
+  const char* name;
+  int mode;
+  bool reachable;
+  int status;
+  const char* content;
+  const char* line;  // "" for the product name alone
+  bool backup_now;
+  Str reason;  // app_name: none
+};
+void PrintTo(const IconRow& r, std::ostream* os) {
+  *os << r.name;
+}
+class IconView : public ::testing::TestWithParam<IconRow> {};
+
+TEST_P(IconView, ToolTipAndBackUpNow) {
+  const IconRow& r = GetParam();
+  const tray_icon_model::View v = tray_icon_model::view_for(
+      {r.mode, r.reachable, static_cast<ServiceStatus>(r.status), agent_test::parse(r.content)});
+  QString line = QString::fromUtf8(r.line);
+  line.replace("{t}", tray_status_page::last_backup_text(1700000000));
+  EXPECT_EQ(v.tool_tip, line.isEmpty() ? QString("Nimbra Backup") : "Nimbra Backup\n" + line);
+  EXPECT_EQ(v.backup_now, r.backup_now);
+  EXPECT_EQ(v.backup_reason.value_or(Str::app_name), r.reason);
+}
+
+constexpr const char* kDone =
+    R"({"connected":true,"last_backup_result":{"last_backup_status":2,"last_backup_time":1700000000}})";
+constexpr const char* kRun = R"({"connected":true,"transfer":{"transfer":1,"total":8}})";
+INSTANTIATE_TEST_SUITE_P(
+    Rows, IconView,
+    ::testing::Values(
+        IconRow{"starting", 0, true, 0, "{}", "", false, Str::tray_tip_not_set_up},
+        IconRow{"not_set_up", 2, true, 0x1000, "{}", "Not set up", false, Str::tray_tip_not_set_up},
+        IconRow{"idle_success", 1, true, 0x2000, kDone, "Last backup: Successful, {t}", true, Str::app_name},
+        IconRow{
+            "idle_failed", 1, true, 0x2000,
+            R"({"connected":true,"last_backup_result":{"last_backup_status":4,"last_backup_time":1700000000}})",
+            "Last backup: Failed, {t}", true, Str::app_name},
+        IconRow{"never_backed_up", 1, true, 0x2000, R"({"connected":true})", "Not backed up yet", true,
+                Str::app_name},
+        IconRow{"running_percent", 1, true, 0x3000, kRun, "Backing up... 12.5%", false,
+                Str::tray_menu_backup_running},
+        IconRow{"preparing_no_transfer", 1, true, 0x3001, R"({"connected":true})", "Preparing for backup...",
+                false, Str::tray_menu_backup_running},
+        IconRow{"service_error", 1, true, 0xF000, R"({"connected":true,"error":{"code":3}})", "Error", true,
+                Str::app_name},
+        IconRow{"unreachable_while_running", 1, false, 0x3000, kRun, "Service not reachable", false,
+                Str::tray_tip_unreachable},
+        IconRow{"unreachable_idle", 1, false, 0x2000, kDone, "Service not reachable", false,
+                Str::tray_tip_unreachable}),
+    [](const ::testing::TestParamInfo<IconRow>& i) { return std::string(i.param.name); });
 
 QList<LogEntry> entries(quint64 first, quint64 last) {
   QList<LogEntry> list;

@@ -1,0 +1,34 @@
+#pragma once
+// What the tray icon tells without a click: the tool tip's state line and the
+// right-click menu's "Back up now" (enabled or not, and why). Pure: the tray
+// passes its mode, whether the service answers and the latest status.
+
+#include <json/value.h>
+
+#include <QString>
+
+#include <optional>
+
+#include "core/service-status.h"
+#include "string-catalogue.h"
+
+namespace tray_icon_model {
+
+struct Facts {
+  int mode = 0;           // the tray's connection mode: 1 connected, 2 not set up, 0 neither yet
+  bool reachable = true;  // the latest request reached the service
+  ServiceStatus status = StatusUnknown;
+  Json::Value content;  // the latest status content
+};
+
+struct View {
+  QString tool_tip;                  // the product name, then the state on a second line
+  bool backup_now = false;           // "Back up now" enabled
+  std::optional<Str> backup_reason;  // why it is not (shown under it), nullopt when enabled
+};
+
+// Not set up; the service unreachable; backing up with the percentage;
+// the error the pop-up shows; idle with the last result and its time.
+View view_for(const Facts& facts);
+
+}  // namespace tray_icon_model
