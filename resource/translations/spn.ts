@@ -337,7 +337,7 @@
     </message>
     <message>
         <source>Error code {error_code}: Failed to take a snapshot for {volume_name}. Make sure the Volume Shadow Copy service is running and the volume has enough free space. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/snapshot-failed&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>Código de error {error_code}: no se pudo crear la instantánea de {volume_name}. Asegúrese de que el servicio Instantáneas de volumen está en ejecución y de que el volumen tiene espacio libre. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/snapshot-failed&quot;&gt;Más información&lt;/a&gt;</translation>
+        <translation>Código de error {error_code}: falló la instantánea de {volume_name}. Asegúrese de que el servicio Instantáneas de volumen está en ejecución y de que el volumen tiene espacio libre. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/snapshot-failed&quot;&gt;Más información&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to read the snapshot. Check and fix the disk errors, then back up again. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/read-snapshot-error&quot;&gt;Learn more&lt;/a&gt;</source>

@@ -81,7 +81,7 @@
     </message>
     <message>
         <source>The agent failed to be updated.</source>
-        <translation>อัปเดตเอเจนต์ไม่สำเร็จ</translation>
+        <translation>อัปเดตโปรแกรมไม่สำเร็จ</translation>
     </message>
     <message>
         <source>Successfully executed the pre-freeze script.</source>
@@ -109,7 +109,7 @@
     </message>
     <message>
         <source>No available volume to take snapshot for.</source>
-        <translation>ไม่มีโวลุ่มที่สามารถสร้างสแนปช็อตได้</translation>
+        <translation>ไม่มีไดรฟ์ข้อมูลที่สามารถสร้างสแนปชอตได้</translation>
     </message>
     <message>
         <source>Backup task failed because the device time was incorrect. Sync the device time and try again.</source>
@@ -117,11 +117,11 @@
     </message>
     <message>
         <source>Backup task was canceled because Nimbra Backup agent restarted. Possible reasons: Device reboot or unexpected shutdown.</source>
-        <translation>ยกเลิกงานสำรองข้อมูลแล้ว เนื่องจากเอเจนต์ Nimbra Backup รีสตาร์ท สาเหตุที่เป็นไปได้: อุปกรณ์รีบูตหรือปิดเครื่องโดยไม่คาดคิด</translation>
+        <translation>ยกเลิกงานสำรองข้อมูลแล้ว เนื่องจากโปรแกรม Nimbra Backup เริ่มทำงานใหม่ สาเหตุที่เป็นไปได้: อุปกรณ์เริ่มระบบใหม่หรือปิดเครื่องโดยไม่คาดคิด</translation>
     </message>
     <message>
         <source>Backup cannot continue until the System Management Controller (SMC) of this Mac is reset. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/reset-smc&quot;&gt;Learn how&lt;/a&gt;</source>
-        <translation>การสำรองข้อมูลจะดำเนินการต่อไม่ได้จนกว่าจะรีเซ็ต System Management Controller (SMC) ของ Mac เครื่องนี้ &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/reset-smc&quot;&gt;ดูวิธีการ&lt;/a&gt;</translation>
+        <translation>การสำรองข้อมูลจะดำเนินการต่อไม่ได้จนกว่าจะตั้งค่าใหม่ให้กับ System Management Controller (SMC) ของ Mac เครื่องนี้ &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/reset-smc&quot;&gt;ดูวิธีการ&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Insufficient storage on local disk.</source>
@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>The backup agent requires an update. Download the latest version of the agent from the Nimbra Backup console.</source>
-        <translation>ต้องอัปเดตเอเจนต์สำรองข้อมูล โปรดดาวน์โหลดเอเจนต์เวอร์ชันล่าสุดจากคอนโซล Nimbra Backup</translation>
+        <translation>ต้องอัปเดตโปรแกรมสำรองข้อมูล โปรดดาวน์โหลดโปรแกรมเวอร์ชันล่าสุดจากคอนโซล Nimbra Backup</translation>
     </message>
     <message>
         <source>Unauthorized account. Contact your Nimbra Backup administrator and sign in again.</source>
@@ -253,51 +253,51 @@
     </message>
     <message>
         <source>Starting to take a snapshot for {volume_name}.</source>
-        <translation>เริ่มสร้างสแนปช็อตของ {volume_name}</translation>
+        <translation>เริ่มสร้างสแนปชอตของ {volume_name}</translation>
     </message>
     <message>
         <source>Snapshot for {volume_name} successfully taken.</source>
-        <translation>สร้างสแนปช็อตของ {volume_name} สำเร็จ</translation>
+        <translation>สร้างสแนปชอตของ {volume_name} สำเร็จ</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to take a snapshot for {volume_name}.</source>
-        <translation>รหัสข้อผิดพลาด {error_code}: สร้างสแนปช็อตของ {volume_name} ไม่สำเร็จ</translation>
+        <translation>รหัสข้อผิดพลาด {error_code}: สร้างสแนปชอตของ {volume_name} ไม่สำเร็จ</translation>
     </message>
     <message>
         <source>Starting to take a snapshot set for {volume_name}.</source>
-        <translation>เริ่มสร้างชุดสแนปช็อตของ {volume_name}</translation>
+        <translation>เริ่มสร้างชุดสแนปชอตของ {volume_name}</translation>
     </message>
     <message>
         <source>Snapshot set for {volume_name} successfully taken.</source>
-        <translation>สร้างชุดสแนปช็อตของ {volume_name} สำเร็จ</translation>
+        <translation>สร้างชุดสแนปชอตของ {volume_name} สำเร็จ</translation>
     </message>
     <message>
         <source>Failed to take snapshot set for {volume_name}. Retrying.</source>
-        <translation>สร้างชุดสแนปช็อตของ {volume_name} ไม่สำเร็จ กำลังลองใหม่</translation>
+        <translation>สร้างชุดสแนปชอตของ {volume_name} ไม่สำเร็จ กำลังลองใหม่</translation>
     </message>
     <message>
         <source>Reading and uploading the volume content of {volume_name}.</source>
-        <translation>กำลังอ่านและอัปโหลดเนื้อหาของโวลุ่ม {volume_name}</translation>
+        <translation>กำลังอ่านและอัปโหลดเนื้อหาของไดรฟ์ข้อมูล {volume_name}</translation>
     </message>
     <message>
         <source>Successfully read the content of volume {volume_name}.</source>
-        <translation>อ่านเนื้อหาของโวลุ่ม {volume_name} สำเร็จ</translation>
+        <translation>อ่านเนื้อหาของไดรฟ์ข้อมูล {volume_name} สำเร็จ</translation>
     </message>
     <message>
         <source>Failed to read and upload the volume content of {volume_name}.</source>
-        <translation>อ่านและอัปโหลดเนื้อหาของโวลุ่ม {volume_name} ไม่สำเร็จ</translation>
+        <translation>อ่านและอัปโหลดเนื้อหาของไดรฟ์ข้อมูล {volume_name} ไม่สำเร็จ</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to read the snapshot. Check and fix the disk errors.</source>
-        <translation>รหัสข้อผิดพลาด {error_code}: อ่านสแนปช็อตไม่สำเร็จ โปรดตรวจสอบและแก้ไขข้อผิดพลาดของดิสก์</translation>
+        <translation>รหัสข้อผิดพลาด {error_code}: อ่านสแนปชอตไม่สำเร็จ โปรดตรวจสอบและแก้ไขข้อผิดพลาดของดิสก์</translation>
     </message>
     <message>
         <source>Unable to find the snapshot of {volume_name}. The snapshot might be deleted by the operating system, third-party applications, or other reasons. Please try to back up again.</source>
-        <translation>ไม่พบสแนปช็อตของ {volume_name} สแนปช็อตอาจถูกลบโดยระบบปฏิบัติการ แอปของบุคคลที่สาม หรือสาเหตุอื่น โปรดลองสำรองข้อมูลอีกครั้ง</translation>
+        <translation>ไม่พบสแนปชอตของ {volume_name} สแนปชอตอาจถูกลบโดยระบบปฏิบัติการ แอปของบุคคลที่สาม หรือสาเหตุอื่น โปรดลองสำรองข้อมูลอีกครั้ง</translation>
     </message>
     <message>
         <source>{volume_name} will not be backed up. (Reason: unsupported dynamic volume type)</source>
-        <translation>{volume_name} จะไม่ถูกสำรองข้อมูล (สาเหตุ: ไม่รองรับประเภทไดนามิกโวลุ่ม)</translation>
+        <translation>{volume_name} จะไม่ถูกสำรองข้อมูล (สาเหตุ: ไม่รองรับประเภทไดรฟ์ข้อมูลแบบไดนามิก)</translation>
     </message>
     <message>
         <source>{volume_name} will not be backed up. (Reason: unsupported file system type)</source>
@@ -305,7 +305,7 @@
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because access was denied. Check the snapshot permissions.</source>
-        <translation>รหัสข้อผิดพลาด {error_code}: สำรองข้อมูล {volume_name} ไม่สำเร็จ เนื่องจากถูกปฏิเสธการเข้าถึง โปรดตรวจสอบสิทธิ์ของสแนปช็อต</translation>
+        <translation>รหัสข้อผิดพลาด {error_code}: สำรองข้อมูล {volume_name} ไม่สำเร็จ เนื่องจากถูกปฏิเสธการเข้าถึง โปรดตรวจสอบสิทธิ์ของสแนปชอต</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because the sector can&apos;t be found. Contact Corvana Technical Support for assistance.</source>
@@ -337,19 +337,19 @@
     </message>
     <message>
         <source>Error code {error_code}: Failed to take a snapshot for {volume_name}. Make sure the Volume Shadow Copy service is running and the volume has enough free space. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/snapshot-failed&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>รหัสข้อผิดพลาด {error_code}: สร้างสแนปช็อตของ {volume_name} ไม่สำเร็จ โปรดตรวจสอบว่าบริการ Volume Shadow Copy ทำงานอยู่และโวลุ่มมีพื้นที่ว่างเพียงพอ &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/snapshot-failed&quot;&gt;ดูข้อมูลเพิ่มเติม&lt;/a&gt;</translation>
+        <translation>รหัสข้อผิดพลาด {error_code}: สร้างสแนปชอตของ {volume_name} ไม่สำเร็จ โปรดตรวจสอบว่าบริการ Volume Shadow Copy ทำงานอยู่และไดรฟ์ข้อมูลมีพื้นที่ว่างเพียงพอ &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/snapshot-failed&quot;&gt;ดูข้อมูลเพิ่มเติม&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to read the snapshot. Check and fix the disk errors, then back up again. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/read-snapshot-error&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>รหัสข้อผิดพลาด {error_code}: อ่านสแนปช็อตไม่สำเร็จ โปรดแก้ไขข้อผิดพลาดของดิสก์ แล้วสำรองข้อมูลอีกครั้ง &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/read-snapshot-error&quot;&gt;ดูข้อมูลเพิ่มเติม&lt;/a&gt;</translation>
+        <translation>รหัสข้อผิดพลาด {error_code}: อ่านสแนปชอตไม่สำเร็จ โปรดแก้ไขข้อผิดพลาดของดิสก์ แล้วสำรองข้อมูลอีกครั้ง &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/read-snapshot-error&quot;&gt;ดูข้อมูลเพิ่มเติม&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to open the snapshot of {volume_name}. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/snapshot-open-error&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>รหัสข้อผิดพลาด {error_code}: เปิดสแนปช็อตของ {volume_name} ไม่สำเร็จ &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/snapshot-open-error&quot;&gt;ดูข้อมูลเพิ่มเติม&lt;/a&gt;</translation>
+        <translation>รหัสข้อผิดพลาด {error_code}: เปิดสแนปชอตของ {volume_name} ไม่สำเร็จ &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/snapshot-open-error&quot;&gt;ดูข้อมูลเพิ่มเติม&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because access was denied. Check the snapshot permissions. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/access-denied&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>รหัสข้อผิดพลาด {error_code}: สำรองข้อมูล {volume_name} ไม่สำเร็จ เนื่องจากถูกปฏิเสธการเข้าถึง โปรดตรวจสอบสิทธิ์ของสแนปช็อต &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/access-denied&quot;&gt;ดูข้อมูลเพิ่มเติม&lt;/a&gt;</translation>
+        <translation>รหัสข้อผิดพลาด {error_code}: สำรองข้อมูล {volume_name} ไม่สำเร็จ เนื่องจากถูกปฏิเสธการเข้าถึง โปรดตรวจสอบสิทธิ์ของสแนปชอต &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/access-denied&quot;&gt;ดูข้อมูลเพิ่มเติม&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Error code {error_code}: Failed to back up {volume_name} because the sector can&apos;t be found. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/sector-not-found&quot;&gt;Learn more&lt;/a&gt;</source>
@@ -365,15 +365,15 @@
     </message>
     <message>
         <source>The specified volume in the %1 policy wasn&apos;t backed up. It doesn&apos;t exist on the device.</source>
-        <translation>โวลุ่มที่ระบุในนโยบาย %1 ไม่ได้รับการสำรองข้อมูล เนื่องจากไม่มีอยู่บนอุปกรณ์</translation>
+        <translation>ไดรฟ์ข้อมูลที่ระบุในนโยบาย %1 ไม่ได้รับการสำรองข้อมูล เนื่องจากไม่มีอยู่บนอุปกรณ์</translation>
     </message>
     <message>
         <source>The file system check of {volume_name} found errors. Repair the volume and back up again. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/volume-check-failed&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>การตรวจสอบระบบไฟล์ของ {volume_name} พบข้อผิดพลาด โปรดซ่อมแซมโวลุ่มแล้วสำรองข้อมูลอีกครั้ง &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/volume-check-failed&quot;&gt;ดูข้อมูลเพิ่มเติม&lt;/a&gt;</translation>
+        <translation>การตรวจสอบระบบไฟล์ของ {volume_name} พบข้อผิดพลาด โปรดซ่อมแซมไดรฟ์ข้อมูลแล้วสำรองข้อมูลอีกครั้ง &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/volume-check-failed&quot;&gt;ดูข้อมูลเพิ่มเติม&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Inode {inode_number} on {volume_name} is corrupted. Repair the volume and back up again. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/inode-corrupted&quot;&gt;Learn more&lt;/a&gt;</source>
-        <translation>Inode {inode_number} บน {volume_name} เสียหาย โปรดซ่อมแซมโวลุ่มแล้วสำรองข้อมูลอีกครั้ง &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/inode-corrupted&quot;&gt;ดูข้อมูลเพิ่มเติม&lt;/a&gt;</translation>
+        <translation>Inode {inode_number} บน {volume_name} เสียหาย โปรดซ่อมแซมไดรฟ์ข้อมูลแล้วสำรองข้อมูลอีกครั้ง &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/inode-corrupted&quot;&gt;ดูข้อมูลเพิ่มเติม&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Failed to create the restoration path {path} because folder {parent_path} does not exist.</source>
@@ -429,7 +429,7 @@
     </message>
     <message>
         <source>{volume_name} will not be backed up. (Reason: Unable to obtain volume information.)</source>
-        <translation>{volume_name} จะไม่ถูกสำรองข้อมูล (สาเหตุ: ไม่สามารถดึงข้อมูลโวลุ่มได้)</translation>
+        <translation>{volume_name} จะไม่ถูกสำรองข้อมูล (สาเหตุ: ไม่สามารถดึงข้อมูลไดรฟ์ข้อมูลได้)</translation>
     </message>
     <message>
         <source>Unable to find the shadow copy of {volume_name}. The operating system might have deleted it. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/windows/shadow-copy-not-found&quot;&gt;Learn more&lt;/a&gt;</source>
@@ -437,7 +437,7 @@
     </message>
     <message>
         <source>Starts creating Nimbra Backup data volume.</source>
-        <translation>เริ่มสร้างโวลุ่มข้อมูลของ Nimbra Backup</translation>
+        <translation>เริ่มสร้างไดรฟ์ข้อมูลของ Nimbra Backup</translation>
     </message>
     <message>
         <source>{volume_name} will not be backed up. (Reason: Unsupported file system)</source>
@@ -445,7 +445,7 @@
     </message>
     <message>
         <source>Nimbra Backup needs Full Disk Access to take snapshots. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/full-disk-access&quot;&gt;Learn how to allow it&lt;/a&gt;</source>
-        <translation>Nimbra Backup ต้องได้รับสิทธิ์เข้าถึงดิสก์เต็มรูปแบบเพื่อสร้างสแนปช็อต &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/full-disk-access&quot;&gt;ดูวิธีอนุญาต&lt;/a&gt;</translation>
+        <translation>Nimbra Backup ต้องได้รับสิทธิ์เข้าถึงดิสก์เต็มรูปแบบเพื่อสร้างสแนปชอต &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/full-disk-access&quot;&gt;ดูวิธีอนุญาต&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Failed to run asr (Apple Software Restore) on {volume_name}. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/asr-failed&quot;&gt;Learn more&lt;/a&gt;</source>
@@ -453,7 +453,7 @@
     </message>
     <message>
         <source>Failed to run asr (Apple Software Restore) on {volume_name}. Restart your Mac and run First Aid to repair the disk.</source>
-        <translation>เรียกใช้ asr (Apple Software Restore) บน {volume_name} ไม่สำเร็จ โปรดรีสตาร์ท Mac แล้วใช้ First Aid ซ่อมแซมดิสก์</translation>
+        <translation>เรียกใช้ asr (Apple Software Restore) บน {volume_name} ไม่สำเร็จ โปรดเริ่มระบบ Mac ใหม่ แล้วใช้ First Aid ซ่อมแซมดิสก์</translation>
     </message>
     <message>
         <source>Allow the system extension of Nimbra Backup in Privacy &amp; Security to continue backing up. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/system-extension&quot;&gt;Learn how&lt;/a&gt;</source>
@@ -461,11 +461,11 @@
     </message>
     <message>
         <source>Cannot find {volume_name} data on Nimbra Backup data volume. Performing full backup instead.</source>
-        <translation>ไม่พบข้อมูลของ {volume_name} บนโวลุ่มข้อมูลของ Nimbra Backup จะสำรองข้อมูลทั้งหมดแทน</translation>
+        <translation>ไม่พบข้อมูลของ {volume_name} บนไดรฟ์ข้อมูลของ Nimbra Backup จะสำรองข้อมูลทั้งหมดแทน</translation>
     </message>
     <message>
         <source>Cannot find snapshot of {volume_name}. Performing full backup instead.</source>
-        <translation>ไม่พบสแนปช็อตของ {volume_name} จะสำรองข้อมูลทั้งหมดแทน</translation>
+        <translation>ไม่พบสแนปชอตของ {volume_name} จะสำรองข้อมูลทั้งหมดแทน</translation>
     </message>
     <message>
         <source>Failed to run asr (Apple Software Restore) on {volume_name}. Performing full backup instead.</source>
@@ -473,11 +473,11 @@
     </message>
     <message>
         <source>Starts taking snapshots.</source>
-        <translation>เริ่มสร้างสแนปช็อต</translation>
+        <translation>เริ่มสร้างสแนปชอต</translation>
     </message>
     <message>
         <source>Finished taking snapshots.</source>
-        <translation>สร้างสแนปช็อตเสร็จแล้ว</translation>
+        <translation>สร้างสแนปชอตเสร็จแล้ว</translation>
     </message>
     <message>
         <source>Backup failed because the backup account on this Mac could not be authenticated. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/backup-account&quot;&gt;Learn more&lt;/a&gt;</source>
@@ -485,7 +485,7 @@
     </message>
     <message>
         <source>Failed to mount {volume_name}. (Reason: Encrypted volumes cannot be mounted.)</source>
-        <translation>เมานต์ {volume_name} ไม่สำเร็จ (สาเหตุ: ไม่สามารถเมานต์โวลุ่มที่เข้ารหัสได้)</translation>
+        <translation>เมานต์ {volume_name} ไม่สำเร็จ (สาเหตุ: ไม่สามารถเมานต์ไดรฟ์ข้อมูลที่เข้ารหัสได้)</translation>
     </message>
     <message>
         <source>Backup failed because Nimbra Backup has no Full Disk Access. &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/mac/full-disk-access&quot;&gt;Learn how to allow it&lt;/a&gt;</source>
@@ -493,7 +493,7 @@
     </message>
     <message>
         <source>Cannot mount the default backup volume. Restart your Mac.</source>
-        <translation>ไม่สามารถเมานต์โวลุ่มสำรองข้อมูลเริ่มต้นได้ โปรดรีสตาร์ท Mac</translation>
+        <translation>ไม่สามารถเมานต์ไดรฟ์ข้อมูลสำรองข้อมูลเริ่มต้นได้ โปรดเริ่มระบบ Mac ใหม่</translation>
     </message>
     <message>
         <source>Keep all versions within the last %1 months</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Taking a snapshot...</source>
-        <translation>กำลังสร้างสแนปช็อต...</translation>
+        <translation>กำลังสร้างสแนปชอต...</translation>
     </message>
     <message>
         <source>Canceled</source>
@@ -573,7 +573,7 @@
     </message>
     <message>
         <source>Agent</source>
-        <translation>เอเจนต์</translation>
+        <translation>โปรแกรม</translation>
     </message>
     <message>
         <source>Nimbra Backup</source>
@@ -589,7 +589,7 @@
     </message>
     <message>
         <source>Upgrading backup service database. Please keep this window open if you wish to launch the agent automatically after upgrade.</source>
-        <translation>กำลังอัปเกรดฐานข้อมูลของบริการสำรองข้อมูล หากต้องการให้เอเจนต์เปิดโดยอัตโนมัติหลังอัปเกรด โปรดเปิดหน้าต่างนี้ไว้</translation>
+        <translation>กำลังอัปเกรดฐานข้อมูลของบริการสำรองข้อมูล หากต้องการให้โปรแกรมเปิดโดยอัตโนมัติหลังอัปเกรด โปรดเปิดหน้าต่างนี้ไว้</translation>
     </message>
     <message>
         <source>You&apos;re all set for backup. Do you want to back up this device right now?</source>
@@ -613,7 +613,7 @@
     </message>
     <message>
         <source>The service cannot be activated normally. Please reboot your device and try again. If the problem remains, please contact Corvana Technical Support.</source>
-        <translation>ไม่สามารถเริ่มบริการได้ตามปกติ โปรดรีบูตอุปกรณ์แล้วลองอีกครั้ง หากยังมีปัญหา โปรดติดต่อฝ่ายสนับสนุนทางเทคนิคของ Corvana</translation>
+        <translation>ไม่สามารถเริ่มบริการได้ตามปกติ โปรดเริ่มระบบอุปกรณ์ใหม่แล้วลองอีกครั้ง หากยังมีปัญหา โปรดติดต่อฝ่ายสนับสนุนทางเทคนิคของ Corvana</translation>
     </message>
     <message>
         <source>Backup successful</source>
@@ -629,7 +629,7 @@
     </message>
     <message>
         <source>Check the activity logs in the agent for more information.</source>
-        <translation>ดูข้อมูลเพิ่มเติมได้ในบันทึกกิจกรรมของเอเจนต์</translation>
+        <translation>ดูข้อมูลเพิ่มเติมได้ในบันทึกกิจกรรมของโปรแกรม</translation>
     </message>
     <message>
         <source>Storage is almost full</source>
@@ -793,11 +793,11 @@
     </message>
     <message>
         <source>The current version of the agent is older. Please update the agent.</source>
-        <translation>เอเจนต์เวอร์ชันนี้เก่าแล้ว โปรดอัปเดตเอเจนต์</translation>
+        <translation>โปรแกรมเวอร์ชันนี้เก่าแล้ว โปรดอัปเดตโปรแกรม</translation>
     </message>
     <message>
         <source>Login status error. Make sure you installed the latest version of the agent and sign in again.</source>
-        <translation>สถานะการเข้าสู่ระบบผิดพลาด โปรดตรวจสอบว่าติดตั้งเอเจนต์เวอร์ชันล่าสุดแล้ว แล้วลงชื่อเข้าใช้อีกครั้ง</translation>
+        <translation>สถานะการเข้าสู่ระบบผิดพลาด โปรดตรวจสอบว่าติดตั้งโปรแกรมเวอร์ชันล่าสุดแล้ว แล้วลงชื่อเข้าใช้อีกครั้ง</translation>
     </message>
     <message>
         <source>Invalid certificate. Run Windows Update to renew your certificate. Refer to &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;https://www.nimbrabackup.com/help/certificate&quot;&gt;Knowledge Center&lt;/a&gt;.</source>
@@ -809,7 +809,7 @@
     </message>
     <message>
         <source>Authentication failed. Sign out from the agent and sign in again.</source>
-        <translation>การยืนยันตัวตนล้มเหลว โปรดออกจากระบบเอเจนต์แล้วลงชื่อเข้าใช้อีกครั้ง</translation>
+        <translation>การยืนยันตัวตนล้มเหลว โปรดออกจากระบบโปรแกรมแล้วลงชื่อเข้าใช้อีกครั้ง</translation>
     </message>
     <message>
         <source>Device time incorrect. Sync the device time before the next backup.</source>
@@ -861,7 +861,7 @@
     </message>
     <message>
         <source>We will back up this device right after finishing setting up the agent. You can configure backup policies on the &lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;%1&quot;&gt;console&lt;/a&gt;.</source>
-        <translation>เราจะสำรองข้อมูลอุปกรณ์นี้ทันทีหลังตั้งค่าเอเจนต์เสร็จ คุณกำหนดค่านโยบายการสำรองข้อมูลได้ที่&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;%1&quot;&gt;คอนโซล&lt;/a&gt;</translation>
+        <translation>เราจะสำรองข้อมูลอุปกรณ์นี้ทันทีหลังตั้งค่าโปรแกรมเสร็จ คุณกำหนดค่านโยบายการสำรองข้อมูลได้ที่&lt;a style=&quot;color:#00A282; text-decoration:none; &quot; href=&quot;%1&quot;&gt;คอนโซล&lt;/a&gt;</translation>
     </message>
     <message>
         <source>North America - Seattle</source>
@@ -885,11 +885,11 @@
     </message>
     <message>
         <source>System volume</source>
-        <translation>โวลุ่มระบบ</translation>
+        <translation>ไดรฟ์ข้อมูลระบบ</translation>
     </message>
     <message>
         <source>Specified volumes (%1)</source>
-        <translation>โวลุ่มที่ระบุ (%1)</translation>
+        <translation>ไดรฟ์ข้อมูลที่ระบุ (%1)</translation>
     </message>
     <message>
         <source>Backed up daily at %1</source>

@@ -8,11 +8,22 @@
 #                                      first (TERM, then KILL after 5 s)
 #   leftovers                          pids of processes still carrying this
 #                                      run's $NIMBRA_PIPE_NAMESPACE
+#   demo_plays_headless SCENARIO       true when the demo without a display
+#                                      can play SCENARIO
 #
 # Every wait here is a condition with a deadline; none sleeps a fixed time.
 
 DEMO_PIDS=()
 DEMO_NAMES=()
+
+# Without a display the script plays the user through the first-run story
+# (sign in, Done, back up now, the result, Exit): only the scenarios that
+# start with an unlinked device taking that path can be played so.
+DEMO_HEADLESS_SCENARIOS="first-run one-site"
+demo_plays_headless() {
+  case " $DEMO_HEADLESS_SCENARIOS " in *" ${1%.json} "*) return 0 ;; esac
+  return 1
+}
 
 now_ms() { echo $(( ${EPOCHREALTIME/./} / 1000 )); }
 

@@ -20,6 +20,10 @@
 namespace {
 
 constexpr int kMaxRows = 100;
+// The two columns, in the header and in the rows alike (not scaled, as the
+// rows have them), so that the titles stand over their columns.
+constexpr int kTimeColumn = 200;
+constexpr int kEventColumn = 449;
 
 constexpr auto kHeaderStyle =
     "QTableWidget { background-color: white; color: rgba(30,40,50,0.60); padding: 0px; margin: 0px; border: none;"
@@ -73,16 +77,17 @@ LogWidget::LogWidget(QWidget* parent) : QWidget(parent), fitter_(event_fit::Fitt
   quiet(header_);
   header_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   header_->setFocusPolicy(Qt::NoFocus);
-  header_->setColumnWidth(1, DPIinfo::scaled(449));
-  header_->setColumnWidth(0, DPIinfo::scaled(200));
+  header_->setColumnWidth(1, kEventColumn);
+  header_->setColumnWidth(0, kTimeColumn);
   header_->setRowHeight(0, DPIinfo::scaled(32));
   header_->setFixedHeight(DPIinfo::scaled(30));
   header_->setStyleSheet(DPIinfo::getScaledStyleSheet(QLatin1String(kHeaderStyle)));
   for (int c = 0; c < 2; ++c) header_->setItem(0, c, new QTableWidgetItem);
   header_->setCellWidget(0, 0, cellLabel(string_display::text(Str::desc_time),
                                          getStyleSheet(QStringLiteral("log_widget_time"))));
+  // Both titles in the one look of the time column's.
   header_->setCellWidget(0, 1, cellLabel(string_display::text(Str::desc_event),
-                                         getStyleSheet(QStringLiteral("component.lineedit_label"))));
+                                         getStyleSheet(QStringLiteral("log_widget_time"))));
 
   auto* divider = new QFrame(this);
   divider->setObjectName(QStringLiteral("logDivider"));
@@ -179,8 +184,8 @@ void LogWidget::fillEntries(const QList<LogEntry>& entries) {
     if (table_->rowCount() > kMaxRows) table_->setRowCount(kMaxRows);
     table_->setUpdatesEnabled(true);
   }
-  table_->setColumnWidth(0, 200);
-  table_->setColumnWidth(1, 449);
+  table_->setColumnWidth(0, kTimeColumn);
+  table_->setColumnWidth(1, kEventColumn);
   LOG_DEBUG(vlog::kDefaultComponent, "activity dialog: %d rows", static_cast<int>(table_->rowCount()));
 }
 

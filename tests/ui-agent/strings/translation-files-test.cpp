@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QMap>
 #include <QRegularExpression>
+#include <QTextBoundaryFinder>
 #include <QXmlStreamReader>
 
 #include <map>
@@ -143,5 +144,40 @@ TEST_P(TranslationFile, NamedEventsKeepTheOrderOfTheirPlaceholders) {
 
 INSTANTIATE_TEST_SUITE_P(Languages, TranslationFile, ::testing::ValuesIn(translation_languages()),
                          [](const ::testing::TestParamInfo<QString>& p) { return p.param.toStdString(); });
+
+// Words a line must not be broken inside. Qt breaks Thai lines at
+// libthai's dictionary words and splits the loanwords it does not know by
+// syllable, whatever joiner stands between them (so those words are not
+// used); Japanese katakana words are kept whole by word joiners (U+2060).
+struct WholeWords {
+  const char* language;
+  QRegularExpression words;
+};
+void PrintTo(const WholeWords& w, std::ostream* os) { *os << w.language; }
+class LineBreaks : public ::testing::TestWithParam<WholeWords> {};
+
+TEST_P(LineBreaks, NeverFallInsideAWord) {
+  for (const Message& m : read_ts(QString::fromLatin1(GetParam().language))) {
+    QString text = m.translation;
+    text.remove(QRegularExpression(QStringLiteral("<[^>]*>")));
+    QTextBoundaryFinder breaks(QTextBoundaryFinder::Line, text);
+    for (auto it = GetParam().words.globalMatch(text); it.hasNext();) {
+      const QRegularExpressionMatch word = it.next();
+      for (int at = word.capturedStart() + 1; at < word.capturedEnd(); ++at) {
+        breaks.setPosition(at);
+        EXPECT_FALSE(breaks.isAtBoundary()) << word.captured().toStdString() << " broken at " << at - word.capturedStart()
+                                            << " in: " << text.toStdString();
+      }
+    }
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Languages, LineBreaks,
+    ::testing::Values(
+        WholeWords{"tha", QRegularExpression(QStringLiteral(
+                              "โวลุ่ม|เอเจนต์|รีสตาร์ท|รีบูต|รีเซ็ต|ไดรฟ์|สแนปช็อต|สแนปชอต|โปรแกรม|เซิร์ฟเวอร์|คอนโซล"))},
+        WholeWords{"jpn", QRegularExpression(QStringLiteral("[\\x{30a1}-\\x{30fa}\\x{30fc}\\x{2060}]{2,}"))}),
+    [](const ::testing::TestParamInfo<WholeWords>& i) { return std::string(i.param.language); });
 
 }  // namespace

@@ -324,6 +324,26 @@ TEST_F(TrayWidgets, SettingsOpenOnTheBandwidthAnswer) {
 
 // ---- activity dialog -------------------------------------------------------------
 
+// The titles stand over their columns, at every scale, in one colour.
+TEST_F(TrayWidgets, ActivityTitlesStandOverTheirColumns) {
+  for (const char* scale : {"1", "2"}) {
+    nimbra_test::ScopedEnv env("NIMBRA_UI_SCALE", scale);
+    LogWidget log;
+    log.fillEntries(entries(1, 3));
+    log.show();
+    QApplication::processEvents();
+    auto* header = child<QTableWidget>(&log, "logHeaderTable");
+    auto* table = child<QTableWidget>(&log, "logTable");
+    for (int column : {0, 1}) {
+      const QWidget* title = header->cellWidget(0, column);
+      const QWidget* cell = table->cellWidget(0, column);
+      EXPECT_EQ(title->mapTo(&log, QPoint()).x(), cell->mapTo(&log, QPoint()).x()) << scale << " column " << column;
+    }
+    EXPECT_EQ(header->cellWidget(0, 0)->palette().color(QPalette::WindowText),
+              header->cellWidget(0, 1)->palette().color(QPalette::WindowText));
+  }
+}
+
 TEST_F(TrayWidgets, ActivityDialogRows) {
   menu_->appendLogEntries(entries(1, 100, tray_test::kMoment));
   menu_->slotSeeAllClicked();
