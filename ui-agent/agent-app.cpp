@@ -172,7 +172,8 @@ int run(int argc, char** argv, const Options& options) {
                    &GlobalConnecter::sigMessageReceived);
   ComponentStrings::getInstance()->installStrings(
       {{QStringLiteral("ok"), string_display::text(Str::btn_ok)},
-       {QStringLiteral("cancel"), string_display::text(Str::btn_cancel)}});
+       {QStringLiteral("cancel"), string_display::text(Str::btn_cancel)},
+       {QStringLiteral("copy"), string_display::text(Str::act_copy)}});
   app.setWindowIcon(QIcon(getGlobalImage(QStringLiteral("app_img"))));
   const bool openLog = wantsOpenLog(QCoreApplication::arguments());
   std::unique_ptr<QObject> controller =

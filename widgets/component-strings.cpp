@@ -15,6 +15,7 @@ QString builtin(const QString& key) {
       {QStringLiteral("retry"), QStringLiteral("Retry")},
       {QStringLiteral("abort"), QStringLiteral("Abort")},
       {QStringLiteral("ignore"), QStringLiteral("Ignore")},
+      {QStringLiteral("copy"), QStringLiteral("Copy")},
   };
   return defaults.value(key);
 }

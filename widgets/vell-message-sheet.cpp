@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include "component-strings.h"
+#include "copyable-text.h"
 #include "dpi-info.h"
 #include "image-manager.h"
 #include "logger.h"
@@ -134,6 +135,8 @@ VellMessageSheet::VellMessageSheet(int messageType, QWidget* parent, bool sheet,
   informative_->setTextInteractionFlags(Qt::TextBrowserInteraction);
   informative_->setOpenExternalLinks(true);
   informative_->hide();
+  copyable_text::enableLabel(text_);
+  copyable_text::enableLabel(informative_);
   texts->addWidget(text_);
   texts->addWidget(informative_);
   texts->addStretch(1);

@@ -9,6 +9,7 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "copyable-text.h"
 #include "dpi-info.h"
 #include "logger.h"
 #include "relative-age.h"
@@ -109,6 +110,7 @@ LogWidget::LogWidget(QWidget* parent) : QWidget(parent), fitter_(event_fit::Fitt
       forLabelsNamed(getStyleSheet(QStringLiteral("log_widget_time")), QStringLiteral("logTimeText")));
   table_->verticalScrollBar()->setStyleSheet(getStyleSheet(QStringLiteral("component.scrollbar")));
   table_->setAccessibleName(windowTitle());
+  copyable_text::enableRows(table_);
 
   close_ = new VellButton(string_display::text(Str::btn_close), VellButton::Secondary, this);
   close_->setObjectName(QStringLiteral("logCloseButton"));
@@ -204,6 +206,7 @@ void LogWidget::fillRow(int row, const LogEntry& entry) {
   LOG_DEBUG(vlog::kDefaultComponent, "activity row: %s", qUtf8Printable(plain));
   auto* item = new QTableWidgetItem;
   item->setToolTip(plain);
+  item->setData(copyable_text::kPlainRole, plain);
   item->setData(Qt::UserRole, QVariant::fromValue<qulonglong>(entry.id));
   table_->setItem(row, 1, item);
   table_->setCellWidget(row, 1, label);
@@ -215,5 +218,6 @@ void LogWidget::fillRow(int row, const LogEntry& entry) {
   time->setObjectName(QStringLiteral("logTimeText"));  // styled by the table
   time->setToolTip(when);
   table_->setItem(row, 0, new QTableWidgetItem);
+  table_->item(row, 0)->setData(copyable_text::kPlainRole, when);
   table_->setCellWidget(row, 0, time);
 }

@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "backup-schedule-info-widget.h"
+#include "copyable-text.h"
 #include "dpi-info.h"
 #include "image-manager.h"
 #include "latest-event.h"
@@ -32,6 +33,7 @@ TrayStatusWidget::TrayStatusWidget(QWidget* parent) : QWidget(parent) {
 
   latest_ = std::make_unique<LatestEventLine>(this, QStringLiteral("status"));
   event_ = latest_->eventLabel();
+  copyable_text::enableLabel(event_);  // the error message, for a support request
   age_ = latest_->ageLabel();
 
   schedule_ = new BackupScheduleInfoWidget(this);

@@ -6,10 +6,12 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QClipboard>
 #include <memory>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -380,9 +382,11 @@ TEST_F(TrayWidgets, ActivityDialogRows) {
   EXPECT_EQ(log->rowCount(), 100);
 }
 
-TEST_F(TrayWidgets, ActivityRowsFitThreeLines) {
+// A long row is elided on screen; a copy of it gives its time and its whole
+// message as plain text (a value's "<b>" as the characters it is).
+TEST_F(TrayWidgets, ActivityRowsFitThreeLinesAndCopyWhole) {
   LogWidget log;
-  const std::string longName(200, 'x');
+  const std::string longName = "<b>a</b> & " + std::string(200, 'x');
   log.fillEntries(
       {entry(1, tray_test::kMoment, 7039, R"({"volume_name":")" + longName + R"(","error_code":"5"})")});
   auto* table = child<QTableWidget>(&log, "logTable");
@@ -394,6 +398,13 @@ TEST_F(TrayWidgets, ActivityRowsFitThreeLines) {
       table->item(0, 1)->toolTip(),
       string_display::render_event_message(
           7039, agent_test::parse(R"({"volume_name":")" + longName + R"(","error_code":"5"})"), false, 449));
+
+  QGuiApplication::clipboard()->clear();
+  table->selectRow(0);
+  QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), "2024/01/31 23:59:05\t" + table->item(0, 1)->toolTip());
+  EXPECT_TRUE(QGuiApplication::clipboard()->text().contains("<b>a</b> & xxx"));
+  EXPECT_FALSE(QGuiApplication::clipboard()->mimeData()->hasHtml());
 }
 
 // ---- quota and menu entries --------------------------------------------------------
