@@ -17,6 +17,7 @@
 #include "logger.h"
 #include "style-manager.h"
 #include "vell-button.h"
+#include "web-link.h"
 
 namespace {
 
@@ -127,12 +128,12 @@ VellMessageSheet::VellMessageSheet(int messageType, QWidget* parent, bool sheet,
   text_->setObjectName(QStringLiteral("VellMessageSheetText"));
   text_->setWordWrap(true);
   text_->setTextInteractionFlags(Qt::TextBrowserInteraction);
-  text_->setOpenExternalLinks(true);
+  web_link::route(text_, "message sheet link");
   informative_ = new QLabel(this);
   informative_->setObjectName(QStringLiteral("VellMessageSheetInformativeText"));
   informative_->setWordWrap(true);
   informative_->setTextInteractionFlags(Qt::TextBrowserInteraction);
-  informative_->setOpenExternalLinks(true);
+  web_link::route(informative_, "message sheet link");
   informative_->hide();
   texts->addWidget(text_);
   texts->addWidget(informative_);
