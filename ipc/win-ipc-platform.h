@@ -72,11 +72,18 @@ std::string native_name(const std::string& name);
 // actually spent comes back in waited_ms.
 Result connect_client(const std::string& name, int wait_ms, Native& out);
 
-CreateResult create_server(const std::string& name, ServerEnds& ends);
+// `backlog`: how many clients may wait while one is served (POSIX; Windows
+// has one client per pipe instance).
+CreateResult create_server(const std::string& name, ServerEnds& ends, int backlog);
 
 // One accept attempt, waiting for a client for up to `wait_ms` (Windows
 // sleeps its fixed 100 ms when there is none).
 Result accept_client(ServerEnds& ends, int wait_ms);
+
+// Moves the connected client out of `ends` into `out`, so that the next
+// accept waits for another one; false where one pipe instance is one client
+// (Windows).
+bool detach_client(ServerEnds& ends, Native& out);
 
 // Drops the connected client. kOk or kFailed.
 Result disconnect_client(ServerEnds& ends);
@@ -104,6 +111,11 @@ void flush(Native handle);
 // The credentials of the process at the other end of a connected handle
 // (unknown on Windows), and the user running this process.
 Peer peer_of(Native handle);
+// The process serving the pipe a client end is connected to. Windows names
+// it by its token's user: uid 0 for LocalSystem, current_user() for this
+// process's user, anything else for another user (also when it cannot be
+// asked); POSIX reads it as peer_of does.
+Peer server_of(Native client);
 unsigned long current_user();
 // Whether a peer whose identity cannot be read may be talked to.
 bool unknown_peer_trusted();
@@ -148,7 +160,8 @@ int read_message(ChunkSource& source, std::string& out, const Limits& limits, co
 // Writes `message` followed by the end marker. A write that moves nothing
 // waits before the next attempt; the time limits of `limits` apply.
 int write_message(ChunkSink& sink, const std::string& message, const CancelFlag* cancel);
-int write_message(ChunkSink& sink, const std::string& message, const Limits& limits, const CancelFlag* cancel);
+int write_message(ChunkSink& sink, const std::string& message, const Limits& limits,
+                  const CancelFlag* cancel);
 
 // Offset where the search for the marker starts after `old_size` bytes had
 // been searched without success: the last kEndMarkerSize - 1 of them may hold

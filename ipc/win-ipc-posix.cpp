@@ -123,7 +123,7 @@ Result connect_client(const std::string& name, int wait_ms, Native& out) {
   return r;
 }
 
-CreateResult create_server(const std::string& name, ServerEnds& ends) {
+CreateResult create_server(const std::string& name, ServerEnds& ends, int backlog) {
   CreateResult r;
   close_server(ends);
   sockaddr_un addr;
@@ -139,7 +139,7 @@ CreateResult create_server(const std::string& name, ServerEnds& ends) {
   }
   // A second server on the same name fails here with EADDRINUSE. Backlog 0
   // lets one client wait while another is served; the next one is busy.
-  if (::bind(fd, reinterpret_cast<const sockaddr*>(&addr), length) != 0 || ::listen(fd, 0) != 0) {
+  if (::bind(fd, reinterpret_cast<const sockaddr*>(&addr), length) != 0 || ::listen(fd, backlog) != 0) {
     r.error = static_cast<unsigned>(errno);
     ::close(fd);
     return r;
@@ -182,6 +182,13 @@ Result accept_client(ServerEnds& ends, int wait_ms) {
     }
     poll_one(ends.listener, POLLIN, wait_ms - waited);
   }
+}
+
+bool detach_client(ServerEnds& ends, Native& out) {
+  if (ends.client == kInvalid) return false;
+  out = ends.client;
+  ends.client = kInvalid;
+  return true;
 }
 
 Result disconnect_client(ServerEnds& ends) {
@@ -260,6 +267,10 @@ Peer peer_of(Native handle) {
     peer.pid = static_cast<long>(cred.pid);
   }
   return peer;
+}
+
+Peer server_of(Native client) {
+  return peer_of(client);
 }
 
 unsigned long current_user() {

@@ -15,6 +15,7 @@
 
 #include <cstddef>
 #include <cstring>
+#include <vector>
 
 #include "win-ipc-platform.h"
 
@@ -44,7 +45,7 @@ Result connect_client(const std::string& name, int, Native& out) {
   Result r;
   close_handle(out);
   const HANDLE h = ::CreateFileA(name.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
-                                  SECURITY_SQOS_PRESENT | SECURITY_IDENTIFICATION, nullptr);
+                                 SECURITY_SQOS_PRESENT | SECURITY_IDENTIFICATION, nullptr);
   if (h != INVALID_HANDLE_VALUE) {
     DWORD mode = PIPE_READMODE_BYTE | PIPE_NOWAIT;
     if (!::SetNamedPipeHandleState(h, &mode, nullptr, nullptr)) {
@@ -67,7 +68,7 @@ Result connect_client(const std::string& name, int, Native& out) {
   return r;
 }
 
-CreateResult create_server(const std::string& name, ServerEnds& ends) {
+CreateResult create_server(const std::string& name, ServerEnds& ends, int) {
   CreateResult r;
   close_server(ends);
 
@@ -169,6 +170,10 @@ Result accept_client(ServerEnds& ends, int) {
   return r;
 }
 
+bool detach_client(ServerEnds&, Native&) {
+  return false;
+}
+
 Result disconnect_client(ServerEnds& ends) {
   Result r;
   if (!::DisconnectNamedPipe(to_handle(ends.listener))) {
@@ -250,11 +255,57 @@ Peer peer_of(Native) {
   return Peer();
 }
 
+namespace {
+
+// What Peer::uid holds on Windows: 0 is LocalSystem (the service), these two
+// this process's user and anyone else.
+constexpr unsigned long kThisUser = 1;
+constexpr unsigned long kOtherUser = 2;
+
+// The user SID of `process`'s token, in `buffer`; nullptr when it cannot be read.
+PSID token_user(HANDLE process, std::vector<BYTE>& buffer) {
+  HANDLE token = nullptr;
+  if (!::OpenProcessToken(process, TOKEN_QUERY, &token)) return nullptr;
+  DWORD size = 0;
+  ::GetTokenInformation(token, TokenUser, nullptr, 0, &size);
+  buffer.resize(size);
+  const bool ok = size > 0 && ::GetTokenInformation(token, TokenUser, buffer.data(), size, &size);
+  ::CloseHandle(token);
+  return ok ? reinterpret_cast<TOKEN_USER*>(buffer.data())->User.Sid : nullptr;
+}
+
+}  // namespace
+
+Peer server_of(Native client) {
+  // Whoever serves the name first gets the connection: before a request (and
+  // a token) is written, its process's user must be LocalSystem or this one.
+  Peer peer;
+  peer.known = true;
+  peer.uid = kOtherUser;
+  ULONG pid = 0;
+  if (!::GetNamedPipeServerProcessId(to_handle(client), &pid)) return peer;
+  peer.pid = static_cast<long>(pid);
+  const HANDLE process = ::OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, pid);
+  if (process == nullptr) return peer;
+  std::vector<BYTE> theirs, mine;
+  const PSID server = token_user(process, theirs);
+  ::CloseHandle(process);
+  const PSID self = token_user(::GetCurrentProcess(), mine);
+  if (server == nullptr || self == nullptr) return peer;
+  if (::IsWellKnownSid(server, WinLocalSystemSid))
+    peer.uid = 0;
+  else if (::EqualSid(server, self))
+    peer.uid = kThisUser;
+  return peer;
+}
+
 unsigned long current_user() {
-  return 0;
+  return kThisUser;
 }
 
 bool unknown_peer_trusted() {
+  // Only a server end's client is unknown: the pipe's access list decides
+  // who may connect.
   return true;
 }
 

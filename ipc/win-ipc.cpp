@@ -4,8 +4,12 @@
 
 #include "win-ipc.h"
 
+#include <algorithm>
+#include <chrono>
 #include <cstring>
+#include <thread>
 
+#include "log-throttle.h"
 #include "logger.h"
 #include "win-ipc-platform.h"
 
@@ -120,7 +124,8 @@ int write_message(ChunkSink& sink, const std::string& message, const CancelFlag*
   return write_message(sink, message, Limits(), cancel);
 }
 
-int write_message(ChunkSink& sink, const std::string& message, const Limits& limits, const CancelFlag* cancel) {
+int write_message(ChunkSink& sink, const std::string& message, const Limits& limits,
+                  const CancelFlag* cancel) {
   std::string framed;
   framed.reserve(message.size() + kEndMarkerSize);
   framed.append(message).append(kEndMarker, kEndMarkerSize);
@@ -302,7 +307,7 @@ int IpcClient::write(const std::string& message, const Limits& limits, const Can
 }
 
 Peer IpcClient::peer() const {
-  return handle_->native == platform::kInvalid ? Peer() : platform::peer_of(handle_->native);
+  return handle_->native == platform::kInvalid ? Peer() : platform::server_of(handle_->native);
 }
 
 void IpcClient::close() {
@@ -315,8 +320,18 @@ bool IpcClient::is_open() const {
 
 // ---------------------------------------------------------------- server end
 
+namespace {
+constexpr int kFirstBackoffMs = 50;
+constexpr int kLongestBackoffMs = 1000;
+}  // namespace
+
 struct IpcServer::Handle {
   platform::ServerEnds ends;
+  // A failing accept (file handles exhausted, ...) fails again at once: the
+  // round waits before it returns, longer each time up to a second, and the
+  // line is written once per interval.
+  int backoff_ms = 0;
+  vlog::LogThrottle failed_log;
 };
 
 IpcServer::IpcServer() : handle_(new Handle) {}
@@ -328,7 +343,7 @@ IpcServer::~IpcServer() {
 
 int IpcServer::create(const std::string& name) {
   close();
-  const platform::CreateResult r = platform::create_server(name, handle_->ends);
+  const platform::CreateResult r = platform::create_server(name, handle_->ends, backlog_);
   switch (r.step) {
     case platform::CreateStep::kDone:
       return 0;
@@ -362,6 +377,7 @@ bool IpcServer::accept() {
     const platform::Result r = platform::accept_client(handle_->ends, timeout_ms_ - elapsed);
     switch (r.status) {
       case platform::Status::kOk:
+        handle_->backoff_ms = 0;
         return true;
       case platform::Status::kGone:
         // A client came and already left: drop it and keep waiting.
@@ -369,13 +385,50 @@ bool IpcServer::accept() {
         break;
       case platform::Status::kRetry:
         break;
-      default:
-        LOG_ERROR(vlog::kWinIpc, "connect pipe failed, %u", r.error);
+      default: {
+        LOG_THROTTLED(handle_->failed_log, LOG_ERROR, vlog::kWinIpc, "connect pipe failed, %u", r.error);
+        handle_->backoff_ms =
+            std::min(handle_->backoff_ms == 0 ? kFirstBackoffMs : handle_->backoff_ms * 2, kLongestBackoffMs);
+        const int rest = timeout_ms_ - elapsed;
+        std::this_thread::sleep_for(std::chrono::milliseconds(std::min(handle_->backoff_ms, rest)));
         return false;
+      }
     }
     elapsed += r.waited_ms;
     if (elapsed >= timeout_ms_) return false;
   }
+}
+
+struct IpcConnection::Handle {
+  platform::Native native = platform::kInvalid;
+};
+
+IpcConnection::IpcConnection() : handle_(new Handle) {}
+
+IpcConnection::~IpcConnection() {
+  platform::close_handle(handle_->native);
+  delete handle_;
+}
+
+int IpcConnection::read(std::string& out, const Limits& limits, const CancelFlag* cancel) {
+  return read_on(handle_->native, out, limits, cancel);
+}
+
+int IpcConnection::write(const std::string& message, const Limits& limits, const CancelFlag* cancel) {
+  return write_on(handle_->native, message, limits, cancel, true);
+}
+
+bool IpcConnection::is_open() const {
+  return handle_->native != platform::kInvalid;
+}
+
+Peer IpcConnection::peer() const {
+  return is_open() ? platform::peer_of(handle_->native) : Peer();
+}
+
+bool IpcServer::take_client(IpcConnection& into) {
+  platform::close_handle(into.handle_->native);
+  return platform::detach_client(handle_->ends, into.handle_->native);
 }
 
 bool IpcServer::disconnect() {

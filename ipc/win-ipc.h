@@ -37,7 +37,7 @@ inline constexpr int kAcceptTimeoutMs = 3000;
 
 // The size caps in use: what the agent's own pipe accepts from a client, and
 // what the agent accepts as one answer of the service (also the default cap).
-inline constexpr std::size_t kAgentMessageCap = std::size_t{1} << 20;     // 1 MiB
+inline constexpr std::size_t kAgentMessageCap = std::size_t{1} << 20;    // 1 MiB
 inline constexpr std::size_t kServiceAnswerCap = std::size_t{64} << 20;  // 64 MiB
 // The agent's own pipe drops a client that sends nothing for this long, and
 // one whose request is not complete after kAgentDeadlineMs.
@@ -58,8 +58,11 @@ inline Limits agent_pipe_limits() {
 }
 
 // Who is at the other end of a connection. POSIX reads it with SO_PEERCRED
-// (the process that connected, or the one that created the listening end);
-// Windows leaves it unknown and relies on the pipe's access list.
+// (the process that connected, or the one that created the listening end).
+// Windows names the server a client is connected to by its process token's
+// user (GetNamedPipeServerProcessId): uid 0 for LocalSystem, current_user()
+// for this process's user, another value for anyone else or when it cannot be
+// told; a server end's client stays unknown (the pipe's access list decides).
 struct Peer {
   bool known = false;
   unsigned long uid = 0;
@@ -70,7 +73,8 @@ struct Peer {
 // running this process. An unknown peer is trusted only on Windows, where the
 // pipe's access list and identification-level impersonation do that work.
 bool trusted_peer(const Peer& peer);
-// The user running this process (uid on POSIX, 0 on Windows).
+// The user running this process (uid on POSIX; on Windows the value a
+// server's Peer has when it runs as this user).
 unsigned long current_user();
 
 // Optional cancel flag of read and write: when it becomes true the loop gives
@@ -112,6 +116,26 @@ class IpcClient {
   Handle* handle_;
 };
 
+// One client taken off a server (IpcServer::take_client), served on its own
+// thread while the server accepts the next one.
+class IpcConnection {
+ public:
+  IpcConnection();
+  ~IpcConnection();  // drops the client
+  IpcConnection(const IpcConnection&) = delete;
+  IpcConnection& operator=(const IpcConnection&) = delete;
+
+  int read(std::string& out, const Limits& limits, const CancelFlag* cancel = nullptr);
+  int write(const std::string& message, const Limits& limits, const CancelFlag* cancel = nullptr);
+  bool is_open() const;
+  Peer peer() const;
+
+ private:
+  friend class IpcServer;
+  struct Handle;
+  Handle* handle_;
+};
+
 // Server end: one instance of a pipe, one client at a time.
 class IpcServer {
  public:
@@ -127,6 +151,14 @@ class IpcServer {
   bool accept();
   // Drops the connected client; true on success.
   bool disconnect();
+  // Moves the connected client into `into` (which drops any client it held),
+  // so that accept() can wait for the next one while it is served; false
+  // when none is connected or the platform cannot (Windows).
+  bool take_client(IpcConnection& into);
+  // How many clients may wait to be accepted (POSIX), 0 unless set before
+  // create(): one waits while another is served, the next one finds the pipe
+  // busy.
+  void set_backlog(int backlog) { backlog_ = backlog; }
   int read(std::string& out, const CancelFlag* cancel = nullptr);
   int read(std::string& out, const Limits& limits, const CancelFlag* cancel = nullptr);
   int write(const std::string& message, const CancelFlag* cancel = nullptr);
@@ -142,6 +174,7 @@ class IpcServer {
  private:
   struct Handle;
   int timeout_ms_ = kAcceptTimeoutMs;
+  int backlog_ = 0;
   Handle* handle_;
 };
 

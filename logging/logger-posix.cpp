@@ -4,10 +4,12 @@
 #include <sys/time.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <cwchar>
+#include <string>
 
 #include "logger-platform.h"
 
@@ -38,11 +40,35 @@ std::string narrow(const std::wstring& w) {
   return out;
 }
 
+namespace {
+
+// Says once per process, on standard error, why the log is not written.
+void refuse_once(const std::string& what, const std::string& path, unsigned long uid) {
+  static std::atomic<bool> said{false};
+  if (said.exchange(true)) return;
+  std::fprintf(stderr, "log %s %s belongs to uid %lu, not to this user (uid %lu): the log is not written\n",
+               what.c_str(), path.c_str(), uid, static_cast<unsigned long>(::geteuid()));
+}
+
+}  // namespace
+
 FILE* open_append(const std::wstring& path) {
+  const std::string name = narrow(path);
+  // The folder must be this user's (a real folder, not a link): another user
+  // who made it first could read or replace what is written there.
+  const std::size_t slash = name.find_last_of('/');
+  const std::string folder =
+      slash == std::string::npos ? std::string(".") : name.substr(0, slash ? slash : 1);
+  struct stat dir {};
+  if (::lstat(folder.c_str(), &dir) != 0 || !S_ISDIR(dir.st_mode)) return nullptr;
+  if (dir.st_uid != ::geteuid()) {
+    refuse_once("folder", folder, static_cast<unsigned long>(dir.st_uid));
+    return nullptr;
+  }
   // Readable by the user only, never through a symbolic link, and never a
   // FIFO or device someone put in its place (O_NONBLOCK keeps a FIFO from
   // blocking the open). O_CLOEXEC: the POSIX form of a non-inheritable handle.
-  const int fd = ::open(narrow(path).c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK,
+  const int fd = ::open(name.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK,
                         S_IRUSR | S_IWUSR);
   if (fd < 0) return nullptr;
   struct stat st {};
@@ -50,8 +76,15 @@ FILE* open_append(const std::wstring& path) {
     ::close(fd);
     return nullptr;
   }
+  // A file another user made first (perhaps readable by everyone) is not ours.
+  if (st.st_uid != ::geteuid()) {
+    refuse_once("file", name, static_cast<unsigned long>(st.st_uid));
+    ::close(fd);
+    return nullptr;
+  }
   // A file left by an older version may be readable by others: tighten it.
-  if ((st.st_mode & (S_IRWXG | S_IRWXO)) != 0 && st.st_uid == ::geteuid()) (void)::fchmod(fd, S_IRUSR | S_IWUSR);
+  if ((st.st_mode & (S_IRWXG | S_IRWXO)) != 0 && st.st_uid == ::geteuid())
+    (void)::fchmod(fd, S_IRUSR | S_IWUSR);
   const int flags = ::fcntl(fd, F_GETFL);
   if (flags >= 0) (void)::fcntl(fd, F_SETFL, flags & ~O_NONBLOCK);
   FILE* f = ::fdopen(fd, "a");

@@ -1,5 +1,6 @@
 #include "logger.h"
 
+#include <algorithm>
 #include <atomic>
 #include <cstdarg>
 #include <cstring>
@@ -124,18 +125,31 @@ void read_settings(const std::wstring& settings_path, std::map<std::string, int>
 // The formatted line, cut to kMaxLineBytes: a longer one keeps its first
 // bytes (up to a character boundary), ends with "... [N bytes cut]" and keeps
 // its final line feed. The whole line is never built, however long it is.
-std::string format_message(const char* format, va_list args) {
+// A line break inside the text (outside data may carry one) is written as
+// "\n" or "\r", so that nothing a peer sends can start a line of its own
+// (unless `raw`: the message exactly as formatted).
+std::string format_message(const char* format, va_list args, bool raw) {
   char buf[kMaxLineBytes + 2];  // the line, its line feed and the NUL
   const int n = std::vsnprintf(buf, sizeof buf, format, args);
   if (n < 0) return std::string();
   const bool line_feed = format[0] != '\0' && format[std::strlen(format) - 1] == '\n';
   const std::size_t full = static_cast<std::size_t>(n);
   const std::size_t text = full - (line_feed && full > 0 ? 1 : 0);
-  if (text <= kMaxLineBytes) return std::string(buf, full);
-  std::size_t keep = kMaxLineBytes;
-  while (keep > 0 && (static_cast<unsigned char>(buf[keep]) & 0xC0) == 0x80) --keep;
-  std::string out(buf, keep);
-  out += "... [" + std::to_string(text - keep) + " bytes cut]";
+  std::size_t keep = std::min(text, kMaxLineBytes);
+  if (keep < text)
+    while (keep > 0 && (static_cast<unsigned char>(buf[keep]) & 0xC0) == 0x80) --keep;
+  std::string out;
+  out.reserve(keep + 32);
+  for (std::size_t i = 0; i < keep; ++i) {
+    const char c = buf[i];
+    if (!raw && (c == '\n' || c == '\r')) {
+      out.push_back('\\');
+      out.push_back(c == '\n' ? 'n' : 'r');
+    } else {
+      out.push_back(c);
+    }
+  }
+  if (keep < text) out += "... [" + std::to_string(text - keep) + " bytes cut]";
   if (line_feed) out.push_back('\n');
   return out;
 }
@@ -218,7 +232,7 @@ void log(const char* logger, int level, const char* component, const char* forma
   }
   va_list args;
   va_start(args, format);
-  const std::string message = format_message(fmt.c_str(), args);
+  const std::string message = format_message(fmt.c_str(), args, s->output == kRawStderr);
   va_end(args);
 
   std::lock_guard<std::mutex> g(s->line_mutex);

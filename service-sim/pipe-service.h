@@ -1,36 +1,54 @@
 #pragma once
-// The service pipe of the simulator: a thread that accepts one client at a
-// time on the service pipe, reads one framed request, answers it from the
-// device model and disconnects, as the real service does. Scenario faults
-// (dropped connections, garbage, late answers) and the hostile mode are
-// applied here, and every request received is appended to the record file.
+// The service pipe of the simulator: a thread accepts clients on the service
+// pipe and hands each to one of a few worker threads, which reads one framed
+// request, answers it from the device model and disconnects, as the real
+// service does. Like the agent, it serves only uid 0 and its own user; a
+// client gets a short deadline for its request, so nobody holds the pipe.
+// Scenario faults (dropped connections, garbage, late answers) and the
+// hostile mode are applied here, and every request received is appended to
+// the record file (mode 0600: it holds tokens; a large request is cut).
 
 #include <json/value.h>
 
 #include <atomic>
 #include <condition_variable>
 #include <cstdint>
-#include <fstream>
+#include <deque>
+#include <memory>
 #include <mutex>
 #include <string>
 #include <thread>
+#include <utility>
+#include <vector>
 
 #include "device-model.h"
+#include "log-throttle.h"
 #include "scenario.h"
+#include "win-ipc.h"
 
 namespace sim {
 
 // One JSON line per request received: {"time_ms":..., "time":"...Z",
 // "request":{...}} or, for text that is not JSON, {"time_ms", "time", "raw"}.
+// A request over kRecordCap bytes keeps its first kRecordCut bytes as "raw"
+// with "bytes", its size.
 class Recorder {
  public:
-  // An empty path records nothing. False when the file cannot be opened.
+  static constexpr std::size_t kRecordCap = 16 * 1024;
+  static constexpr std::size_t kRecordCut = 1024;
+
+  Recorder() = default;
+  ~Recorder();
+  Recorder(const Recorder&) = delete;
+  Recorder& operator=(const Recorder&) = delete;
+  // An empty path records nothing. False when the file cannot be opened
+  // (also when it is a symbolic link). The file is made 0600.
   bool open(const std::string& path);
   void record(std::int64_t time_ms, const std::string& text, const Json::Value* parsed);
 
  private:
   std::mutex mutex_;
-  std::ofstream out_;
+  int fd_ = -1;
 };
 
 // ISO 8601 UTC with milliseconds, for the record file and log lines.
@@ -46,6 +64,11 @@ class PipeService {
     double answer_delay_ms = 0;
     int accept_timeout_ms = 250;  // how quickly stop() is noticed between clients
   };
+
+  // Clients served at once, and the time one has for its request.
+  static constexpr int kWorkers = 4;
+  static constexpr int kClientIdleMs = 2000;
+  static constexpr int kClientDeadlineMs = 3000;
 
   PipeService(DeviceModel& model, Options options);
   ~PipeService();
@@ -70,7 +93,8 @@ class PipeService {
   std::string answer_parsed(const std::string& request_text, bool is_json, const Json::Value& request,
                             const std::string& parse_error);
   void run();
-  void serve_client();
+  void work();
+  void serve_client(WinIpc::IpcConnection& client);
   bool wait_interruptibly(int ms);
 
   DeviceModel& model_;
@@ -79,6 +103,12 @@ class PipeService {
   struct Impl;
   Impl* impl_;
   std::thread thread_;
+  std::vector<std::thread> workers_;
+  std::deque<std::unique_ptr<WinIpc::IpcConnection>> queue_;
+  std::mutex queue_mutex_;
+  std::condition_variable queue_cv_;
+  vlog::LogThrottle refused_log_;
+  vlog::LogThrottle incomplete_log_;
   std::atomic<bool> stop_{false};
   std::mutex wait_mutex_;
   std::condition_variable wait_cv_;

@@ -49,7 +49,8 @@ bool PositionClickFilter::eventFilter(QObject* watched, QEvent* event) {
   // under the window on its way.
   if (event->type() == QEvent::MouseButtonPress && watched->isWindowType()) {
     const auto* press = static_cast<QMouseEvent*>(event);
-    if (press->button() == Qt::LeftButton) emit GlobalConnecter::instance().sigPositionClicked(press->globalPos());
+    if (press->button() == Qt::LeftButton)
+      emit GlobalConnecter::instance().sigPositionClicked(press->globalPos());
   }
   return QObject::eventFilter(watched, event);
 }
@@ -165,6 +166,22 @@ int run(int argc, char** argv, const Options& options) {
     lock.release();
     os_services::stop_process_services();
     return 0;
+  }
+
+  // The primary holds the machine lock for its whole life, also when this
+  // user's exiting agent still held it a moment ago.
+  if (!lock.held()) {
+    const MachineLock::Result kept = lock.acquireForLife(3000);
+    if (kept == MachineLock::HeldByOtherUser || kept == MachineLock::Failed) {
+      LOG_WARN(vlog::kDefaultComponent, "machine lock %s: another user runs the agent",
+               MachineLock::resultName(kept));
+      showWarningMsg(string_display::text(Str::app_name), string_display::text(Str::app_exists));
+      os_services::stop_process_services();
+      return 0;
+    }
+    if (kept != MachineLock::Acquired)
+      LOG_ERROR(vlog::kDefaultComponent, "machine lock still %s: this agent runs without it",
+                MachineLock::resultName(kept));
   }
 
   // 15. The primary instance.

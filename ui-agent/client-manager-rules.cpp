@@ -40,6 +40,20 @@ Failure countFailure(int& count, bool polling) {
   return polling ? Failure::Tolerated : Failure::Retry;
 }
 
+Json::Value boundedNotifications(const Json::Value& object, int& leftOut) {
+  leftOut = 0;
+  const Json::Value& list = jsonx::member(object, "notifications");
+  if (!list.isArray() || list.size() <= static_cast<Json::ArrayIndex>(kNotificationsPerPush)) return object;
+  Json::Value bounded(Json::objectValue);
+  for (const std::string& name : object.getMemberNames())
+    if (name != "notifications") bounded[name] = object[name];
+  Json::Value& kept = bounded["notifications"] = Json::Value(Json::arrayValue);
+  const Json::ArrayIndex first = list.size() - static_cast<Json::ArrayIndex>(kNotificationsPerPush);
+  for (Json::ArrayIndex i = first; i < list.size(); ++i) kept.append(list[i]);
+  leftOut = static_cast<int>(first);
+  return bounded;
+}
+
 bool notifierArguments(const Json::Value& object, QStringList& arguments) {
   arguments.clear();
   const Json::Value& list = jsonx::member(object, "notifications");

@@ -45,6 +45,14 @@ inline constexpr int kStartFailureLimit = 120;
 // Counts one failure into `count` (unless it is fatal).
 Failure countFailure(int& count, bool polling);
 
+// At most this many notifications of one push are shown: the newest ones
+// (the last of the array). A push of thousands would otherwise keep the
+// desktop busy for minutes and overflow the notifier's argument list.
+inline constexpr int kNotificationsPerPush = 5;
+// The object the service pushed with its "notifications" array cut to the
+// last kNotificationsPerPush elements; `leftOut` tells how many went.
+Json::Value boundedNotifications(const Json::Value& object, int& leftOut);
+
 // The notifier's arguments for the object the service pushed: "1", its
 // site_path, the number of notifications, then title, text, button label
 // and action type of each. False (and no arguments) when the object has no

@@ -1,12 +1,10 @@
 #include "client-manager.h"
 
 #include <QApplication>
-#include <QDesktopServices>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
 #include <QTimer>
-#include <QUrl>
 
 #include <stdexcept>
 
@@ -28,6 +26,7 @@
 #include "tray/system-tray.h"
 #include "vell-mask.h"
 #include "vell-message-sheet.h"
+#include "web-link.h"
 #include "wizard/wizard.h"
 
 using client_manager_rules::SchemeMessage;
@@ -43,8 +42,9 @@ constexpr int kNotLinked = 0x1000;
 // What the summary page reads the sites from.
 constexpr int kSiteInfoStatus = 0x1002;
 
-std::string styled(const Json::Value& v) {
-  return v.toStyledString();
+// An answer as it may appear in the log: secrets masked, on one line.
+std::string loggable(const Json::Value& v) {
+  return ServiceCommunicator::maskedForLog(v);
 }
 
 // A message as it may appear in the log: the sign-in token masked.
@@ -54,17 +54,11 @@ QString loggable(const QString& msg) {
     return QString::fromLatin1(client_manager_rules::kSchemePrefix) + QStringLiteral("?access_token=***");
   if (m.kind == SchemeMessage::Malformed && msg.contains(QLatin1String("access_token")))
     return QString::fromLatin1(client_manager_rules::kSchemePrefix) + QStringLiteral("?access_token***");
-  return msg;
+  return QString::fromStdString(jsonx::masked_text(msg.toStdString()));
 }
 
-// Only web addresses go to the browser.
 void openInBrowser(const std::string& address, const char* what) {
-  const QUrl url(QString::fromStdString(address), QUrl::StrictMode);
-  if (!url.isValid() || (url.scheme() != QLatin1String("https") && url.scheme() != QLatin1String("http"))) {
-    CM_LOG_ERROR("%s: not a web address, not opened", what);
-    return;
-  }
-  QDesktopServices::openUrl(url);
+  web_link::open(QString::fromStdString(address), what);
 }
 
 // Changing the flags hides a window, so they are changed only when they
@@ -93,12 +87,10 @@ ClientManager::ClientManager() : QObject(nullptr) {
   connect(bus, SIGNAL(sigLogoutService()), this, SLOT(slotLogoutService()));
   connect(bus, SIGNAL(sigExitApplication()), this, SLOT(slotExitApplication()));
   connect(bus, SIGNAL(sigMessageReceived(const QString&)), this, SLOT(slotMessageReceived(const QString&)));
-  connect(bus, SIGNAL(sigNotifyStatusChange(ServiceStatus, ServiceStatus, Json::Value)), this,
-          SLOT(slotHandleStatusChange(ServiceStatus, ServiceStatus, Json::Value)));
+  connect(bus, &GlobalConnecter::sigNotifyStatusChange, this, &ClientManager::slotHandleStatusChange);
   connect(bus, SIGNAL(sigHandleNotifications(const Json::Value&)), this,
           SLOT(slotHandleNotifications(const Json::Value&)));
-  connect(bus, SIGNAL(sigQueryServiceDone(const QObject*, Json::Value)), this,
-          SLOT(slotQueryServiceDone(const QObject*, Json::Value)));
+  connect(bus, &GlobalConnecter::sigQueryServiceDone, this, &ClientManager::slotQueryServiceDone);
   connect(bus, SIGNAL(sigQueryServiceFailed()), this, SLOT(slotQueryServiceFailed()));
   connect(this, SIGNAL(sigQueryService(const QObject*, Json::Value)), bus,
           SIGNAL(sigQueryService(const QObject*, Json::Value)));
@@ -341,7 +333,13 @@ void ClientManager::slotHandleStatusChange(ServiceStatus, ServiceStatus current,
   }
 }
 
-void ClientManager::slotHandleNotifications(const Json::Value& notifications) {
+void ClientManager::slotHandleNotifications(const Json::Value& pushed) {
+  int leftOut = 0;
+  const Json::Value notifications = client_manager_rules::boundedNotifications(pushed, leftOut);
+  if (leftOut > 0)
+    CM_LOG_ERROR("%d notifications in one push: the last %d shown, the first %d left out",
+                 leftOut + client_manager_rules::kNotificationsPerPush,
+                 client_manager_rules::kNotificationsPerPush, leftOut);
   if (client_manager_platform::useNotifier()) {
     runNotifier(notifications);
   } else if (tray) {
@@ -349,34 +347,53 @@ void ClientManager::slotHandleNotifications(const Json::Value& notifications) {
   }
 }
 
+// The notifier runs on its own: the GUI thread never waits for it (a
+// notification service that does not answer costs the notifier seconds).
+// Its exit code and what it wrote (its reasons go to standard error) are
+// logged when it ends; one that has not ended after 30 s is stopped.
 void ClientManager::runNotifier(const Json::Value& notifications) {
   QStringList arguments;
   if (!client_manager_rules::notifierArguments(notifications, arguments)) {
     CM_LOG_ERROR("format invalid");
     return;
   }
-  QProcess notifier;
-  notifier.start(client_manager_platform::notifierProgram(), arguments, QIODevice::ReadWrite);
-  if (!notifier.waitForStarted(30000)) {
-    CM_LOG_ERROR("can't wait started");
-    // No notifier to show them: the tray's balloons do.
-    if (tray) tray->showNotifications(jsonx::member(notifications, "notifications"));
-    return;
-  }
-  if (!notifier.waitForFinished(30000)) CM_LOG_ERROR("can't wait finished");
-  const QByteArray output = notifier.readAll();
-  const int code = notifier.exitCode();
-  if (code != 0) {
-    CM_LOG_ERROR("command execution error occurred, code: %d, output: %s", code, output.constData());
-    if (code == client_manager_platform::kNoNotificationService && tray)
-      tray->showNotifications(jsonx::member(notifications, "notifications"));
-  }
+  auto* notifier = new QProcess(this);
+  notifier->setProcessChannelMode(QProcess::MergedChannels);
+  const Json::Value list = jsonx::member(notifications, "notifications");
+  // Balloons instead when there is no notifier to show them.
+  const auto balloons = [this, list] {
+    if (tray) tray->showNotifications(list);
+  };
+  connect(notifier, &QProcess::errorOccurred, this, [notifier, balloons](QProcess::ProcessError error) {
+    if (error != QProcess::FailedToStart) return;
+    CM_LOG_ERROR("can't wait started: %s", qUtf8Printable(notifier->errorString()));
+    balloons();
+    notifier->deleteLater();
+  });
+  connect(notifier, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this,
+          [notifier, balloons](int code, QProcess::ExitStatus status) {
+            const QByteArray output = notifier->readAll().trimmed();
+            if (status != QProcess::NormalExit) {
+              CM_LOG_ERROR("notifier ended without an exit code, output: %s", output.constData());
+            } else if (code != 0) {
+              CM_LOG_ERROR("command execution error occurred, code: %d, output: %s", code,
+                           output.constData());
+              if (code == client_manager_platform::kNoNotificationService) balloons();
+            }
+            notifier->deleteLater();
+          });
+  QTimer::singleShot(30000, notifier, [notifier] {
+    CM_LOG_ERROR("can't wait finished: the notifier is stopped");
+    notifier->kill();
+  });
+  notifier->start(client_manager_platform::notifierProgram(), arguments, QIODevice::ReadOnly);
 }
 
 // ---- answers -------------------------------------------------------------------
 
-void ClientManager::slotQueryServiceDone(const QObject* sender, const Json::Value& response) {
+void ClientManager::slotQueryServiceDone(const QObject* sender, const SharedJson& answer) {
   if (sender != this) return;
+  const Json::Value& response = answer;
   const std::string action = jsonx::get_string(response, "action");
   if (isRegistrationAction(action) && registrationInFlight > 0) --registrationInFlight;
   if (action == "get_connection_info")
@@ -386,7 +403,7 @@ void ClientManager::slotQueryServiceDone(const QObject* sender, const Json::Valu
   else if (action == "create_device")
     onCreateDevice(response);
   else if (action == "get_site_info")
-    onSiteInfo(response);
+    onSiteInfo(answer);
   else if (action == "get_auth")
     onAuth(response);
   else if (action == "get_token")
@@ -421,6 +438,9 @@ void ClientManager::onConnectionInfo(const Json::Value& response) {
     return;
   }
   const Json::Value& link = jsonx::member(response, "connection");
+  // The failures before the record (a service still starting) do not count
+  // against the polling window that begins now.
+  failureCount = 0;
   connection = fillConnectionInfo(link, jsonx::member(response, "proxy"), SslTrust::Read);
   StatusStore::instance().setConnectionInfo(connection);
   if (tray) tray->setConnectionMode(1);
@@ -449,7 +469,7 @@ void ClientManager::onAuth(const Json::Value& response) {
     openInBrowser(jsonx::get_string(response, "redirect_to"), "sign-in address");
     return;
   }
-  CM_LOG_ERROR("failed to get auth URL [%s]", styled(response).c_str());
+  CM_LOG_ERROR("failed to get auth URL [%s]", loggable(response).c_str());
   authPending.exchange(false);
   wizard->closeSignInSheet();
   wizard->showError(service_error::code_of(response), response);
@@ -458,7 +478,7 @@ void ClientManager::onAuth(const Json::Value& response) {
 
 void ClientManager::onToken(const Json::Value& response) {
   if (jsonx::has(response, "error")) {
-    CM_LOG_ERROR("failed to get token [%s]", styled(response).c_str());
+    CM_LOG_ERROR("failed to get token [%s]", loggable(response).c_str());
     wizard->hideConnecting();
     wizard->showError(service_error::code_of(response), response);
     wizard->showWelcomePage();
@@ -467,15 +487,16 @@ void ClientManager::onToken(const Json::Value& response) {
   sendAction("get_site_info");
 }
 
-void ClientManager::onSiteInfo(const Json::Value& response) {
+void ClientManager::onSiteInfo(const SharedJson& answer) {
+  const Json::Value& response = answer;
   wizard->hideConnecting();
   if (jsonx::has(response, "error") && jsonx::member(response, "data").empty()) {
-    CM_LOG_ERROR("failed to get site info [%s]", styled(response).c_str());
+    CM_LOG_ERROR("failed to get site info [%s]", loggable(response).c_str());
     wizard->showError(service_error::code_of(response), response);
     wizard->showWelcomePage();
     return;
   }
-  StatusStore::instance().setStatus(static_cast<ServiceStatus>(kSiteInfoStatus), response);
+  StatusStore::instance().setStatus(static_cast<ServiceStatus>(kSiteInfoStatus), answer);
   wizard->showSummaryPage();
 }
 
@@ -506,7 +527,7 @@ bool ClientManager::askBackupNow() {
 void ClientManager::onCreateDevice(const Json::Value& response) {
   wizard->hideConnecting();
   if (jsonx::has(response, "error")) {
-    CM_LOG_ERROR("failed to create device [%s]", styled(response).c_str());
+    CM_LOG_ERROR("failed to create device [%s]", loggable(response).c_str());
     wizard->showError(service_error::code_of(response), response);
     wizard->showWelcomePage();
     return;

@@ -67,9 +67,10 @@ class ClientManager : public QObject {
   void slotLogoutService();
   void slotExitApplication();
   void slotMessageReceived(const QString& msg);
-  void slotHandleStatusChange(ServiceStatus previous, ServiceStatus current, const Json::Value& current_content);
+  void slotHandleStatusChange(ServiceStatus previous, ServiceStatus current,
+                              const Json::Value& current_content);
   void slotHandleNotifications(const Json::Value& notifications);
-  void slotQueryServiceDone(const QObject* sender, const Json::Value& response);
+  void slotQueryServiceDone(const QObject* sender, const SharedJson& answer);
   void slotQueryServiceFailed();
 
  private:
@@ -80,7 +81,7 @@ class ClientManager : public QObject {
   void onPortalLink(const Json::Value& response);
   void onAuth(const Json::Value& response);
   void onToken(const Json::Value& response);
-  void onSiteInfo(const Json::Value& response);
+  void onSiteInfo(const SharedJson& answer);
   void onCreateDevice(const Json::Value& response);
   bool askBackupNow();
   void runNotifier(const Json::Value& notifications);

@@ -12,6 +12,7 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "core/answer-limits.h"
 #include "core/global-connecter.h"
 #include "env.h"
 #include "json-access.h"
@@ -41,17 +42,18 @@ ServiceCommunicator::ServiceCommunicator(QObject* parent) : QObject(parent) {
   GlobalConnecter* bus = &GlobalConnecter::instance();
   connect(bus, SIGNAL(sigQueryService(const QObject*, Json::Value)), this,
           SLOT(slotQueryService(const QObject*, Json::Value)));
-  connect(this, SIGNAL(sigQueryServiceDone(const QObject*, Json::Value)), bus,
-          SIGNAL(sigQueryServiceDone(const QObject*, Json::Value)));
-  connect(this, SIGNAL(sigQueryServiceFailed()), bus, SIGNAL(sigQueryServiceFailed()));
+  connect(this, &ServiceCommunicator::sigQueryServiceDone, bus, &GlobalConnecter::sigQueryServiceDone);
+  connect(this, &ServiceCommunicator::sigQueryServiceFailed, bus, &GlobalConnecter::sigQueryServiceFailed);
+  connect(this, &ServiceCommunicator::sigQueryServiceEnded, bus, &GlobalConnecter::sigQueryServiceEnded);
   // Runs on the thread that quits (the main thread), while this object's
   // thread may be inside an exchange.
   if (QCoreApplication* app = QCoreApplication::instance())
-    connect(app, &QCoreApplication::aboutToQuit, this, [this] { cancelRequests(); }, Qt::DirectConnection);
+    connect(
+        app, &QCoreApplication::aboutToQuit, this, [this] { cancelRequests(); }, Qt::DirectConnection);
 }
 
 std::string ServiceCommunicator::maskedForLog(const Json::Value& request) {
-  return jsonx::masked(request).toStyledString();
+  return jsonx::compact(jsonx::masked(request));
 }
 
 void ServiceCommunicator::cancelRequests() {
@@ -108,10 +110,12 @@ void ServiceCommunicator::slotQueryService(const QObject* sender, const Json::Va
   }
 
   if (result == 0) {
-    emit sigQueryServiceDone(sender, response);
+    // One tree for every listener, however many queued connections carry it.
+    emit sigQueryServiceDone(sender, SharedJson(std::move(response)));
   } else {
     emit sigQueryServiceFailed();
   }
+  emit sigQueryServiceEnded(sender);
 }
 
 int ServiceCommunicator::query(const Json::Value& request, Json::Value& response) {
@@ -125,20 +129,34 @@ int ServiceCommunicator::query(const Json::Value& request, Json::Value& response
   // request (it may carry a token) nor be able to answer it.
   const WinIpc::Peer peer = client.peer();
   if (!WinIpc::trusted_peer(peer)) {
-    LOG_ERROR(vlog::kDefaultComponent, "service pipe is served by uid %lu (pid %ld), not by the service: nothing sent",
-              peer.uid, peer.pid);
+    LOG_ERROR(vlog::kDefaultComponent,
+              "service pipe is served by uid %lu (pid %ld), not by the service: nothing sent", peer.uid,
+              peer.pid);
     return -1;
   }
   if (client.write(request.toStyledString(), &quit_) != 0) {
     if (!quit_.load())
-      LOG_ERROR(vlog::kDefaultComponent, "Failed to send request to service '%s'", maskedForLog(request).c_str());
+      LOG_ERROR(vlog::kDefaultComponent, "Failed to send request to service '%s'",
+                maskedForLog(request).c_str());
     return -1;
   }
   std::string text;
   // No overall time limit (a long answer may take the service a while), but
-  // a size cap, and quitting ends the wait.
-  if (client.read(text, WinIpc::Limits{WinIpc::kServiceAnswerCap, 0, 0}, &quit_) != 0) {
-    if (!quit_.load()) LOG_ERROR(vlog::kDefaultComponent, "Failed to recv response from service");
+  // the size cap of the action, and quitting ends the wait.
+  const std::string action = jsonx::get_string(request, "action");
+  const answer_limits::Cap cap = answer_limits::for_action(action);
+  if (client.read(text, WinIpc::Limits{cap.max_bytes, 0, 0}, &quit_) != 0) {
+    if (!quit_.load())
+      LOG_ERROR(vlog::kDefaultComponent,
+                "Failed to recv response from service (the answer to '%s' may hold %zu bytes)",
+                action.c_str(), cap.max_bytes);
+    return -1;
+  }
+  // Refused before it is parsed: parsing costs far more than the text.
+  const std::size_t elements = answer_limits::count_elements(text, cap.max_elements);
+  if (elements > cap.max_elements) {
+    LOG_ERROR(vlog::kDefaultComponent, "answer to '%s' refused: more than %zu elements in %zu bytes",
+              action.c_str(), cap.max_elements, text.size());
     return -1;
   }
   std::string error;
@@ -220,10 +238,12 @@ void ServiceIpcServer::init() {
   // Anyone can take a name first: the agent starts all the same and takes
   // the pipe over once it is free.
   if (holder.known) {
-    LOG_ERROR(vlog::kDefaultComponent, "agent pipe held by uid %lu (pid %ld); notifications wait until it is free",
-              holder.uid, holder.pid);
+    LOG_ERROR(vlog::kDefaultComponent,
+              "agent pipe held by uid %lu (pid %ld); notifications wait until it is free", holder.uid,
+              holder.pid);
   } else {
-    LOG_ERROR(vlog::kDefaultComponent, "agent pipe held by an unknown process; notifications wait until it is free");
+    LOG_ERROR(vlog::kDefaultComponent,
+              "agent pipe held by an unknown process; notifications wait until it is free");
   }
 }
 
@@ -263,8 +283,8 @@ void ServiceIpcServer::handleConnection() {
   const WinIpc::Peer peer = server_.peer();
   if (!WinIpc::trusted_peer(peer)) {
     // Not the service and not this user: nothing is read and nothing answered.
-    LOG_ERROR(vlog::kDefaultComponent, "refused a client of uid %lu (pid %ld) on the agent pipe", peer.uid,
-              peer.pid);
+    LOG_THROTTLED(refusedLog_, LOG_ERROR, vlog::kDefaultComponent,
+                  "refused a client of uid %lu (pid %ld) on the agent pipe", peer.uid, peer.pid);
     server_.disconnect();
     return;
   }
@@ -272,7 +292,7 @@ void ServiceIpcServer::handleConnection() {
   // Capped and bounded in time: a client that sends nothing, streams without
   // end or never finishes is dropped, and stop() is seen while waiting.
   if (server_.read(text, WinIpc::agent_pipe_limits(), &stop_) != 0) {
-    if (!stop_) LOG_ERROR(vlog::kDefaultComponent, "failed to recv request");
+    if (!stop_) LOG_THROTTLED(incompleteLog_, LOG_ERROR, vlog::kDefaultComponent, "failed to recv request");
   } else {
     Json::Value request;
     std::string errors;
@@ -298,7 +318,8 @@ bool ServiceIpcServer::dispatch(const Json::Value& request) {
       emit sigHandleNotifications(request);
       return true;
     }
-    LOG_ERROR(vlog::kDefaultComponent, "not support action: %s", writeCompact(jsonx::masked(request)).c_str());
+    LOG_ERROR(vlog::kDefaultComponent, "not support action: %s",
+              writeCompact(jsonx::masked(request)).c_str());
     return false;
   }
   LOG_ERROR(vlog::kDefaultComponent, "format invalid: %s", writeCompact(jsonx::masked(request)).c_str());

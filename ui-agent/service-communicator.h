@@ -24,6 +24,7 @@
 #include <QThread>
 
 #include "core/json-meta-type.h"
+#include "log-throttle.h"
 #include "win-ipc.h"
 
 class ServiceCommunicator : public QObject {
@@ -32,9 +33,9 @@ class ServiceCommunicator : public QObject {
  public:
   explicit ServiceCommunicator(QObject* parent = nullptr);
 
-  // The request as it may appear in a log line, written styled: every
-  // secret member at any depth (`token`, `access_token`, names with
-  // password, otp or secret in them) masked as "***" unless empty.
+  // A request or answer as it may appear in a log line, on one line: every
+  // secret member at any depth and every secret query parameter masked as
+  // "***" unless empty (see jsonx::masked).
   static std::string maskedForLog(const Json::Value& request);
 
   // Makes the exchange in progress (and every later one) give up within
@@ -48,8 +49,10 @@ class ServiceCommunicator : public QObject {
   static std::string updateStatusFromFile();
 
  signals:
-  void sigQueryServiceDone(const QObject* sender, const Json::Value& response);
+  void sigQueryServiceDone(const QObject* sender, const SharedJson& response);
   void sigQueryServiceFailed();
+  // After every request, answered or failed.
+  void sigQueryServiceEnded(const QObject* sender);
 
  public slots:
   void slotQueryService(const QObject* sender, const Json::Value& request);
@@ -98,6 +101,10 @@ class ServiceIpcServer : public QThread {
   void retakePipe();
 
   WinIpc::IpcServer server_;
+  // A client refused, or one that sent no complete request: a line per
+  // interval, whatever a peer does on every connection.
+  vlog::LogThrottle refusedLog_;
+  vlog::LogThrottle incompleteLog_;
   std::atomic<bool> serving_{false};
   int retakeDelayMs_ = 0;
   std::atomic<bool> stop_{true};

@@ -114,13 +114,24 @@ MachineLock::Result MachineLock::acquire() {
                static_cast<int>(cred.pid));
       return HeldBySameUser;
     }
-    LOG_WARN(vlog::kDefaultComponent, "machine lock [%s] held by another user (uid %lu, pid %d)", name.c_str(),
-             static_cast<unsigned long>(cred.uid), static_cast<int>(cred.pid));
+    LOG_WARN(vlog::kDefaultComponent, "machine lock [%s] held by another user (uid %lu, pid %d)",
+             name.c_str(), static_cast<unsigned long>(cred.uid), static_cast<int>(cred.pid));
     return HeldByOtherUser;
   }
-  LOG_WARN(vlog::kDefaultComponent, "machine lock [%s] taken by a process that does not answer; counted as "
-           "another user's", name.c_str());
+  LOG_WARN(vlog::kDefaultComponent,
+           "machine lock [%s] taken by a process that does not answer; counted as "
+           "another user's",
+           name.c_str());
   return HeldByOtherUser;
+}
+
+MachineLock::Result MachineLock::acquireForLife(int wait_ms) {
+  const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(wait_ms);
+  for (;;) {
+    const Result r = acquire();
+    if (r != HeldBySameUser || std::chrono::steady_clock::now() >= deadline) return r;
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+  }
 }
 
 void MachineLock::hold(int fd) {

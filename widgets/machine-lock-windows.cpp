@@ -54,6 +54,20 @@ MachineLock::Result MachineLock::acquire() {
   return Acquired;
 }
 
+MachineLock::Result MachineLock::acquireForLife(int) {
+  const Result r = acquire();
+  if (r != HeldBySameUser) return r;
+  // This user's mutex: a handle kept open keeps it (and its access list)
+  // alive while this process runs, whoever created it.
+  const std::string narrow = systemName();
+  const std::wstring wide(narrow.begin(), narrow.end());
+  HANDLE h = ::CreateMutexW(nullptr, FALSE, wide.c_str());
+  if (!h) return Failed;
+  impl_->mutex = h;
+  LOG_INFO(vlog::kDefaultComponent, "machine lock [%s] kept for the life of this agent", narrow.c_str());
+  return Acquired;
+}
+
 void MachineLock::release() {
   if (!impl_->mutex) return;
   ::ReleaseMutex(impl_->mutex);

@@ -37,6 +37,12 @@ class MachineLock {
   MachineLock& operator=(const MachineLock&) = delete;
 
   Result acquire();
+  // For the primary agent, which must hold the lock for its whole life even
+  // when it was held by this user at first (an agent that was exiting):
+  // Linux asks again until the holder let go (for up to `wait_ms`), Windows
+  // keeps a handle to this user's mutex so that it stays while this process
+  // runs. Acquired, or why not.
+  Result acquireForLife(int wait_ms);
   // Gives the lock up (also done by the destructor). Harmless when not held.
   void release();
   bool held() const;

@@ -18,6 +18,7 @@
 #include "logger.h"
 #include "style-manager.h"
 #include "vell-button.h"
+#include "web-link.h"
 
 namespace {
 
@@ -128,12 +129,12 @@ VellMessageSheet::VellMessageSheet(int messageType, QWidget* parent, bool sheet,
   text_->setObjectName(QStringLiteral("VellMessageSheetText"));
   text_->setWordWrap(true);
   text_->setTextInteractionFlags(Qt::TextBrowserInteraction);
-  text_->setOpenExternalLinks(true);
+  web_link::route(text_, "message sheet link");
   informative_ = new QLabel(this);
   informative_->setObjectName(QStringLiteral("VellMessageSheetInformativeText"));
   informative_->setWordWrap(true);
   informative_->setTextInteractionFlags(Qt::TextBrowserInteraction);
-  informative_->setOpenExternalLinks(true);
+  web_link::route(informative_, "message sheet link");
   informative_->hide();
   copyable_text::enableLabel(text_);
   copyable_text::enableLabel(informative_);

@@ -2,10 +2,12 @@
 // values in the lines, close-on-exec descriptors that are all given back.
 
 #include <fcntl.h>
+#include <sys/resource.h>
 
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <chrono>
 #include <filesystem>
 #include <set>
 #include <string>
@@ -98,6 +100,32 @@ TEST(PosixTransport, DescriptorsAreClosedOnExecAndGivenBack) {
     EXPECT_EQ(open_fds().size(), before.size() + 2);
   }
   EXPECT_EQ(open_fds(), before);
+}
+
+// With file handles exhausted accept fails at once, again and again: each
+// round waits before it returns (50 ms, doubling) and one line is written,
+// so a server loop never spins and never floods the log.
+TEST(PosixTransport, FailingAcceptBacksOffAndLogsOnce) {
+  ipc_test::LogCapture log;
+  const std::string name = ipc_test::unique_pipe("emfile");
+  IpcServer server;
+  ASSERT_EQ(server.create(name), 0);
+  IpcClient client;
+  ASSERT_EQ(client.connect(name, 3000), 0);  // waits in the backlog
+  rlimit old{};
+  ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &old), 0);
+  const int lowest_free = ::dup(0);  // the number the next descriptor gets
+  ::close(lowest_free);
+  rlimit low = old;
+  low.rlim_cur = static_cast<rlim_t>(lowest_free);
+  ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &low), 0);
+  const auto start = std::chrono::steady_clock::now();
+  for (int i = 0; i < 4; ++i) EXPECT_FALSE(server.accept());
+  const auto waited = std::chrono::steady_clock::now() - start;
+  ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &old), 0);
+  EXPECT_GE(waited, std::chrono::milliseconds(50 + 100 + 200 + 400));
+  EXPECT_EQ(log.count("connect pipe failed"), 1) << log.text();
+  EXPECT_TRUE(server.accept()) << "accepts again once handles are free";
 }
 
 }  // namespace

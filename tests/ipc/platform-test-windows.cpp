@@ -56,4 +56,23 @@ TEST(WindowsTransport, SquatterWithFreeInstancesStillBlocksCreate) {
   ::CloseHandle(squatter);
 }
 
+// Before a request is written the client knows who serves the pipe: here
+// this process, so this user (a squatter of another user would not be).
+TEST(WindowsTransport, ClientNamesTheServersUser) {
+  ipc_test::LogCapture log;
+  const std::string name = ipc_test::unique_pipe("owner");
+  WinIpc::IpcServer server;
+  ASSERT_EQ(server.create(name), 0) << log.text();
+  WinIpc::IpcClient client;
+  ASSERT_EQ(client.connect(name, 3000), 0) << log.text();
+  const WinIpc::Peer peer = client.peer();
+  EXPECT_TRUE(peer.known);
+  EXPECT_EQ(peer.pid, static_cast<long>(::GetCurrentProcessId()));
+  EXPECT_EQ(peer.uid, WinIpc::current_user());
+  EXPECT_TRUE(WinIpc::trusted_peer(peer));
+  WinIpc::Peer stranger = peer;
+  stranger.uid = WinIpc::current_user() + 1;
+  EXPECT_FALSE(WinIpc::trusted_peer(stranger));
+}
+
 }  // namespace

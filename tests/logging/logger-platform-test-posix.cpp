@@ -60,4 +60,25 @@ TEST(LoggerPlatform, SymbolicLinkOrFifoInThePlaceOfTheLogIsRefused) {
   EXPECT_EQ(vlog::platform::open_append(logtest::wide(fifo)), nullptr);
 }
 
+// Another user made the log folder or the file first (0666): nothing is
+// written there, and standard error says so once.
+TEST(LoggerPlatform, AFolderOrFileOfAnotherUserIsRefused) {
+  if (::geteuid() != 0) GTEST_SKIP() << "needs root to give a file to another user";
+  nimbra_test::TempDir dir;
+  const std::string theirs = dir.file("theirs");
+  ASSERT_EQ(::mkdir(theirs.c_str(), 0777), 0);
+  ASSERT_EQ(::chown(theirs.c_str(), 65534, 65534), 0);
+  const std::string planted = dir.file("ui.txt");
+  nimbra_test::write_file(planted, "");
+  ASSERT_EQ(::chmod(planted.c_str(), 0666), 0);
+  ASSERT_EQ(::chown(planted.c_str(), 65534, 65534), 0);
+  ::testing::internal::CaptureStderr();
+  EXPECT_EQ(vlog::platform::open_append(logtest::wide(theirs + "/ui.txt")), nullptr);
+  EXPECT_EQ(vlog::platform::open_append(logtest::wide(planted)), nullptr);
+  const std::string said = ::testing::internal::GetCapturedStderr();
+  EXPECT_NE(said.find("belongs to uid 65534"), std::string::npos) << said;
+  EXPECT_EQ(said.find('\n'), said.size() - 1) << "one line: " << said;
+  EXPECT_EQ(nimbra_test::read_file(planted), "");
+}
+
 }  // namespace

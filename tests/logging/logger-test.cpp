@@ -59,8 +59,11 @@ TEST_F(LoggerTest, LinesHaveTheFixedForm) {
   }
   vlog::log(vlog::kDefaultLogger, vlog::kError, vlog::kWinIpc, "no newline %d", 1);
   vlog::log(vlog::kDefaultLogger, vlog::kError, vlog::kWinIpc, "one newline %d\n", 2);
+  // Line breaks in outside data never start a line of their own.
+  vlog::log(vlog::kDefaultLogger, vlog::kError, vlog::kWinIpc, "peer said %s", "a\r\n[ERROR] forged\n");
   const auto lines = split_lines(text());
-  ASSERT_EQ(5u, lines.size()) << text();
+  ASSERT_EQ(6u, lines.size()) << text();
+  EXPECT_THAT(lines[5], EndsWith(" svc| peer said a\\r\\n[ERROR] forged\\n"));
   EXPECT_THAT(lines[3], EndsWith(" svc| no newline 1"));
   EXPECT_THAT(lines[4], EndsWith(" svc| one newline 2"));
   std::smatch m;
@@ -100,7 +103,9 @@ struct ThresholdCase {
   const char* component;
   int threshold;
 };
-void PrintTo(const ThresholdCase& c, std::ostream* os) { *os << c.name; }
+void PrintTo(const ThresholdCase& c, std::ostream* os) {
+  *os << c.name;
+}
 
 const char kSettings[] =
     "# thresholds per component\n"
@@ -187,13 +192,15 @@ TEST_F(LoggerTest, LongLinesAreCutAt4KBWithTheCountOfBytesCut) {
   std::string wide_text;
   for (int i = 0; i < 3000; ++i) wide_text += "\xC3\xA9";
   vlog::log(vlog::kDefaultLogger, vlog::kError, vlog::kDefaultComponent, "%s\n", wide_text.c_str());
-  vlog::log(vlog::kDefaultLogger, vlog::kError, vlog::kDefaultComponent, "%s\n", std::string(4096, 'e').c_str());
+  vlog::log(vlog::kDefaultLogger, vlog::kError, vlog::kDefaultComponent, "%s\n",
+            std::string(4096, 'e').c_str());
   const auto lines = split_lines(text());
   ASSERT_EQ(lines.size(), 3u) << text().substr(0, 300);
   std::smatch m;
   ASSERT_TRUE(std::regex_match(lines[0], m, std::regex("(" + kStamp + ")(.*)")));
   const std::string first = m[2].str();
-  const std::string suffix = "... [" + std::to_string(first.find("big ") + 4 + big.size() + 4 - 4096) + " bytes cut]";
+  const std::string suffix =
+      "... [" + std::to_string(first.find("big ") + 4 + big.size() + 4 - 4096) + " bytes cut]";
   EXPECT_THAT(first, EndsWith(suffix));
   EXPECT_EQ(first.size(), 4096 + suffix.size());
   ASSERT_TRUE(std::regex_match(lines[1], m, std::regex("(" + kStamp + ")(.*)")));

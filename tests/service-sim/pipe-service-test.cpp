@@ -9,10 +9,15 @@
 #include <thread>
 #include <vector>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "../ui-agent/hostile/foreign-process.h"
 #include "agent-client.h"
 #include "device-model.h"
 #include "pipe-service.h"
 #include "sim-test-util.h"
+#include "support/log-capture.h"
 #include "support/temp-dir.h"
 #include "win-ipc.h"
 
@@ -165,6 +170,48 @@ TEST_F(SimPipeTest, ManyClientsWhileTheModelMovesAndASecondServiceIsRefused) {
   done = true;
   mover.join();
   EXPECT_EQ(good.load(), 160);
+}
+
+// Another user gets nothing (its logout does not unlink the device) and a
+// flood of its connections costs one log line; clients of this user that
+// hold connections without a word do not keep the next one waiting; the
+// record is for this user only and a huge request is cut in it.
+TEST_F(SimPipeTest, AnotherUserIsRefusedSilentClientsStarveNobodyAndTheRecordStaysSmallAndPrivate) {
+  if (!hostile::canPlayAnotherUser()) GTEST_SKIP() << "needs root to play another user";
+  nimbra_test::LogCapture log;
+  start();
+  const std::string name = WinIpc::platform_pipe_name(WinIpc::kServicePipe);
+  const std::string logout = std::string(R"({"action":"logout"})") + WinIpc::kEndMarker;
+  hostile::ForeignProcess other(hostile::kForeignUid, [&](int out, int) {
+    int fd = hostile::rawConnect(name.c_str());
+    if (fd < 0) return 2;
+    hostile::rawSendAll(fd, logout.data(), logout.size());
+    char reply[256];
+    hostile::rawTell(out, hostile::rawReadFor(fd, reply, sizeof reply, 3000) == 0 ? 'n' : 'y');
+    ::close(fd);
+    for (int i = 0; i < 2000; ++i) ::close(hostile::rawConnect(name.c_str()));
+    hostile::rawTell(out, 'd');
+    return 0;
+  });
+  EXPECT_EQ(other.hear(), 'n') << "the other user got an answer";
+  EXPECT_EQ(other.hear(15000), 'd');
+  EXPECT_EQ(log.count("refused a client of uid 65534"), 1) << "one line for the whole flood";
+  EXPECT_NE(simtest::num(parse(send().answer), "status") & 0xF000, 0x1000) << "the device was unlinked";
+
+  std::vector<std::unique_ptr<WinIpc::IpcClient>> silent;
+  for (int i = 0; i < 4; ++i) {
+    silent.push_back(std::make_unique<WinIpc::IpcClient>());
+    ASSERT_EQ(silent.back()->connect(WinIpc::kServicePipe, 1000), 0);
+  }
+  const sim::Exchange served = send(R"({"action":"get_status"})", 3000);
+  EXPECT_TRUE(served.ok) << "waited behind silent clients: " << served.error;
+
+  const std::string huge = "{\"action\":\"get_status\",\"pad\":\"" + std::string(900 * 1024, 'p') + "\"}";
+  ASSERT_TRUE(send(huge).ok);
+  struct stat st {};
+  ASSERT_EQ(::stat(dir_.file("record.jsonl").c_str(), &st), 0);
+  EXPECT_EQ(st.st_mode & 0777, 0600u);
+  EXPECT_LT(st.st_size, 8 * 1024) << "the huge request went into the record whole";
 }
 
 }  // namespace

@@ -12,12 +12,10 @@
 
 GetStatusWorker::GetStatusWorker(QObject* parent) : QObject(parent) {
   GlobalConnecter* bus = &GlobalConnecter::instance();
-  connect(bus, SIGNAL(sigQueryServiceDone(const QObject*, Json::Value)), this,
-          SLOT(slotQueryServiceDone(const QObject*, Json::Value)));
-  connect(this, SIGNAL(sigQueryService(const QObject*, Json::Value)), bus,
-          SIGNAL(sigQueryService(const QObject*, Json::Value)));
-  connect(this, SIGNAL(sigNotifyStatusChange(ServiceStatus, ServiceStatus, Json::Value)), bus,
-          SIGNAL(sigNotifyStatusChange(ServiceStatus, ServiceStatus, Json::Value)));
+  connect(bus, &GlobalConnecter::sigQueryServiceDone, this, &GetStatusWorker::slotQueryServiceDone);
+  connect(bus, &GlobalConnecter::sigQueryServiceEnded, this, &GetStatusWorker::slotQueryServiceEnded);
+  connect(this, &GetStatusWorker::sigQueryService, bus, &GlobalConnecter::sigQueryService);
+  connect(this, &GetStatusWorker::sigNotifyStatusChange, bus, &GlobalConnecter::sigNotifyStatusChange);
 }
 
 GetStatusWorker::~GetStatusWorker() {
@@ -62,14 +60,21 @@ bool GetStatusWorker::isPolling() const {
 }
 
 void GetStatusWorker::slotQueryServiceStatus() {
+  if (inFlight_) return;
+  inFlight_ = true;
   Json::Value request(Json::objectValue);
   request["action"] = "get_status";
   request["log_id"] = Json::UInt64(StatusStore::instance().getLastLogId());
   emit sigQueryService(this, request);
 }
 
-void GetStatusWorker::slotQueryServiceDone(const QObject* sender, const Json::Value& response) {
+void GetStatusWorker::slotQueryServiceEnded(const QObject* sender) {
+  if (sender == this) inFlight_ = false;
+}
+
+void GetStatusWorker::slotQueryServiceDone(const QObject* sender, const SharedJson& answer) {
   if (sender != this) return;
+  const Json::Value& response = answer;
 
   StatusStore& store = StatusStore::instance();
   const ServiceStatus previous = store.status();
@@ -89,8 +94,9 @@ void GetStatusWorker::slotQueryServiceDone(const QObject* sender, const Json::Va
   const ServiceStatus current = service_status::from_int64(jsonx::get_int64(response, "status"));
   // A `content` that is not an object counts as missing.
   const Json::Value& member_content = jsonx::member(response, "content");
-  static const Json::Value missing;
-  const Json::Value& content = jsonx::is_object(member_content) ? member_content : missing;
+  // Shared with the answer, never copied.
+  const SharedJson content =
+      jsonx::is_object(member_content) ? SharedJson(answer, member_content) : SharedJson();
   store.setStatus(current, content);
 
   const Json::Value& connection = jsonx::member(response, "connection");

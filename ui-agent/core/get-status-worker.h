@@ -3,7 +3,8 @@
 // state once a second ("get_status" with the newest activity-log id seen),
 // keeps the answer in the StatusStore and announces every answer on the bus
 // as sigNotifyStatusChange(previous, current, content). It makes no
-// decisions of its own.
+// decisions of its own. At most one get_status is in flight: a tick while
+// one is outstanding is skipped.
 //
 // The worker lives on a thread of its own. startPolling(), stopPolling() and
 // isPolling() are called from the main thread; the timer is created there
@@ -39,11 +40,13 @@ class GetStatusWorker : public QObject {
 
  signals:
   void sigQueryService(const QObject* sender, const Json::Value& request);
-  void sigNotifyStatusChange(ServiceStatus previous, ServiceStatus current, const Json::Value& current_content);
+  void sigNotifyStatusChange(ServiceStatus previous, ServiceStatus current,
+                             const SharedJson& current_content);
 
  public slots:
   void slotQueryServiceStatus();
-  void slotQueryServiceDone(const QObject* sender, const Json::Value& response);
+  void slotQueryServiceDone(const QObject* sender, const SharedJson& response);
+  void slotQueryServiceEnded(const QObject* sender);
 
  private:
   QTimer* timer_ = nullptr;
@@ -51,4 +54,8 @@ class GetStatusWorker : public QObject {
   // thread.
   std::string answerProblem_;
   std::atomic<bool> polling_{false};
+  // A get_status is on its way (asked, neither answered nor failed yet): a
+  // tick meanwhile asks nothing, so a hung service never finds a pile of
+  // requests when it comes back. On the worker's thread.
+  bool inFlight_ = false;
 };

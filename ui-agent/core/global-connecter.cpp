@@ -14,6 +14,9 @@ GlobalConnecter& GlobalConnecter::instance() {
 GlobalConnecter::GlobalConnecter() : QObject(nullptr) {
   qRegisterMetaType<std::uint64_t>("uint64_t");
   qRegisterMetaType<Json::Value>("Json::Value");
+  qRegisterMetaType<SharedJson>("SharedJson");
+  // A spy or a QVariant reads a shared answer as the value it holds.
+  QMetaType::registerConverter<SharedJson, Json::Value>([](const SharedJson& v) { return v.value(); });
   qRegisterMetaType<ConnectionInfo>("ConnectionInfo");
   qRegisterMetaType<ServiceStatus>("ServiceStatus");
   // The requester's address rides along with every request and answer.

@@ -5,6 +5,9 @@
 // main thread, so signals emitted on worker threads reach their listeners
 // through queued delivery; every type carried here is a registered meta-type.
 //
+// Answers and the status content travel as SharedJson: one tree, shared
+// read-only by every listener (slots may take `const Json::Value&`).
+//
 // sigQueryServiceDone is a broadcast: every requester receives every answer
 // and must compare `sender` with its own address before reading it.
 
@@ -38,14 +41,17 @@ class GlobalConnecter : public QObject {
   void sigGetConnectionInfo();
   void sigConnectServer(ConnectionInfo info);
   void sigQueryService(const QObject* sender, const Json::Value& request);
-  void sigQueryServiceDone(const QObject* sender, const Json::Value& response);
+  void sigQueryServiceDone(const QObject* sender, const SharedJson& response);
   void sigQueryServiceFailed();
+  // After every request, answered (after sigQueryServiceDone) or failed
+  // (after sigQueryServiceFailed), for the requester that keeps count.
+  void sigQueryServiceEnded(const QObject* sender);
   void sigLogoutService();
   void sigExitApplication();
   void sigCancelCreateDevice();
   void sigCreateDevice(const QString& zid, const QString& sub_id, const QString& account_type);
   void sigGetAuthURL();
-  void sigNotifyStatusChange(ServiceStatus previous, ServiceStatus current, const Json::Value& content);
+  void sigNotifyStatusChange(ServiceStatus previous, ServiceStatus current, const SharedJson& content);
   void sigShowMessage(QString title, QString message);
   void sigMessageReceived(const QString& message);
   void sigOpenLogWindow();

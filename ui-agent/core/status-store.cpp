@@ -10,7 +10,7 @@ StatusStore& StatusStore::instance() {
 void StatusStore::getStatus(ServiceStatus& status, Json::Value& content) const {
   QMutexLocker lock(&mutex_);
   status = status_;
-  content = content_;
+  content = content_.value();
 }
 
 ServiceStatus StatusStore::status() const {
@@ -18,10 +18,10 @@ ServiceStatus StatusStore::status() const {
   return status_;
 }
 
-void StatusStore::setStatus(ServiceStatus status, const Json::Value& content) {
+void StatusStore::setStatus(ServiceStatus status, SharedJson content) {
   QMutexLocker lock(&mutex_);
   status_ = status;
-  content_ = content;
+  content_ = std::move(content);
 }
 
 int StatusStore::getConnectionInfo(ConnectionInfo& info) const {

@@ -10,6 +10,7 @@
 #include <QMutex>
 
 #include "core/connection-info.h"
+#include "core/json-meta-type.h"
 #include "core/service-status.h"
 
 class StatusStore {
@@ -24,7 +25,8 @@ class StatusStore {
   void getStatus(ServiceStatus& status, Json::Value& content) const;
   // The status alone, without copying its content.
   ServiceStatus status() const;
-  void setStatus(ServiceStatus status, const Json::Value& content);
+  // Keeps `content` shared with whoever else holds it (no copy).
+  void setStatus(ServiceStatus status, SharedJson content);
 
   // 0 and `info` filled when a connection is held; otherwise -1 and `info`
   // left as it was.
@@ -39,7 +41,7 @@ class StatusStore {
  private:
   mutable QMutex mutex_;
   ServiceStatus status_ = StatusUnknown;
-  Json::Value content_;
+  SharedJson content_;
   ConnectionInfo connection_;
   bool has_connection_ = false;
   std::uint64_t last_log_id_ = 0;

@@ -1,6 +1,5 @@
 #include "about-window.h"
 
-#include <QDesktopServices>
 #include <QGraphicsDropShadowEffect>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -17,6 +16,7 @@
 #include "style-manager.h"
 #include "vell-button.h"
 #include "vell-label.h"
+#include "web-link.h"
 #include "window-placement.h"
 
 namespace {
@@ -165,8 +165,7 @@ void AboutWindow::slotOpenBrowser() {
     LOG_WARN(vlog::kDefaultComponent, "about window: no address for the link clicked");
     return;
   }
-  if (!QDesktopServices::openUrl(url))
-    LOG_WARN(vlog::kDefaultComponent, "about window: cannot open %s", qUtf8Printable(url.toString()));
+  web_link::open(url.toString(), "about window link");
 }
 
 void AboutWindow::keyPressEvent(QKeyEvent* event) {

@@ -1,14 +1,12 @@
 #include "settings-widget.h"
 
 #include <QCloseEvent>
-#include <QDesktopServices>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRegularExpressionValidator>
-#include <QUrl>
 #include <QVBoxLayout>
 
 #include "core/global-connecter.h"
@@ -23,6 +21,7 @@
 #include "vell-label.h"
 #include "vell-scroll-area.h"
 #include "vell-time-combo-box.h"
+#include "web-link.h"
 #include "window-placement.h"
 
 namespace {
@@ -83,7 +82,7 @@ SettingsWidget::SettingsWidget(QWidget* parent) : QWidget(parent) {
   connect(m_cancelButton, &QPushButton::clicked, this, &QWidget::hide);
   connect(m_saveButton, &QPushButton::clicked, this, &SettingsWidget::slotSaveSettings);
   connect(m_learnMoreLink, &LinkLabel::clicked, this,
-          [] { QDesktopServices::openUrl(QUrl(QString::fromLatin1(kLearnMoreUrl))); });
+          [] { web_link::open(QString::fromLatin1(kLearnMoreUrl), "learn more link"); });
 
   loadClientConfig(defaultClientConfig());
   setReadingTabOrder();

@@ -5,6 +5,7 @@
 #include "dpi-info.h"
 #include "relative-age.h"
 #include "string-display.h"
+#include "web-link.h"
 
 LatestEventLine::LatestEventLine(QWidget* parent, const QString& prefix)
     : event_(new QLabel(parent)), age_(new QLabel(parent)), fitter_(event_fit::Fitter::tray()) {
@@ -15,7 +16,7 @@ LatestEventLine::LatestEventLine(QWidget* parent, const QString& prefix)
   event_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   event_->setWordWrap(true);
   event_->setTextFormat(Qt::RichText);
-  event_->setOpenExternalLinks(true);
+  web_link::route(event_, "activity link");
   age_->setObjectName(prefix + QStringLiteral("EventAge"));
   age_->setStyleSheet(DPIinfo::getScaledStyleSheet(
       QStringLiteral("QLabel { color: rgba(80,90,100,0.65); font-size: 12px; }")));

@@ -16,6 +16,7 @@
 #include "string-display.h"
 #include "style-manager.h"
 #include "vell-button.h"
+#include "web-link.h"
 #include "window-placement.h"
 
 namespace {
@@ -198,7 +199,7 @@ void LogWidget::fillRow(int row, const LogEntry& entry) {
   label->setWordWrap(true);
   label->setFixedWidth(DPIinfo::scaled(441));
   label->setText(fitter_.labelText(fitted.message));
-  label->setOpenExternalLinks(true);
+  web_link::route(label, "activity link");
   label->resize(fitted.size);  // what adjustSize() gives, measured by the fit
 
   const QString plain = string_display::render_event_message(entry, false, 449);

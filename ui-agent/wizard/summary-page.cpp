@@ -12,6 +12,7 @@
 #include "style-manager.h"
 #include "summary-text.h"
 #include "summary-widget.h"
+#include "web-link.h"
 
 namespace {
 
@@ -47,7 +48,7 @@ SummaryPage::SummaryPage(QWidget* parent) : QWidget(parent) {
   intro_->setWordWrap(true);
   intro_->setAlignment(Qt::AlignCenter);
   intro_->setTextFormat(Qt::RichText);
-  intro_->setOpenExternalLinks(true);
+  web_link::route(intro_, "summary page link");
   intro_->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
   intro_->setFocusPolicy(Qt::StrongFocus);
   intro_->setAccessibleName(text(Str::desc_summary));

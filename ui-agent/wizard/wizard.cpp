@@ -13,6 +13,7 @@
 #include "core/status-store.h"
 #include "dpi-info.h"
 #include "image-manager.h"
+#include "json-access.h"
 #include "logger.h"
 #include "nimbra-loading-frame.h"
 #include "string-display.h"
@@ -144,7 +145,8 @@ void Wizard::hideConnecting() {
 void Wizard::showError(int code, const Json::Value& response) {
   hideConnecting();
   const QString message = service_error::message(code, response);
-  LOG_INFO(vlog::kDefaultComponent, "wizard shows error %d: %s", code, qUtf8Printable(message));
+  LOG_INFO(vlog::kDefaultComponent, "wizard shows error %d: %s", code,
+           jsonx::masked_text(message.toStdString()).c_str());
   VellMessageSheet sheet(VellMessageSheet::Error, this, true);
   sheet.setFixedWidth(DPIinfo::scaled(480));
   // Error texts run to several lines: the sheet's plain body weight reads

@@ -179,17 +179,72 @@ std::string compact(const Json::Value& v) {
 }
 
 bool is_secret_name(const std::string& name) {
-  std::string lower(name);
-  for (char& c : lower)
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  static const std::string kTokenSuffix = "_token";
-  if (lower == "token") return true;
-  if (lower.size() > kTokenSuffix.size() &&
-      lower.compare(lower.size() - kTokenSuffix.size(), kTokenSuffix.size(), kTokenSuffix) == 0)
-    return true;
-  for (const char* part : {"password", "otp", "secret"})
-    if (lower.find(part) != std::string::npos) return true;
+  // Letter case and separators do not matter: "access_token", "accessToken"
+  // and "Access-Token" are one name.
+  std::string flat;
+  for (char c : name) {
+    if (c == '_' || c == '-' || c == '.' || c == ' ') continue;
+    flat.push_back(c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c);
+  }
+  const auto ends_with = [&flat](const std::string& tail) {
+    return flat.size() >= tail.size() && flat.compare(flat.size() - tail.size(), tail.size(), tail) == 0;
+  };
+  if (ends_with("token") || ends_with("key") || ends_with("sessionid")) return true;
+  for (const char* part : {"password", "passwd", "otp", "secret", "credential"})
+    if (flat.find(part) != std::string::npos) return true;
   return false;
+}
+
+namespace {
+
+int hex_value(char c) {
+  if (c >= '0' && c <= '9') return c - '0';
+  if (c >= 'a' && c <= 'f') return c - 'a' + 10;
+  if (c >= 'A' && c <= 'F') return c - 'A' + 10;
+  return -1;
+}
+
+std::string percent_decoded(const std::string& text) {
+  std::string out;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '%' && i + 2 < text.size() && hex_value(text[i + 1]) >= 0 && hex_value(text[i + 2]) >= 0) {
+      out.push_back(static_cast<char>(hex_value(text[i + 1]) * 16 + hex_value(text[i + 2])));
+      i += 2;
+    } else {
+      out.push_back(text[i] == '+' ? ' ' : text[i]);
+    }
+  }
+  return out;
+}
+
+bool ends_parameter(char c) {
+  return c == '&' || c == ';' || c == '#' || c == '"' || c == '\'' || c == '<' || c == '>' ||
+         static_cast<unsigned char>(c) <= ' ';
+}
+
+}  // namespace
+
+std::string masked_text(const std::string& text) {
+  std::string out;
+  std::size_t i = 0;
+  const std::size_t n = text.size();
+  while (i < n) {
+    const char c = text[i];
+    out.push_back(c);
+    ++i;
+    if (c != '?' && c != '&' && c != ';') continue;
+    // A parameter: its name up to '=', its value up to the next separator.
+    std::size_t eq = i;
+    while (eq < n && text[eq] != '=' && !ends_parameter(text[eq]) && text[eq] != '?') ++eq;
+    if (eq >= n || text[eq] != '=' || eq == i) continue;
+    if (!is_secret_name(percent_decoded(text.substr(i, eq - i)))) continue;
+    std::size_t end = eq + 1;
+    while (end < n && !ends_parameter(text[end])) ++end;
+    out.append(text, i, eq + 1 - i);
+    if (end > eq + 1) out += "***";
+    i = end;
+  }
+  return out;
 }
 
 namespace {
@@ -207,6 +262,10 @@ void mask_in_place(Json::Value& v) {
     }
   } else if (v.isArray()) {
     for (Json::Value& item : v) mask_in_place(item);
+  } else if (v.isString()) {
+    // Addresses carry secrets in their query ("?access_token=...").
+    const std::string text = to_string(v);
+    if (text.find('=') != std::string::npos) v = masked_text(text);
   }
 }
 

@@ -56,13 +56,19 @@ bool parse(const std::string& text, Json::Value& out, std::string* error = nullp
 // Compact one-line serialisation ({"a":1}), for replies and log lines.
 std::string compact(const Json::Value& v);
 
-// True for a member name whose value must never reach a log line: "token"
-// and names ending in "_token" ("access_token"), and names containing
-// "password", "otp" or "secret", letter case ignored.
+// True for a member name whose value must never reach a log line, letter
+// case and the separators _ - . ignored: names ending in "token"
+// ("access_token", "accessToken"), "key" ("sessionKey", "api_key") or
+// "sessionid", and names containing "password", "passwd", "otp", "secret" or
+// "credential".
 bool is_secret_name(const std::string& name);
+// `text` with the value of every secret query parameter ("?token=",
+// "&ACCESS_TOKEN=", "access_tok%65n=": names percent-decoded) as "***".
+std::string masked_text(const std::string& text);
 // A copy of `v` for a log line: the value of every secret member, at any
-// depth (inside arrays too), replaced by "***". An empty string or null stays
-// as it is, so that the line still tells that nothing was given.
+// depth (inside arrays too), replaced by "***", and secret query parameters
+// in every string masked as masked_text() does. An empty string or null
+// stays as it is, so that the line still tells that nothing was given.
 Json::Value masked(const Json::Value& v);
 
 }  // namespace jsonx

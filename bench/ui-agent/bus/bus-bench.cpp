@@ -98,7 +98,7 @@ void BM_BusRoundTrip(benchmark::State& state) {
   QEventLoop loop;
   bool ok = false;
   QObject::connect(bus, &GlobalConnecter::sigQueryServiceDone, &loop,
-                   [&](const QObject* sender, Json::Value) {
+                   [&](const QObject* sender, const Json::Value&) {
                      if (sender != &requester) return;
                      ok = true;
                      loop.quit();

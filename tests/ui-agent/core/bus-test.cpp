@@ -34,11 +34,14 @@ TEST(Bus, StringConnectionsResolveAndCarriedTypesAreRegistered) {
     QObject::disconnect(c);
   }
   // The constructor registers the carried types by name.
-  for (const char* name : {"uint64_t", "Json::Value", "ConnectionInfo", "ServiceStatus", "const QObject*"})
+  for (const char* name :
+       {"uint64_t", "Json::Value", "SharedJson", "ConnectionInfo", "ServiceStatus", "const QObject*"})
     EXPECT_NE(QMetaType::type(name), QMetaType::UnknownType) << name;
 }
 
-TEST(Bus, QueuedDeliveryCopiesEveryPayloadAcrossThreads) {
+// Every payload crosses threads; an answer arrives as the very tree that was
+// sent, never a copy.
+TEST(Bus, QueuedDeliveryCarriesEveryPayloadAcrossThreadsAndSharesAnswers) {
   GlobalConnecter* bus = &GlobalConnecter::instance();
   QSignalSpy status(bus, &GlobalConnecter::sigNotifyStatusChange);
   QSignalSpy connect_server(bus, &GlobalConnecter::sigConnectServer);
@@ -50,6 +53,7 @@ TEST(Bus, QueuedDeliveryCopiesEveryPayloadAcrossThreads) {
   emitter.moveToThread(&thread);
   thread.start();
   const Json::Value content = parse(R"({"logs": ["entry"]})");
+  const SharedJson answer(content);
   ConnectionInfo info;
   info.address = "a.example";
   info.proxy.proxy_port = 8080;
@@ -58,7 +62,7 @@ TEST(Bus, QueuedDeliveryCopiesEveryPayloadAcrossThreads) {
       [&] {
         emit bus->sigNotifyStatusChange(StatusIdle, StatusBackupPreparing, content);
         emit bus->sigConnectServer(info);
-        emit bus->sigQueryServiceDone(&sender, content);
+        emit bus->sigQueryServiceDone(&sender, answer);
       },
       Qt::BlockingQueuedConnection);
   thread.quit();
@@ -71,6 +75,8 @@ TEST(Bus, QueuedDeliveryCopiesEveryPayloadAcrossThreads) {
   ASSERT_EQ(connect_server.size(), 1);
   EXPECT_EQ(connect_server.at(0).at(0).value<ConnectionInfo>(), info);
   EXPECT_EQ(done.at(0).at(0).value<const QObject*>(), &sender);
+  EXPECT_TRUE(done.at(0).at(1).value<SharedJson>().sharesWith(answer));
+  EXPECT_EQ(done.at(0).at(1).value<Json::Value>(), content);
 }
 
 TEST(Bus, SingletonIsOneObjectOnTheMainThreadWhoeverAsksFirstAndHearsTheApplicationState) {

@@ -121,6 +121,12 @@ TEST_F(StatusWorkerTest, RequestCarriesTheLastLogIdAndZeroAfterClearing) {
   QMetaObject::invokeMethod(worker_, "slotQueryServiceStatus", Qt::QueuedConnection);
   ASSERT_TRUE(spy.wait(3000));
   store_.clearConnection();
+  // At most one in flight: a tick before the request ended (a hung service)
+  // asks nothing.
+  QMetaObject::invokeMethod(worker_, "slotQueryServiceStatus", Qt::QueuedConnection);
+  drain();
+  EXPECT_EQ(spy.size(), 1);
+  emit bus_->sigQueryServiceEnded(worker_);
   QMetaObject::invokeMethod(worker_, "slotQueryServiceStatus", Qt::QueuedConnection);
   ASSERT_TRUE(spy.size() == 2 || spy.wait(3000));
   ASSERT_EQ(spy.size(), 2);
@@ -151,7 +157,8 @@ TEST_F(StatusWorkerTest, StopBeforeStartThenStartTwiceMakesOneTimerTickingOnTheW
   drain();
   EXPECT_EQ(requests.size(), 1);  // one timer with one connection: one request per tick
   EXPECT_EQ(tick_thread, &thread_);
-  // Started again after a stop, it ticks again.
+  // Started again after a stop (the request ended), it ticks again.
+  emit bus_->sigQueryServiceEnded(worker_);
   worker_->startPolling();
   ASSERT_TRUE(requests.wait(3000));
 }

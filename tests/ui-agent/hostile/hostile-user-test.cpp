@@ -5,8 +5,8 @@
 // a request stuck on a hung service ends when the agent quits. No log line
 // of the whole suite carries one of the secrets planted on the way.
 
-#include <gmock/gmock.h>
 #include <fcntl.h>
+#include <gmock/gmock.h>
 #include <poll.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
@@ -48,7 +48,8 @@ class SuiteLog : public ::testing::Environment {
   void SetUp() override { capture_ = std::make_unique<agent_test::LogCapture>(); }
   void TearDown() override {
     const std::string all = capture_->text();  // never marked: everything
-    for (const char* secret : kSecrets) EXPECT_THAT(all, Not(HasSubstr(secret))) << "a secret reached the log";
+    for (const char* secret : kSecrets)
+      EXPECT_THAT(all, Not(HasSubstr(secret))) << "a secret reached the log";
     capture_.reset();
   }
   // Everything the suite wrote so far.
@@ -106,8 +107,8 @@ class AgentPipe : public Hostile {
 
 TEST_F(AgentPipe, AnotherUserCannotPushANotification) {
   start();
-  const std::string framed = R"({"action":"notifications","notifications":[{"type":2}]})" +
-                             std::string(WinIpc::kEndMarker);
+  const std::string framed =
+      R"({"action":"notifications","notifications":[{"type":2}]})" + std::string(WinIpc::kEndMarker);
   const char* name = name_.c_str();
   hostile::ForeignProcess other(hostile::kForeignUid, [&](int out, int) {
     const int fd = hostile::rawConnect(name);
@@ -127,6 +128,24 @@ TEST_F(AgentPipe, AnotherUserCannotPushANotification) {
   QCoreApplication::processEvents();
   EXPECT_EQ(notifications_.count(), 1) << "only this user's notification arrived";
   EXPECT_THAT(log(), HasSubstr("refused a client of uid 65534"));
+}
+
+// Another user opening and closing connections as fast as it can costs one
+// log line per interval (with the count held back), not one per connection.
+TEST_F(AgentPipe, AFloodOfAnotherUsersConnectionsCostsOneLogLine) {
+  start();
+  const char* name = name_.c_str();
+  hostile::ForeignProcess other(hostile::kForeignUid, [&](int out, int) {
+    for (int i = 0; i < 3000; ++i) ::close(hostile::rawConnect(name));
+    hostile::rawTell(out, 'd');
+    return 0;
+  });
+  ASSERT_EQ(other.hear(30000), 'd');
+  EXPECT_EQ(notify(notification()), kOk) << "this user is still served";
+  std::size_t lines = 0;
+  for (std::size_t at = 0; (at = log().find("refused a client of uid 65534", at)) != std::string::npos; ++at)
+    ++lines;
+  EXPECT_EQ(lines, 1u);
 }
 
 TEST_F(AgentPipe, AnotherUserHoldingTheNameDoesNotStopTheStart) {
@@ -240,7 +259,9 @@ class Client : public Hostile {
     delete communicator_;
     QCoreApplication::processEvents();
   }
-  void ask(const Json::Value& request) { emit GlobalConnecter::instance().sigQueryService(&sender_, request); }
+  void ask(const Json::Value& request) {
+    emit GlobalConnecter::instance().sigQueryService(&sender_, request);
+  }
 
   static Json::Value tokenRequest() {
     Json::Value r = agent_test::parse(R"({"action":"get_token","content":{"type":"sso"}})");
@@ -307,6 +328,33 @@ TEST_F(Client, QuittingEndsAnExchangeWithAHungServiceAndNothingSecretIsLogged) {
   EXPECT_THAT(log(), HasSubstr("not sent: the agent is quitting"));
 }
 
+// An answer of 8 MiB of small elements (jsoncpp would need 400 MB for it)
+// is refused before it is parsed: the memory stays near where it was.
+TEST_F(Client, AHugeAnswerOfSmallElementsCostsLittleMemory) {
+  std::string huge = R"({"status":1,"content":{"logs":[0)";
+  while (huge.size() < (8u << 20)) huge += ",0";
+  huge += "]}}";
+  WinIpc::IpcServer service;
+  ASSERT_EQ(service.create(WinIpc::kServicePipe), 0);
+  auto serving = std::async(std::launch::async, [&] {
+    for (int tries = 0; tries < 10 && !service.accept(); ++tries) {
+    }
+    std::string request;
+    if (service.read(request) == 0) service.write(huge);
+    service.disconnect();
+  });
+  ASSERT_TRUE(hostile::resetPeakResident());
+  const long before = hostile::peakResidentKiB();
+  ask(agent_test::parse(R"({"action":"get_status","log_id":0})"));
+  ASSERT_TRUE(failed_.count() == 1 || failed_.wait(20000));
+  serving.get();
+  const long peak = hostile::peakResidentKiB() - before;
+  std::printf("8 MiB answer of small elements: peak %ld KiB above the start (goal: under 400 MB in all)\n",
+              peak);
+  EXPECT_LT(peak, 64 * 1024);
+  EXPECT_EQ(done_.count(), 0);
+}
+
 TEST_F(Client, FailuresOnTheWayLogTheRequestMasked) {
   // Garbage for an answer, then a service that hangs up on a request too big
   // to go through before it does: both failures log the request.
@@ -360,7 +408,8 @@ TEST_F(Hostile, SingleInstanceIgnoresWhatAnotherUserPlantedInTmp) {
     SCOPED_TRACE(asLink ? "link" : "folder");
     hostile::ForeignProcess other(hostile::kForeignUid, [&](int out, int in) {
       if (asLink) {
-        if (::mkdir((tmp + "/theirs").c_str(), 0777) != 0 || ::symlink((tmp + "/theirs").c_str(), folder.c_str()) != 0)
+        if (::mkdir((tmp + "/theirs").c_str(), 0777) != 0 ||
+            ::symlink((tmp + "/theirs").c_str(), folder.c_str()) != 0)
           return 2;
       } else if (::mkdir(folder.c_str(), 0777) != 0) {
         return 2;
@@ -469,8 +518,34 @@ TEST_P(MachineLockHolder, AnotherUsersHolderOfAnyKindRefusesTheStart) {
   other.tell('q');
 }
 
+// The lock held at first by this user's exiting agent: the new primary takes
+// it once it is free and holds it, so another user's agent finds it taken.
+TEST_F(Hostile, ThePrimaryHoldsTheMachineLockOnceThisUsersHolderLetsGo) {
+  MachineLock lock("hostile-life-lock");
+  const std::string name = lock.systemName();
+  hostile::ForeignProcess exiting(::geteuid(), [&](int out, int in) {
+    if (hostile::rawBind(name.c_str(), 8) < 0) return 2;
+    hostile::rawTell(out, 'r');
+    hostile::rawAwait(in);
+    return 0;
+  });
+  ASSERT_EQ(exiting.hear(), 'r');
+  ASSERT_EQ(lock.acquire(), MachineLock::HeldBySameUser);
+  exiting.tell('q');
+  EXPECT_EQ(lock.acquireForLife(5000), MachineLock::Acquired);
+  EXPECT_TRUE(lock.held());
+  hostile::ForeignProcess other(hostile::kForeignUid, [&](int out, int) {
+    hostile::rawTell(out, hostile::rawBind(name.c_str(), 8) < 0 ? 'n' : 'y');
+    return 0;
+  });
+  EXPECT_EQ(other.hear(), 'n') << "another user took the lock beside the primary";
+}
+
 INSTANTIATE_TEST_SUITE_P(Kinds, MachineLockHolder,
-                         ::testing::Values(Holder::BoundWithoutListening, Holder::BacklogFull, Holder::Listening),
-                         [](const ::testing::TestParamInfo<Holder>& i) { return ::testing::PrintToString(i.param); });
+                         ::testing::Values(Holder::BoundWithoutListening, Holder::BacklogFull,
+                                           Holder::Listening),
+                         [](const ::testing::TestParamInfo<Holder>& i) {
+                           return ::testing::PrintToString(i.param);
+                         });
 
 }  // namespace

@@ -40,18 +40,19 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         SchemeRow{"Token", "nimbrabackup://nimbrabackupprotocol?access_token=abc", SchemeMessage::Pair,
                   "access_token", "abc"},
-        SchemeRow{"OpenLog", "nimbrabackup://nimbrabackupprotocol?open_log=1", SchemeMessage::Pair, "open_log",
-                  "1"},
+        SchemeRow{"OpenLog", "nimbrabackup://nimbrabackupprotocol?open_log=1", SchemeMessage::Pair,
+                  "open_log", "1"},
         SchemeRow{"EmptyValueKept", "nimbrabackup://nimbrabackupprotocol?access_token=", SchemeMessage::Pair,
                   "access_token", ""},
         SchemeRow{"DoubledQuestionMarkDropped", "nimbrabackup://nimbrabackupprotocol??access_token=x",
                   SchemeMessage::Pair, "access_token", "x"},
-        SchemeRow{"NoEquals", "nimbrabackup://nimbrabackupprotocol?access_token", SchemeMessage::Malformed, "",
-                  ""},
-        SchemeRow{"TwoEquals", "nimbrabackup://nimbrabackupprotocol?access_token=a=b", SchemeMessage::Malformed,
+        SchemeRow{"NoEquals", "nimbrabackup://nimbrabackupprotocol?access_token", SchemeMessage::Malformed,
                   "", ""},
+        SchemeRow{"TwoEquals", "nimbrabackup://nimbrabackupprotocol?access_token=a=b",
+                  SchemeMessage::Malformed, "", ""},
         SchemeRow{"NoQuery", "nimbrabackup://nimbrabackupprotocol", SchemeMessage::Malformed, "", ""},
-        SchemeRow{"TwoQueries", "nimbrabackup://nimbrabackupprotocol?a=1?b=2", SchemeMessage::Malformed, "", ""},
+        SchemeRow{"TwoQueries", "nimbrabackup://nimbrabackupprotocol?a=1?b=2", SchemeMessage::Malformed, "",
+                  ""},
         SchemeRow{"UpperCaseIsNotTheScheme", "NIMBRABACKUP://nimbrabackupprotocol?access_token=abc",
                   SchemeMessage::NotScheme, "", ""},
         SchemeRow{"Open", "open", SchemeMessage::NotScheme, "", ""},
@@ -73,11 +74,13 @@ TEST(NewLogEntries, OnlyAboveTheLastIdAscending) {
 TEST(FailureCount, ThirtyWhilePollingHundredTwentyBefore) {
   using client_manager_rules::Failure;
   int count = 0;
-  for (int i = 0; i < 30; ++i) ASSERT_EQ(client_manager_rules::countFailure(count, true), Failure::Tolerated) << i;
+  for (int i = 0; i < 30; ++i)
+    ASSERT_EQ(client_manager_rules::countFailure(count, true), Failure::Tolerated) << i;
   EXPECT_EQ(count, 30);
   EXPECT_EQ(client_manager_rules::countFailure(count, true), Failure::Fatal);  // the 31st
   count = 0;
-  for (int i = 0; i < 120; ++i) ASSERT_EQ(client_manager_rules::countFailure(count, false), Failure::Retry) << i;
+  for (int i = 0; i < 120; ++i)
+    ASSERT_EQ(client_manager_rules::countFailure(count, false), Failure::Retry) << i;
   EXPECT_EQ(client_manager_rules::countFailure(count, false), Failure::Fatal);
   EXPECT_EQ(count, 120);
 }
@@ -86,17 +89,32 @@ TEST(NotifierArguments, FourPerNotificationAfterTheHeader) {
   QStringList args;
   EXPECT_FALSE(client_manager_rules::notifierArguments(agent_test::parse(R"({"notifications":{}})"), args));
   EXPECT_TRUE(args.isEmpty());
-  ASSERT_TRUE(client_manager_rules::notifierArguments(
-      agent_test::parse(R"({"site_path":"/sites/a","notifications":[
+  ASSERT_TRUE(
+      client_manager_rules::notifierArguments(agent_test::parse(R"({"site_path":"/sites/a","notifications":[
         {"id":1,"type":7,"data":{"status":2},"action_type":3},{"type":11,"action_type":"x"},{"type":0}]})"),
-      args));
+                                              args));
   ASSERT_EQ(args.size(), 3 + 3 * 4);
   EXPECT_EQ(args.mid(0, 3), QStringList({"1", "/sites/a", "3"}));
-  EXPECT_EQ(args.mid(3, 4), QStringList({"Nimbra Backup Successful", "Check the activity logs in the agent for more information.",
+  EXPECT_EQ(args.mid(3, 4), QStringList({"Nimbra Backup Successful",
+                                         "Check the activity logs in the agent for more information.",
                                          "Open Nimbra Backup", "3"}));
   EXPECT_EQ(args.at(9), QStringLiteral("Settings"));
   EXPECT_EQ(args.at(10), QStringLiteral("0"));
   EXPECT_EQ(args.mid(11, 4), QStringList({"", "", "Open Nimbra Backup", "0"}));
+}
+
+TEST(NotifierArguments, APushShowsItsLastFive) {
+  Json::Value push = agent_test::parse(R"({"site_path":"/s","notifications":[]})");
+  int leftOut = -1;
+  EXPECT_EQ(client_manager_rules::boundedNotifications(push, leftOut), push);
+  EXPECT_EQ(leftOut, 0);
+  for (int id = 1; id <= 3000; ++id)
+    push["notifications"].append(agent_test::parse(R"({"type":7})"))["id"] = id;
+  const Json::Value shown = client_manager_rules::boundedNotifications(push, leftOut);
+  EXPECT_EQ(leftOut, 2995);
+  ASSERT_EQ(shown["notifications"].size(), 5u);
+  EXPECT_EQ(shown["notifications"][0]["id"].asInt(), 2996);
+  EXPECT_EQ(shown["site_path"].asString(), "/s");
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 // effects are read from the requests, the store, the tray and the log.
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 #include <QDesktopServices>
 #include <QElapsedTimer>
 #include <QMessageBox>
@@ -27,6 +29,7 @@
 #include "tray/log-widget.h"
 #include "tray/system-tray.h"
 #include "tray/tray-menu.h"
+#include "ui-path-manager.h"
 #include "vell-message-sheet.h"
 #include "wizard/nimbra-loading-frame.h"
 #include "wizard/summary-page.h"
@@ -142,7 +145,8 @@ class Manager : public ::testing::Test {
   }
   void connect() {
     manager_->start(false);
-    reply("get_connection_info", R"({"connection":{"address":"a","email":"ann@example.com","account_type":"vell"}})");
+    reply("get_connection_info",
+          R"({"connection":{"address":"a","email":"ann@example.com","account_type":"vell"}})");
     ASSERT_TRUE(manager_->statusPoller()->isPolling());
   }
   static void send(const QString& message) { emit GlobalConnecter::instance().sigMessageReceived(message); }
@@ -169,7 +173,8 @@ TEST_F(Manager, TokenWithoutSignInUnderWayIsIgnored) {
   answer("get_auth", R"({"error":{"code":5}})");
   QTimer::singleShot(0, [] { emit GlobalConnecter::instance().sigGetAuthURL(); });
   ASSERT_TRUE(until([this] { return !sheets_.isEmpty(); }));
-  ASSERT_TRUE(until([this] { return !manager_->isAuthPending() && VellMessageSheet::runningSheets().isEmpty(); }));
+  ASSERT_TRUE(
+      until([this] { return !manager_->isAuthPending() && VellMessageSheet::runningSheets().isEmpty(); }));
   send(QString(kScheme) + "?access_token=abc");
   EXPECT_EQ(count("get_token"), 0);
   EXPECT_NE(log_.text().find("failed to get auth URL"), std::string::npos);
@@ -208,21 +213,25 @@ TEST_F(Manager, RegistrationEndToEnd) {
   const Json::Value token = requests_.at(1);
   EXPECT_EQ(token["action"].asString(), "get_token");
   EXPECT_EQ(token["token"].asString(), "tok-123");
-  ASSERT_TRUE(until([this] { return manager_->wizardWindow()->pageStack()->currentWidget() ==
-                                    reinterpret_cast<QWidget*>(manager_->wizardWindow()->summaryPage()); }));
+  ASSERT_TRUE(until([this] {
+    return manager_->wizardWindow()->pageStack()->currentWidget() ==
+           reinterpret_cast<QWidget*>(manager_->wizardWindow()->summaryPage());
+  }));
   ServiceStatus status;
   Json::Value content;
   StatusStore::instance().getStatus(status, content);
   EXPECT_EQ(static_cast<int>(status), 0x1002);
 
   QTimer::singleShot(0, [] { emit GlobalConnecter::instance().sigCreateDevice("z1", "s1", "vell"); });
-  ASSERT_TRUE(until([this] { return manager_->systemTray()->connectionMode() == 1 && count("get_connection_info") == 1; }));
+  ASSERT_TRUE(until(
+      [this] { return manager_->systemTray()->connectionMode() == 1 && count("get_connection_info") == 1; }));
   EXPECT_EQ(actions(), (std::vector<std::string>{"get_auth", "get_token", "get_site_info", "create_device",
                                                  "backup_now", "get_connection_info"}));
   EXPECT_EQ(requests_.at(3)["zid"].asString(), "z1");
   EXPECT_EQ(requests_.at(3)["subscription_id"].asString(), "s1");
   EXPECT_EQ(requests_.at(3)["account_type"].asString(), "vell");
-  EXPECT_TRUE(sheets_.contains(QStringLiteral("You're all set for backup. Do you want to back up this device right now?")));
+  EXPECT_TRUE(sheets_.contains(
+      QStringLiteral("You're all set for backup. Do you want to back up this device right now?")));
   EXPECT_FALSE(manager_->wizardWindow()->isVisible());
   EXPECT_TRUE(manager_->statusPoller()->isPolling());
   EXPECT_FALSE(QGuiApplication::quitOnLastWindowClosed());
@@ -281,7 +290,7 @@ TEST_F(Manager, OpenLogReturnOpensTheLogAfterTheNextStatus) {
   LogWidget* logWindow = manager_->systemTray()->trayMenu()->logWidget();
   EXPECT_FALSE(logWindow->isVisible());
   emit GlobalConnecter::instance().sigNotifyStatusChange(ServiceStatus(0), ServiceStatus(0x2000),
-                                                       agent_test::parse(R"({"connected":true})"));
+                                                         agent_test::parse(R"({"connected":true})"));
   EXPECT_TRUE(logWindow->isVisible());
   EXPECT_FALSE(manager_->isOpenLogPending());
 }
@@ -328,12 +337,33 @@ TEST_F(Manager, FailuresWhilePollingResetByStatusFatalAtThirtyOne) {
   EXPECT_EQ(sheets_.size(), 1);
 }
 
-TEST_F(Manager, FailureBeforeTheConnectionRetriesInASecond) {
+TEST_F(Manager, FailureBeforeTheConnectionRetriesInASecondAndTheRecordResetsTheCount) {
   // (No tray icon: it would ask for the record on its own after a second.)
   emit GlobalConnecter::instance().sigQueryServiceFailed();
   EXPECT_EQ(manager_->failures(), 1);
   EXPECT_EQ(count("get_connection_info"), 0);
   ASSERT_TRUE(until([this] { return count("get_connection_info") >= 1; }, 3000));
+  // A slow start does not count against the polling window.
+  connect();
+  EXPECT_EQ(manager_->failures(), 0);
+}
+
+// Error answers that echo secrets (in members of any spelling and in
+// addresses' queries) are logged masked.
+TEST_F(Manager, ErrorAnswersAreLoggedMasked) {
+  manager_->start(false);
+  const char* const answer = R"({"error":{"code":17,"base_url":"https://c.example/k?x=1&ACCESS_TOKEN=S1"},
+      "token":"S2","access_token":"S3","proxy_password":"S4","accessToken":"S5","sessionKey":"S6",
+      "link":"https://c.example/?access_tok%65n=S7"})";
+  for (const char* action : {"get_auth", "get_token", "get_site_info", "create_device"})
+    reply(action, answer);
+  ASSERT_TRUE(until([this] { return sheets_.size() >= 4 && VellMessageSheet::runningSheets().isEmpty(); }));
+  const std::string logged = log_.text();
+  EXPECT_NE(logged.find("failed to create device"), std::string::npos);
+  for (const char* secret : {"S1", "S2", "S3", "S4", "S5", "S6", "S7"})
+    EXPECT_EQ(logged.find(std::string("\"") + secret), std::string::npos)
+        << secret << " reached the log: " << logged;
+  EXPECT_EQ(logged.find("=S"), std::string::npos) << logged;
 }
 
 TEST_F(Manager, UpdatingReasksEverySecondAndClosingTheDialogEnds) {
@@ -376,6 +406,31 @@ TEST_F(Manager, LogoutAfterConfirmationExitAfterNotice) {
   EXPECT_TRUE(quitsDuring([] { emit GlobalConnecter::instance().sigExitApplication(); }));
   EXPECT_EQ(manager_->systemTray()->connectionMode(), 0);
   EXPECT_EQ(boxes_.last(), QStringLiteral("Closing this application will not stop the backup service."));
+}
+
+// A push of thousands: the notifier gets the last five, the GUI thread does
+// not wait for it, and its reasons (standard error) reach the log.
+TEST_F(Manager, ANotifierIsNotWaitedForAndItsReasonsAreLogged) {
+  nimbra_test::TempDir bin;
+  const std::string go = bin.file("go");
+  nimbra_test::write_file(bin.file("nimbra-backup-notifier"),
+                          "#!/bin/sh\necho $# > '" + bin.file("args") + "'\nwhile [ ! -e '" + go +
+                              "' ]; do sleep 0.05; done\necho 'no notification service here' >&2\nexit 3\n");
+  ASSERT_EQ(::chmod(bin.file("nimbra-backup-notifier").c_str(), 0755), 0);
+  UIPathManager* paths = UIPathManager::getInstance();
+  const QString kept = paths->getPath(QStringLiteral("application_path"));
+  paths->setPath(QStringLiteral("application_path"), QString::fromStdString(bin.path()));
+  Json::Value push = agent_test::parse(R"({"action":"notifications","notifications":[]})");
+  for (int i = 0; i < 3000; ++i) push["notifications"].append(agent_test::parse(R"({"type":7,"data":{}})"));
+  emit GlobalConnecter::instance().sigHandleNotifications(push);
+  // Back on the GUI thread while the notifier still runs.
+  ASSERT_TRUE(until([&] { return nimbra_test::read_file(bin.file("args")) == "23\n"; }));
+  nimbra_test::write_file(go, "");
+  EXPECT_TRUE(until([this] {
+    return log_.text().find("output: no notification service here") != std::string::npos;
+  })) << log_.text();
+  EXPECT_NE(log_.text().find("3000 notifications in one push: the last 5 shown"), std::string::npos);
+  paths->setPath(QStringLiteral("application_path"), kept);
 }
 
 TEST_F(Manager, PortalLinksAndAnswersForOthersIgnored) {
