@@ -1,5 +1,6 @@
 // The tray's costs that grow with text: fitting the latest event into the
-// pop-up's two lines, filling the activity dialog with 100 new entries, and
+// pop-up's two lines, filling the activity dialog with 100 new entries (and
+// with 40 whose values are a megabyte each), and
 // one status update with a large status content. Each figure is printed
 // beside its target and beside the plain walk over every width limit that
 // the fit replaces.
@@ -193,6 +194,24 @@ int main(int argc, char** argv) {
         1);
     bench_report::report("activity dialog fill, 100 new entries", fill, "ms", 100, false);
     std::printf("        plain walk, the 100 fits alone: %.2f ms (%.1fx the whole fill)\n", walk, walk / fill);
+  }
+
+  {
+    // A broken or hostile service: 40 entries whose values are a megabyte each.
+    Json::Value body(Json::objectValue);
+    body["volume_name"] = std::string(1 << 20, 'V');
+    body["error_code"] = std::string(1 << 20, '7');
+    body["path"] = std::string(1 << 20, 'P');
+    QList<LogEntry> huge;
+    for (quint64 id = 1; id <= 40; ++id) huge << entryOf(id, id % 2 ? 7038 : 6015, body);
+    double fill = 1e300;
+    for (int r = 0; r < 3; ++r) {
+      LogWidget log;
+      const double start = thread_ms();
+      log.fillEntries(huge);
+      fill = std::min(fill, thread_ms() - start);
+    }
+    bench_report::report("activity dialog fill, 40 entries with 1 MB values", fill, "ms", 100, false);
   }
 
   {
