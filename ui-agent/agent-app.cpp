@@ -118,7 +118,8 @@ int run(int argc, char** argv, const Options& options) {
   // 9. Pictures and style sheets.
   ImageManager::getInstance()->initialize(0);
   StyleManager::getInstance()->initialize({resources + QStringLiteral("/agent.stylesheet"),
-                                           resources + QStringLiteral("/component.business.stylesheet")});
+                                           resources + QStringLiteral("/component.business.stylesheet"),
+                                           resources + QStringLiteral("/high-contrast.palette")});
 
   // 10. Languages and the translator. 11. The catalogue is a table compiled
   // into the program; its texts are translated when looked up, so nothing is

@@ -18,20 +18,46 @@
 #include <QMutex>
 #include <QString>
 #include <QStringList>
+#include <QVector>
+
+// The high-contrast look: the same style sheets with some colours swapped,
+// as a palette file lists them (resource/high-contrast.palette).
+namespace high_contrast {
+
+struct Swap {
+  QString from;  // as the style sheets write it
+  QString to;
+};
+// One "<colour> <colour>" per line; empty lines and lines starting with "//"
+// are skipped, any other line is logged (with `origin`) and skipped.
+QVector<Swap> parsePalette(const QString& text, const QString& origin);
+// `sheet` with each swap's colour replaced, case ignored.
+QString apply(const QString& sheet, const QVector<Swap>& swaps);
+
+}  // namespace high_contrast
 
 class StyleManager {
  public:
   static StyleManager* getInstance();
 
-  // Loads the files in order. Returns the number of files read; a missing or
-  // unreadable file is logged and skipped. Earlier blocks are kept.
+  // Loads the files in order ("*.palette" as the high-contrast palette).
+  // Returns the number of files read; a missing or unreadable file is
+  // logged and skipped. Earlier blocks are kept.
   int initialize(const QStringList& files);
+  void loadPalette(const QString& text, const QString& origin);
+  QVector<high_contrast::Swap> palette() const;
+
+  // The high-contrast look on or off, live: named sheets come with the
+  // palette's colours, and the sheet of every widget of the application is
+  // converted now (and back when it goes off) and whenever one is set.
+  void setHighContrast(bool on);
+  bool highContrast() const;
   // Parses `text` as one style-sheet file; `origin` names it in log lines.
   // Returns the number of blocks read.
   int loadFromString(const QString& text, const QString& origin);
 
   bool contains(const QString& name) const;
-  // The block's text, or an empty string when unknown.
+  // The block's text (in the look now on), or an empty string when unknown.
   QString styleSheet(const QString& name) const;
   QStringList names() const;
   // Forgets every block (tests).
@@ -41,6 +67,8 @@ class StyleManager {
   StyleManager() = default;
   mutable QMutex mutex_;
   QHash<QString, QString> sheets_;
+  QVector<high_contrast::Swap> palette_;
+  bool highContrast_ = false;
 };
 
 // The named block, passed through DPIinfo::getScaledStyleSheet when `scaled`

@@ -1,6 +1,6 @@
 // Renders the agent's screens to PNG contact sheets, offscreen.
 //
-//   nimbra-screen-gallery <out> <resource folder> [--scale S] [--lang L] [--only a,b]
+//   nimbra-screen-gallery <out> <resource folder> [--scale S] [--lang L] [--only a,b] [--contrast high]
 //
 // Writes <out>/<L>/<S>x/*.png. The scale is the display scale the screens
 // see through DPIinfo (their lengths and style sheets scale with it) and the
@@ -57,16 +57,21 @@ QString language() { return g_language; }
 int main(int argc, char** argv) {
   using namespace screen_gallery;
   if (argc < 3) {
-    std::fprintf(stderr, "usage: %s <out> <resource folder> [--scale S] [--lang L] [--only a,b]\n", argv[0]);
+    std::fprintf(stderr,
+                 "usage: %s <out> <resource folder> [--scale S] [--lang L] [--only a,b] [--contrast high]\n",
+                 argv[0]);
     return 2;
   }
   std::vector<std::string> only;
+  bool highContrast = false;
   for (int i = 3; i + 1 < argc; i += 2) {
     if (!std::strcmp(argv[i], "--scale")) {
       g_scale = QString::fromLocal8Bit(argv[i + 1]).toDouble();
       if (g_scale <= 0) g_scale = 1.0;
     } else if (!std::strcmp(argv[i], "--lang")) {
       g_language = QString::fromLocal8Bit(argv[i + 1]);
+    } else if (!std::strcmp(argv[i], "--contrast")) {
+      highContrast = !std::strcmp(argv[i + 1], "high");
     } else if (!std::strcmp(argv[i], "--only")) {
       for (const QString& a : QString::fromLocal8Bit(argv[i + 1]).split(QLatin1Char(',')))
         only.push_back(a.toStdString());
@@ -81,7 +86,9 @@ int main(int argc, char** argv) {
   app.setStyleSheet(QStringLiteral("QLabel { color: #505A64; }"));
   ImageManager::getInstance()->initialize(0);
   StyleManager::getInstance()->initialize({resources + QStringLiteral("/agent.stylesheet"),
-                                           resources + QStringLiteral("/component.business.stylesheet")});
+                                           resources + QStringLiteral("/component.business.stylesheet"),
+                                           resources + QStringLiteral("/high-contrast.palette")});
+  StyleManager::getInstance()->setHighContrast(highContrast);
   QTranslator translator;
   if (g_language != QLatin1String("eng")) {
     if (string_display::load_translation(translator, g_language))
@@ -100,7 +107,8 @@ int main(int argc, char** argv) {
   app.setFont(font);
 
   gallery::g_out = QString::fromLocal8Bit(argv[1]) + QLatin1Char('/') + g_language + QLatin1Char('/') +
-                   QString::number(g_scale) + QLatin1Char('x');
+                   QString::number(g_scale) + QLatin1Char('x') +
+                   (highContrast ? QStringLiteral("-high-contrast") : QString());
   QDir().mkpath(gallery::g_out);
   for (const Area& area : areas()) {
     if (!only.empty() && std::find(only.begin(), only.end(), area.name) == only.end()) continue;

@@ -162,6 +162,10 @@ SystemTray::SystemTray(QObject* parent) : QSystemTrayIcon(parent) {
           &GlobalConnecter::sigTrayClickedWithoutConnection);
   // A change of the desktop's colour scheme picks the picture again.
   connect(theme_, &PanelThemeWatcher::changed, this, &SystemTray::applyIcon);
+  // The desktop asking for high contrast switches the whole agent's look.
+  auto applyContrast = [this]() { StyleManager::getInstance()->setHighContrast(theme_->highContrast()); };
+  connect(theme_, &PanelThemeWatcher::changed, this, applyContrast);
+  applyContrast();
   connect(this, &SystemTray::sigQueryService, &bus, &GlobalConnecter::sigQueryService);
   // Whether the service answers: any answer says yes, a failed request no.
   connect(&bus, &GlobalConnecter::sigQueryServiceDone, this, [this]() {

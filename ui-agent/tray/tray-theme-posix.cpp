@@ -9,6 +9,7 @@
 #include <QStyle>
 
 #include <functional>
+#include <optional>
 #include <utility>
 
 #include "logger.h"
@@ -21,18 +22,21 @@ const char* const kPortalPath = "/org/freedesktop/portal/desktop";
 const char* const kSettings = "org.freedesktop.portal.Settings";
 const char* const kAppearance = "org.freedesktop.appearance";
 const char* const kColorScheme = "color-scheme";
+const char* const kContrast = "contrast";
 
-// The portal wraps the value in one or two variants, depending on its version.
-tray_theme::Scheme schemeFromMessageValue(QVariant v) {
+// The portal wraps the value in one or two variants, depending on its
+// version; `key`'s number, or nothing for a value of another type.
+std::optional<uint> numberFromMessageValue(QVariant v, const char* key) {
   for (int depth = 0; depth < 4 && v.userType() == qMetaTypeId<QDBusVariant>(); ++depth)
     v = v.value<QDBusVariant>().variant();
   bool ok = false;
   const uint value = v.toUInt(&ok);
   if (!ok || (v.userType() != QMetaType::UInt && v.userType() != QMetaType::Int)) {
-    LOG_WARN(vlog::kDefaultComponent, "settings portal: color-scheme of type [%s] ignored", v.typeName());
-    return tray_theme::Scheme::Unknown;
+    LOG_WARN(vlog::kDefaultComponent, "settings portal: %s of type [%s] ignored", key,
+             v.isValid() ? v.typeName() : "none");
+    return std::nullopt;
   }
-  return tray_theme::schemeFromPortal(value);
+  return value;
 }
 
 // Receives the portal's SettingChanged signal (a D-Bus connection needs a
@@ -57,6 +61,7 @@ class PortalListener : public QObject {
 
 struct PanelThemeWatcher::Impl {
   tray_theme::Scheme portal = tray_theme::Scheme::Unknown;
+  bool portalContrast = false;
   // The palette's verdict, worked out once per palette and style (the icon
   // is asked for at every status, and the style's standard palette is built
   // afresh on each call).
@@ -66,11 +71,22 @@ struct PanelThemeWatcher::Impl {
 
   // A setting the portal announced: true when it changed what the watcher knows.
   bool applySetting(const QString& nameSpace, const QString& key, const QVariant& value) {
-    if (nameSpace != QLatin1String(kAppearance) || key != QLatin1String(kColorScheme)) return false;
-    const tray_theme::Scheme scheme = schemeFromMessageValue(value);
-    if (scheme == portal) return false;
-    portal = scheme;
-    return true;
+    if (nameSpace != QLatin1String(kAppearance)) return false;
+    if (key == QLatin1String(kColorScheme)) {
+      const std::optional<uint> n = numberFromMessageValue(value, kColorScheme);
+      const tray_theme::Scheme scheme = n ? tray_theme::schemeFromPortal(*n) : tray_theme::Scheme::Unknown;
+      if (scheme == portal) return false;
+      portal = scheme;
+      return true;
+    }
+    if (key == QLatin1String(kContrast)) {
+      const std::optional<uint> n = numberFromMessageValue(value, kContrast);
+      const bool high = n && tray_theme::highContrastFromPortal(*n);
+      if (high == portalContrast) return false;
+      portalContrast = high;
+      return true;
+    }
+    return false;
   }
 };
 
@@ -93,32 +109,35 @@ PanelThemeWatcher::PanelThemeWatcher(const QString& busConnectionName, QObject* 
                   },
                   this),
               SLOT(onSettingChanged(QString, QString, QDBusVariant)));
-  QDBusMessage read =
-      QDBusMessage::createMethodCall(QString::fromLatin1(kPortalService), QString::fromLatin1(kPortalPath),
-                                     QString::fromLatin1(kSettings), QStringLiteral("Read"));
-  read << QString::fromLatin1(kAppearance) << QString::fromLatin1(kColorScheme);
-  // Asked without waiting: the answer arrives through the event loop.
-  auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(read, 3000), this);
-  connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* call) {
-    call->deleteLater();
-    QDBusPendingReply<QVariant> reply = *call;
-    if (reply.isError()) {
-      LOG_INFO(vlog::kDefaultComponent, "settings portal: no color-scheme (%s)",
-               qUtf8Printable(reply.error().name()));
-      return;
-    }
-    const tray_theme::Scheme scheme = schemeFromMessageValue(reply.value());
-    if (scheme != d->portal) {
-      d->portal = scheme;
-      emit changed();
-    }
-  });
+  // Both keys asked without waiting: the answers arrive through the event loop.
+  for (const char* key : {kColorScheme, kContrast}) {
+    QDBusMessage read =
+        QDBusMessage::createMethodCall(QString::fromLatin1(kPortalService), QString::fromLatin1(kPortalPath),
+                                       QString::fromLatin1(kSettings), QStringLiteral("Read"));
+    read << QString::fromLatin1(kAppearance) << QString::fromLatin1(key);
+    auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(read, 3000), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, key](QDBusPendingCallWatcher* call) {
+      call->deleteLater();
+      QDBusPendingReply<QVariant> reply = *call;
+      if (reply.isError()) {
+        LOG_INFO(vlog::kDefaultComponent, "settings portal: no %s (%s)", key,
+                 qUtf8Printable(reply.error().name()));
+        return;
+      }
+      if (d->applySetting(QString::fromLatin1(kAppearance), QString::fromLatin1(key), reply.value()))
+        emit changed();
+    });
+  }
 }
 
 PanelThemeWatcher::~PanelThemeWatcher() = default;
 
 tray_theme::Scheme PanelThemeWatcher::portalScheme() const {
   return d->portal;
+}
+
+bool PanelThemeWatcher::highContrast() const {
+  return d->portalContrast || tray_theme::isHighContrastThemeName(qEnvironmentVariable("GTK_THEME"));
 }
 
 bool PanelThemeWatcher::isSystemDarkTheme() const {

@@ -1,4 +1,9 @@
-// Windows: the taskbar theme value of the registry, read afresh every time.
+// Windows: the taskbar theme value of the registry and the high-contrast
+// setting, read afresh every time; a change of the system's colours (Qt
+// turns it into a palette change) is told by changed().
+#include <windows.h>
+
+#include <QApplication>
 #include <QEvent>
 
 #include "os-services.h"
@@ -6,7 +11,9 @@
 
 struct PanelThemeWatcher::Impl {};
 
-PanelThemeWatcher::PanelThemeWatcher(QObject* parent) : QObject(parent), d(new Impl) {}
+PanelThemeWatcher::PanelThemeWatcher(QObject* parent) : QObject(parent), d(new Impl) {
+  if (qApp) qApp->installEventFilter(this);
+}
 
 PanelThemeWatcher::PanelThemeWatcher(const QString&, QObject* parent) : PanelThemeWatcher(parent) {}
 
@@ -22,6 +29,13 @@ bool PanelThemeWatcher::isSystemDarkTheme() const {
   return os_services::is_dark_taskbar(os_services::running_windows_version(), has, value);
 }
 
+bool PanelThemeWatcher::highContrast() const {
+  HIGHCONTRASTW hc{};
+  hc.cbSize = sizeof(hc);
+  return SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof(hc), &hc, 0) && (hc.dwFlags & HCF_HIGHCONTRASTON);
+}
+
 bool PanelThemeWatcher::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange) emit changed();
   return QObject::eventFilter(watched, event);
 }

@@ -28,6 +28,17 @@ bool isDark(Scheme portal, Scheme palette) {
   return true;
 }
 
+bool highContrastFromPortal(quint32 value) {
+  return value == 1;
+}
+
+bool isHighContrastThemeName(const QString& name) {
+  QString n = name.toLower();
+  n.remove(QLatin1Char(' ')).remove(QLatin1Char('_'));
+  return n.contains(QLatin1String("highcontrast")) || n.endsWith(QLatin1String("-hc")) ||
+         n.endsWith(QLatin1String(":hc"));
+}
+
 QString iconName(TrayStatus status, bool darkPanel) {
   const QString base = QString::fromLatin1(tray_status::icon_name(status));
   return darkPanel ? base : base + QStringLiteral("_dark");

@@ -7,6 +7,10 @@
 // Linux: the desktop's colour scheme, org.freedesktop.appearance
 // color-scheme read through the settings portal over D-Bus; when the portal
 // has no preference, the platform's palette; dark when neither tells.
+//
+// The same watcher tells whether the desktop asks for high contrast:
+// Windows' high-contrast setting; on Linux the portal's org.freedesktop.appearance
+// contrast (1) or a high-contrast GTK theme (GTK_THEME).
 
 #include <QObject>
 #include <QPalette>
@@ -28,6 +32,12 @@ Scheme schemeFromPortal(quint32 value);
 Scheme schemeFromPalette(const QPalette& application, const QPalette& styleStandard);
 // The portal first, then the palette, dark when neither knows.
 bool isDark(Scheme portal, Scheme palette);
+
+// The portal's contrast value: 1 asks for high contrast, anything else not.
+bool highContrastFromPortal(quint32 value);
+// A theme name that is a high-contrast theme: "HighContrast",
+// "HighContrastInverse", "Breeze High Contrast", "Adwaita-hc", "Adwaita:hc".
+bool isHighContrastThemeName(const QString& name);
 
 // The picture for `status` on a panel: the base name on a dark panel, with
 // "_dark" appended on a light one.
@@ -51,6 +61,8 @@ class PanelThemeWatcher : public QObject {
   bool isSystemDarkTheme() const;
   // What the portal said last (Unknown until it answered).
   tray_theme::Scheme portalScheme() const;
+  // Whether the desktop asks for high contrast now (changed() when it changes).
+  bool highContrast() const;
 
  signals:
   void changed();

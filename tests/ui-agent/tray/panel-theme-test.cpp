@@ -37,13 +37,14 @@ class FakeSettings : public QObject {
   Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
  public:
   QVariant value = QVariant::fromValue(1u);
+  QVariant contrast = QVariant::fromValue(0u);
 
  public slots:
   QDBusVariant Read(const QString& nameSpace, const QString& key) {
-    if (nameSpace != QLatin1String("org.freedesktop.appearance") || key != QLatin1String("color-scheme")) {
-      return QDBusVariant(QVariant());
-    }
-    return QDBusVariant(QVariant::fromValue(QDBusVariant(value)));
+    if (nameSpace != QLatin1String("org.freedesktop.appearance")) return QDBusVariant(QVariant());
+    if (key == QLatin1String("color-scheme")) return QDBusVariant(QVariant::fromValue(QDBusVariant(value)));
+    if (key == QLatin1String("contrast")) return QDBusVariant(QVariant::fromValue(QDBusVariant(contrast)));
+    return QDBusVariant(QVariant());
   }
 };
 
@@ -65,11 +66,10 @@ class PanelTheme : public ::testing::Test {
     daemon_.kill();
     daemon_.waitForFinished(3000);
   }
-  void changeScheme(const QVariant& v) {
+  void changeScheme(const QVariant& v, const QString& key = QStringLiteral("color-scheme")) {
     QDBusMessage signal = QDBusMessage::createSignal("/org/freedesktop/portal/desktop",
                                                      "org.freedesktop.portal.Settings", "SettingChanged");
-    signal << QStringLiteral("org.freedesktop.appearance") << QStringLiteral("color-scheme")
-           << QVariant::fromValue(QDBusVariant(v));
+    signal << QStringLiteral("org.freedesktop.appearance") << key << QVariant::fromValue(QDBusVariant(v));
     ASSERT_TRUE(portalBus_->send(signal));
   }
 
@@ -98,6 +98,15 @@ TEST_F(PanelTheme, PortalAnswerThenChangesFollow) {
   ASSERT_TRUE(changed.wait(5000));
   EXPECT_EQ(watcher.portalScheme(), tray_theme::Scheme::Unknown);
   EXPECT_TRUE(watcher.isSystemDarkTheme());
+
+  // The desktop asks for high contrast, then no longer.
+  EXPECT_FALSE(watcher.highContrast());
+  changeScheme(QVariant::fromValue(1u), QStringLiteral("contrast"));
+  ASSERT_TRUE(changed.wait(5000));
+  EXPECT_TRUE(watcher.highContrast());
+  changeScheme(QVariant::fromValue(0u), QStringLiteral("contrast"));
+  ASSERT_TRUE(changed.wait(5000));
+  EXPECT_FALSE(watcher.highContrast());
   QDBusConnection::disconnectFromBus("watcher");
 }
 
@@ -128,6 +137,27 @@ QPalette paletteWithWindow(const QColor& window) {
 }
 
 }  // namespace
+
+struct ContrastRow {
+  const char* name;
+  bool high;
+};
+class HighContrastName : public ::testing::TestWithParam<ContrastRow> {};
+TEST_P(HighContrastName, TellsTheHighContrastThemes) {
+  EXPECT_EQ(tray_theme::isHighContrastThemeName(GetParam().name), GetParam().high);
+}
+INSTANTIATE_TEST_SUITE_P(Rows, HighContrastName,
+                         ::testing::Values(ContrastRow{"HighContrast", true},
+                                           ContrastRow{"HighContrastInverse", true},
+                                           ContrastRow{"Breeze High Contrast", true},
+                                           ContrastRow{"Adwaita-hc", true}, ContrastRow{"Yaru:hc", true},
+                                           ContrastRow{"Adwaita", false}, ContrastRow{"Adwaita-dark", false},
+                                           ContrastRow{"", false}, ContrastRow{"Orchis", false}),
+                         [](const ::testing::TestParamInfo<ContrastRow>& i) {
+                           QString n = i.param.name;
+                           return n.isEmpty() ? std::string("empty")
+                                              : n.remove(QRegExp("[^A-Za-z]")).toStdString();
+                         });
 
 // Without a portal the palette decides; the watcher keeps its verdict between
 // questions (the icon asks every second), so a palette change must reach it.
