@@ -47,6 +47,14 @@ Ledger parse_ledger(const QByteArray& json, QString* problem) {
       return bad("the id of \"" + it.key() + "\" is not a notification id");
     ledger.ids.insert(it.key(), static_cast<uint>(id));
   }
+  const QJsonObject owners = root.value("owners").toObject();
+  for (auto it = owners.begin(); it != owners.end(); ++it) {
+    bool ok = false;
+    const uint id = it.key().toUInt(&ok);
+    if (!ok || !it.value().isDouble() || it.value().toDouble() < 1)
+      return bad("the owner of \"" + it.key() + "\" is not a process");
+    ledger.owners.insert(id, static_cast<qint64>(it.value().toDouble()));
+  }
   return ledger;
 }
 
@@ -54,7 +62,11 @@ QByteArray serialize_ledger(const Ledger& ledger) {
   QJsonObject ids;
   for (auto it = ledger.ids.begin(); it != ledger.ids.end(); ++it)
     ids.insert(it.key(), static_cast<double>(it.value()));
-  return QJsonDocument(QJsonObject{{"server", ledger.server}, {"ids", ids}}).toJson(QJsonDocument::Compact);
+  QJsonObject owners;
+  for (auto it = ledger.owners.begin(); it != ledger.owners.end(); ++it)
+    owners.insert(QString::number(it.key()), static_cast<double>(it.value()));
+  return QJsonDocument(QJsonObject{{"server", ledger.server}, {"ids", ids}, {"owners", owners}})
+      .toJson(QJsonDocument::Compact);
 }
 
 uint replaced_id(const Ledger& ledger, const QString& server, const std::vector<NotifyCall>& calls) {
@@ -62,9 +74,10 @@ uint replaced_id(const Ledger& ledger, const QString& server, const std::vector<
   return ledger.ids.value(calls.back().summary, 0);
 }
 
-void record_shown(Ledger& ledger, const QString& server, const QString& kind, uint id) {
+void record_shown(Ledger& ledger, const QString& server, const QString& kind, uint id, qint64 pid) {
   if (ledger.server != server) {
     ledger.ids.clear();
+    ledger.owners.clear();
     ledger.server = server;
   }
   for (auto it = ledger.ids.begin(); it != ledger.ids.end();) {
@@ -73,7 +86,22 @@ void record_shown(Ledger& ledger, const QString& server, const QString& kind, ui
     else
       ++it;
   }
-  if (id != 0) ledger.ids.insert(kind, id);
+  if (id != 0) {
+    ledger.ids.insert(kind, id);
+    ledger.owners.insert(id, pid);
+  }
+  // Only the ids still shown keep an owner.
+  for (auto it = ledger.owners.begin(); it != ledger.owners.end();) {
+    if (!ledger.ids.values().contains(it.key()))
+      it = ledger.owners.erase(it);
+    else
+      ++it;
+  }
+}
+
+bool handed_over(const Ledger& ledger, const QString& server, uint id, qint64 pid) {
+  return !server.isEmpty() && ledger.server == server && ledger.owners.contains(id) &&
+         ledger.owners.value(id) != pid;
 }
 
 QString ledger_path() {

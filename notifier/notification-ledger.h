@@ -17,8 +17,9 @@
 namespace notifier {
 
 struct Ledger {
-  QString server;            // the service instance: bus id and the service's unique name
-  QHash<QString, uint> ids;  // kind (title) -> id
+  QString server;              // the service instance: bus id and the service's unique name
+  QHash<QString, uint> ids;    // kind (title) -> id
+  QHash<uint, qint64> owners;  // id -> the notifier process that shows it now
 };
 
 // The file's JSON; anything else (not JSON, wrong types, ids out of range)
@@ -30,9 +31,12 @@ QByteArray serialize_ledger(const Ledger& ledger);
 // the run ends with (a run's notifications replace each other in order, so
 // its last one is what stays), when the ledger is `server`'s; 0 otherwise.
 uint replaced_id(const Ledger& ledger, const QString& server, const std::vector<NotifyCall>& calls);
-// After a run whose last notification `kind` shows as `id`: that kind maps
-// to `id` and no other kind keeps that id.
-void record_shown(Ledger& ledger, const QString& server, const QString& kind, uint id);
+// After a run (process `pid`) whose last notification `kind` shows as `id`:
+// that kind maps to `id`, no other kind keeps that id, and `pid` owns it.
+void record_shown(Ledger& ledger, const QString& server, const QString& kind, uint id, qint64 pid);
+// Whether a later run has taken `id` over from process `pid`: then `pid`
+// neither closes it when its time is over nor acts on its buttons.
+bool handed_over(const Ledger& ledger, const QString& server, uint id, qint64 pid);
 
 // "<state folder>/NimbraBackupAgent/notifier-ids.json", beside the log folder;
 // empty when there is none.

@@ -113,6 +113,12 @@ ShowOutcome NotificationSession::show(const std::vector<NotifyCall>& calls, uint
 
 void NotificationSession::slotActionInvoked(uint id, const QString& key) {
   if (!open_.contains(id)) return;  // another program's notification
+  if (handedOver_ && handedOver_(id)) {
+    // The later run that replaced it acts on it.
+    open_.remove(id);
+    finishWhenNothingOpen();
+    return;
+  }
   if (!action_keys_.contains(key)) {
     LOG_WARN(vlog::kDefaultComponent, "unknown action '%s' on notification %u", key.toUtf8().constData(), id);
     return;
@@ -139,7 +145,10 @@ void NotificationSession::slotServiceGone() {
 
 void NotificationSession::slotLingerOver() {
   // A button that no longer does anything is worse than no notification.
-  for (uint id : open_) closeNotification(id);
+  for (uint id : open_) {
+    // One that a later run has replaced is that run's to close.
+    if (!handedOver_ || !handedOver_(id)) closeNotification(id);
+  }
   open_.clear();
   finishWhenNothingOpen();
 }

@@ -18,6 +18,8 @@
 #include <QStringList>
 #include <QTimer>
 
+#include <functional>
+#include <utility>
 #include <vector>
 
 #include "notification-request.h"
@@ -59,6 +61,10 @@ class NotificationSession : public QObject {
   // screen; then the session waits for its actions.
   ShowOutcome show(const std::vector<NotifyCall>& calls, uint replaces = 0);
 
+  // Asked before the session closes a notification at the end of its time
+  // or acts on a button: true when a later run has taken the id over.
+  void setHandedOver(std::function<bool(uint)> handedOver) { handedOver_ = std::move(handedOver); }
+
   // Ids of the notifications still open.
   QSet<uint> openIds() const { return open_; }
 
@@ -87,6 +93,7 @@ class NotificationSession : public QObject {
   QString server_;
   QSet<uint> open_;
   QSet<QString> action_keys_;
+  std::function<bool(uint)> handedOver_;
   QTimer linger_;
   QTimer bus_check_;
   bool finished_ = false;

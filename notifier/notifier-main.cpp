@@ -68,8 +68,17 @@ int show_and_stay(int argc, char** argv, const NotifierRequest& request, const R
   with_ledger(ledger_path(), [&](Ledger& ledger) {
     outcome = session.show(calls, replaced_id(ledger, session.server(), calls));
     if (outcome.code != kExitShown || session.server().isEmpty()) return false;
-    record_shown(ledger, session.server(), outcome.last_kind, outcome.last_id);
+    record_shown(ledger, session.server(), outcome.last_kind, outcome.last_id,
+                 QCoreApplication::applicationPid());
     return true;
+  });
+  session.setHandedOver([&session](uint id) {
+    bool over = false;
+    with_ledger(ledger_path(), [&](Ledger& ledger) {
+      over = handed_over(ledger, session.server(), id, QCoreApplication::applicationPid());
+      return false;
+    });
+    return over;
   });
   if (outcome.code != kExitShown) return fail(outcome.code, outcome.error);
 

@@ -20,6 +20,7 @@
 #include "json-access.h"
 #include "logger.h"
 #include "string-catalogue-table.h"
+#include "style-manager.h"
 
 // The translations are compiled into a resource of agent_core; the resource
 // object is always linked because init_resources() refers to it.
@@ -467,7 +468,10 @@ QString text(Str row) {
     LOG_WARN(vlog::kDefaultComponent, "no catalogue row %d", index);
     return QString();
   }
-  return expand_escapes(QCoreApplication::translate(kContext, catalogue_rows()[index].source));
+  const QString out = expand_escapes(QCoreApplication::translate(kContext, catalogue_rows()[index].source));
+  // The high-contrast look also recolours the links and values a text colours itself.
+  const StyleManager* styles = StyleManager::getInstance();
+  return styles->highContrast() ? high_contrast::apply(out, styles->palette()) : out;
 }
 
 QString key(Str row) {

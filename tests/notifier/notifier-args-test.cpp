@@ -178,6 +178,8 @@ INSTANTIATE_TEST_SUITE_P(Rows, NotifierBadLedger,
                                            BadLedger{"IdString", R"({"server":"s","ids":{"A":"7"}})"},
                                            BadLedger{"IdZero", R"({"server":"s","ids":{"A":0}})"},
                                            BadLedger{"IdFraction", R"({"server":"s","ids":{"A":1.5}})"},
+                                           BadLedger{"OwnerWord", R"({"server":"s","ids":{},"owners":{"x":5}})"},
+                                           BadLedger{"OwnerString", R"({"server":"s","ids":{},"owners":{"5":"1"}})"},
                                            BadLedger{"IdOver32Bits",
                                                      R"({"server":"s","ids":{"A":4294967296}})"}),
                          [](const auto& p) { return std::string(p.param.name); });
@@ -190,19 +192,25 @@ NotifyCall call_titled(const QString& title) {
 
 TEST(NotifierLedger, ARunReplacesTheKindItEndsWithOfTheSameServiceOnly) {
   Ledger l;
-  record_shown(l, "bus :1.4", "Backup failed", 7);
-  record_shown(l, "bus :1.4", "Storage full", 9);
+  record_shown(l, "bus :1.4", "Backup failed", 7, 100);
+  record_shown(l, "bus :1.4", "Storage full", 9, 101);
   l = parse_ledger(serialize_ledger(l), nullptr);
   EXPECT_EQ(replaced_id(l, "bus :1.4", {call_titled("Storage full"), call_titled("Backup failed")}), 7u);
   EXPECT_EQ(replaced_id(l, "bus :1.4", {call_titled("Backup failed"), call_titled("Storage full")}), 9u);
   EXPECT_EQ(replaced_id(l, "bus :1.4", {call_titled("Device removed")}), 0u);
   EXPECT_EQ(replaced_id(l, "bus :1.5", {call_titled("Backup failed")}), 0u);  // a restarted service
   EXPECT_EQ(replaced_id(l, "bus :1.4", {}), 0u);
-  // Kind "Backup failed" now shows in 9: "Storage full" is no longer on screen.
-  record_shown(l, "bus :1.4", "Backup failed", 9);
+  // Kind "Backup failed" now shows in 9 (run 102): "Storage full" is no
+  // longer on screen, and run 101 must leave 9 alone.
+  record_shown(l, "bus :1.4", "Backup failed", 9, 102);
   EXPECT_EQ(l.ids, (QHash<QString, uint>{{"Backup failed", 9}}));
-  record_shown(l, "bus :1.5", "Storage full", 3);
+  EXPECT_TRUE(handed_over(l, "bus :1.4", 9, 101));
+  EXPECT_FALSE(handed_over(l, "bus :1.4", 9, 102));
+  EXPECT_FALSE(handed_over(l, "bus :1.4", 7, 100));  // closed or unknown: its own
+  EXPECT_FALSE(handed_over(l, "bus :1.5", 9, 101));
+  record_shown(l, "bus :1.5", "Storage full", 3, 103);
   EXPECT_EQ(l.ids, (QHash<QString, uint>{{"Storage full", 3}}));
+  EXPECT_EQ(l.owners, (QHash<uint, qint64>{{3, 103}}));
 }
 
 }  // namespace

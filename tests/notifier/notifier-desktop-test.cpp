@@ -4,6 +4,8 @@
 // and its exit codes.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <algorithm>
 #include <signal.h>
 
 #include <QDir>
@@ -209,6 +211,23 @@ TEST_F(NotifierOnDesktop, ARepeatedEventReplacesItsEarlierNotificationOthersStay
   for (const QJsonValue& shown : desktop_.history()) bodies << shown.toObject().value("body").toString();
   bodies.sort();
   EXPECT_EQ(bodies, QStringList({"three", "two"}));
+}
+
+TEST_F(NotifierOnDesktop, ARunWhoseNotificationWasReplacedLeavesItOnScreen) {
+  QProcessEnvironment brief = desktop_.environment();
+  brief.insert("NIMBRA_NOTIFIER_LINGER_MS", "1500");
+  ASSERT_EQ(app_.run(notifier_args({element("Backup failed", "one", "Open Nimbra Backup", 1)}), brief).code, 0);
+  const std::vector<int> first = app_.processes();
+  show({element("Backup failed", "two", "Open Nimbra Backup", 1)});
+  // The first run's time is over: it ends without closing what the second shows.
+  ASSERT_TRUE(wait_until(
+      [&] {
+        const std::vector<int> now = app_.processes();
+        return std::none_of(first.begin(), first.end(),
+                            [&](int pid) { return std::find(now.begin(), now.end(), pid) != now.end(); });
+      },
+      10000));
+  EXPECT_EQ(desktop_.displayed(), 1);
 }
 
 TEST_F(NotifierOnDesktop, MarkupInTitleAndTextIsShownAsText) {

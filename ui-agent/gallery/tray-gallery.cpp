@@ -1,18 +1,26 @@
 // The tray pop-up and what it opens, in each state: the status page for
 // every last result, Ready and the error page; the progress page preparing,
 // running, stalled and without transfer numbers; the user drop-down with
-// and without the quota area; the activity dialog with 100 entries.
+// and without the quota area; the activity dialog with 100 entries; the
+// icon's right-click menu and tool tip.
 
 #include <QApplication>
+#include <QLabel>
 #include <QMenu>
+#include <QPainter>
+
+#include <algorithm>
 
 #include <json/value.h>
 
+#include "core/global-connecter.h"
 #include "dpi-info.h"
 #include "json-access.h"
 #include "screen-gallery.h"
+#include "style-manager.h"
 #include "tray/log-widget.h"
 #include "tray/quota-info-widget.h"
+#include "tray/system-tray.h"
 #include "tray/tray-menu.h"
 #include "tray/tray-progress-widget.h"
 
@@ -206,7 +214,59 @@ void renderActivity() {
                 QStringLiteral("tray-activity.png"));
 }
 
+// The icon's menu while connected, with its tool tip as the caption.
+void renderIconMenu() {
+  struct State {
+    const char* caption;
+    const char* content;
+    ServiceStatus status;
+    bool reachable;
+  };
+  const std::vector<State> states{
+      {"Idle",
+       R"js({"connected":true,"last_backup_result":{"last_backup_status":2,"last_backup_time":1795420800}})js",
+       StatusIdle, true},
+      {"Backing up", R"js({"connected":true,"transfer":{"transfer":3,"total":8}})js", StatusBackupRunning,
+       true},
+      {"Service unreachable", R"js({"connected":true})js", StatusIdle, false},
+  };
+  std::vector<gallery::Cell> row;
+  for (const State& s : states) {
+    // The tray follows the desktop's contrast; the gallery sets it itself.
+    const bool high = StyleManager::getInstance()->highContrast();
+    SystemTray tray;
+    StyleManager::getInstance()->setHighContrast(high);
+    tray.setConnectionMode(1);
+    tray.updateServiceStatus(s.status, json(s.content));
+    if (!s.reachable) emit GlobalConnecter::instance().sigQueryServiceFailed();
+    QMenu* m = tray.rightMenu();
+    m->popup(QPoint(0, 0));
+    QApplication::processEvents();
+    // The menu, and the tool tip below it as the desktop shows one.
+    QLabel tip(tray.toolTip());
+    tip.setStyleSheet(
+        QStringLiteral("QLabel { background: #FFFFE1; color: black; border: 1px solid #767676; "
+                       "padding: 2px 4px; }"));
+    tip.adjustSize();
+    const QImage menuImage = m->grab().toImage();
+    const QImage tipImage = tip.grab().toImage();
+    QImage both(std::max(menuImage.width(), tipImage.width()), menuImage.height() + tipImage.height() + 8,
+                QImage::Format_ARGB32_Premultiplied);
+    both.fill(Qt::transparent);
+    QPainter painter(&both);
+    painter.drawImage(0, 0, menuImage);
+    painter.drawImage(0, menuImage.height() + 8, tipImage);
+    painter.end();
+    row.push_back({QString::fromLatin1(s.caption), both});
+    m->hide();
+  }
+  gallery::save(gallery::sheet(QStringLiteral("Tray icon: right-click menu and tool tip"), {row},
+                               QColor(0xE9, 0xED, 0xF2)),
+                QStringLiteral("tray-icon-menu.png"));
+}
+
 void renderTray() {
+  renderIconMenu();
   renderStatus();
   renderProgress();
   renderUserMenu();

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCursor>
 #include <QDesktopWidget>
 #include <QGuiApplication>
 #include <QIcon>
@@ -238,8 +239,10 @@ void SystemTray::buildRightMenu() {
     return a;
   };
   connect(add(Str::notification_btn, "OpenAction"), &QAction::triggered, this, [this]() {
+    // Without the icon's place (some panels do not tell it), where the
+    // person just clicked the icon.
     const QRect icon = geometry();
-    showMenuAt(icon.isValid() ? icon.center() : QPoint());
+    showMenuAt(icon.isValid() ? icon.center() : QCursor::pos());
   });
   backupNow_ = add(Str::tray_menu_backup_now, "BackupNowAction");
   connect(backupNow_, &QAction::triggered, this, &SystemTray::backupNow);

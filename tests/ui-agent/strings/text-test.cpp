@@ -9,6 +9,7 @@
 #include "agent-test.h"
 #include "core/notification-text.h"
 #include "string-display.h"
+#include "style-manager.h"
 
 using namespace string_display;
 
@@ -162,3 +163,16 @@ INSTANTIATE_TEST_SUITE_P(
                          "You have used 95% of your total storage (0 Bytes)."}));
 
 }  // namespace
+
+// The high-contrast look recolours what a text colours itself, and only then.
+TEST(CatalogueText, HighContrastRecoloursTheTextsOwnColours) {
+  StyleManager* styles = StyleManager::getInstance();
+  styles->loadPalette("#0A9CFF #005FB8", "test");
+  const QString normal = string_display::text(Str::desc_progress_handled);
+  styles->setHighContrast(true);
+  const QString high = string_display::text(Str::desc_progress_handled);
+  styles->setHighContrast(false);
+  styles->loadPalette("", "test");
+  EXPECT_THAT(normal.toStdString(), ::testing::HasSubstr("#0A9CFF"));
+  EXPECT_EQ(high, QString(normal).replace("#0A9CFF", "#005FB8"));
+}
