@@ -86,9 +86,8 @@ LogWidget::LogWidget(QWidget* parent) : QWidget(parent), fitter_(event_fit::Fitt
   header_->setCellWidget(0, 0, cellLabel(string_display::text(Str::desc_time),
                                          getStyleSheet(QStringLiteral("log_widget_time"))));
   // Both titles in the one look of the time column's.
-  header_->setCellWidget(
-      0, 1,
-      cellLabel(string_display::text(Str::desc_event), getStyleSheet(QStringLiteral("log_widget_time"))));
+  header_->setCellWidget(0, 1, cellLabel(string_display::text(Str::desc_event),
+                                         getStyleSheet(QStringLiteral("log_widget_time"))));
 
   auto* divider = new QFrame(this);
   divider->setObjectName(QStringLiteral("logDivider"));
