@@ -148,6 +148,8 @@ DEMO_PIDS+=($!)
 DEMO_NAMES+=(xvfb)
 wait_for 15 "Xvfb to take a display" test -s "$DEMO_DIR/display" || fail "Xvfb did not start (xvfb.log)"
 export DISPLAY=":$(head -n 1 "$DEMO_DIR/display")"
+# On a loaded machine the display may not take clients the moment its number is out.
+wait_for 15 "the display to answer" xprop -root || fail "the display $DISPLAY does not answer (xvfb.log)"
 echo "   display $DISPLAY, session bus $DBUS_SESSION_BUS_ADDRESS"
 start_logged openbox openbox
 wait_for 10 "openbox" sh -c 'xprop -root _NET_SUPPORTING_WM_CHECK | grep -q "window id"' || fail "openbox did not start"

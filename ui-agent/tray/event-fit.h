@@ -15,8 +15,8 @@
 // false to true once along the series. search() finds that point by
 // galloping from a guess (the share of the lines that the top text
 // overflows) and bisecting the last step, and lays out each distinct elided
-// text once, so its cost grows with the logarithm of the guess's error. linear() is the plain walk, kept as the
-// reference the tests and the benchmark compare with.
+// text once, so its cost grows with the logarithm of the guess's error. linear() is the plain walk, kept as
+// the reference the tests and the benchmark compare with.
 
 #include <QHash>
 #include <QSize>

@@ -153,7 +153,9 @@ struct WholeWords {
   const char* language;
   QRegularExpression words;
 };
-void PrintTo(const WholeWords& w, std::ostream* os) { *os << w.language; }
+void PrintTo(const WholeWords& w, std::ostream* os) {
+  *os << w.language;
+}
 class LineBreaks : public ::testing::TestWithParam<WholeWords> {};
 
 TEST_P(LineBreaks, NeverFallInsideAWord) {
@@ -165,8 +167,8 @@ TEST_P(LineBreaks, NeverFallInsideAWord) {
       const QRegularExpressionMatch word = it.next();
       for (int at = word.capturedStart() + 1; at < word.capturedEnd(); ++at) {
         breaks.setPosition(at);
-        EXPECT_FALSE(breaks.isAtBoundary()) << word.captured().toStdString() << " broken at " << at - word.capturedStart()
-                                            << " in: " << text.toStdString();
+        EXPECT_FALSE(breaks.isAtBoundary()) << word.captured().toStdString() << " broken at "
+                                            << at - word.capturedStart() << " in: " << text.toStdString();
       }
     }
   }

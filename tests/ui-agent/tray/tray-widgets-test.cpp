@@ -196,7 +196,12 @@ TEST_F(TrayWidgets, PagesGetTheirRoomAtEveryScale) {
 
 // In every language, no one-line text of the pages is cut without an
 // ellipsis: what does not fit is elided, with the whole text as tool tip.
-class TrayPagesInLanguage : public tray_test::TrayTest, public ::testing::WithParamInterface<const char*> {};
+class TrayPagesInLanguage : public tray_test::TrayTest, public ::testing::WithParamInterface<const char*> {
+ protected:
+  static QWidget* currentPage(TrayMenu& menu) {
+    return child<QStackedWidget>(&menu, "trayPages")->currentWidget();
+  }
+};
 
 TEST_P(TrayPagesInLanguage, OneLineTextsFitOrAreElided) {
   const QString language = QString::fromLatin1(GetParam());
@@ -210,15 +215,19 @@ TEST_P(TrayPagesInLanguage, OneLineTextsFitOrAreElided) {
     TrayMenu menu;
     menu.setFixedSize(DPIinfo::scaled(400), DPIinfo::scaled(232));
     menu.show();
-    for (
-        const char* content :
-        {R"({"connected":true,"last_backup_result":{"last_backup_status":2,"backed_up":false,"last_backup_time":0}})",
-         R"({"connected":true,"last_backup_result":{"last_backup_status":2,"backed_up":true,"last_backup_time":1706745000},
-              "next_backup_time":0})",
-         R"({"connected":true,"last_backup_result":{"last_backup_status":4},"next_backup_time":1706800000})"}) {
-      menu.updateServiceStatus(static_cast<ServiceStatus>(0x2000), agent_test::parse(content));
+    const std::pair<int, const char*> states[] = {
+        {0x2000,
+         R"({"connected":true,"last_backup_result":{"last_backup_status":2,"backed_up":false,"last_backup_time":0}})"},
+        {0x2000, R"({"connected":true,"last_backup_result":{"last_backup_status":2,"backed_up":true,
+                     "last_backup_time":1706745000},"next_backup_time":0})"},
+        {0x2000,
+         R"({"connected":true,"last_backup_result":{"last_backup_status":4},"next_backup_time":1706800000})"},
+        {0x3001, R"({"connected":true})"},
+        {0x3003, R"({"connected":true,"transfer":{"transfer":400,"total":1600,"speed":0}})"}};
+    for (const auto& [status, content] : states) {
+      menu.updateServiceStatus(static_cast<ServiceStatus>(status), agent_test::parse(content));
       QApplication::processEvents();
-      for (QLabel* label : menu.statusPage()->findChildren<QLabel*>()) {
+      for (QLabel* label : currentPage(menu)->findChildren<QLabel*>()) {
         if (label->wordWrap() || label->text().isEmpty() || Qt::mightBeRichText(label->text())) continue;
         const int room = label->contentsRect().width();
         const bool fits = label->fontMetrics().horizontalAdvance(label->text()) <= room;
@@ -339,7 +348,8 @@ TEST_F(TrayWidgets, ActivityTitlesStandOverTheirColumns) {
     for (int column : {0, 1}) {
       const QWidget* title = header->cellWidget(0, column);
       const QWidget* cell = table->cellWidget(0, column);
-      EXPECT_EQ(title->mapTo(&log, QPoint()).x(), cell->mapTo(&log, QPoint()).x()) << scale << " column " << column;
+      EXPECT_EQ(title->mapTo(&log, QPoint()).x(), cell->mapTo(&log, QPoint()).x())
+          << scale << " column " << column;
     }
     EXPECT_EQ(header->cellWidget(0, 0)->palette().color(QPalette::WindowText),
               header->cellWidget(0, 1)->palette().color(QPalette::WindowText));
