@@ -1069,23 +1069,23 @@
     </message>
     <message>
         <source>Service not reachable</source>
-        <translation>サービスに接続できません</translation>
+        <translation>サ⁠ー⁠ビ⁠スに接続できません</translation>
     </message>
     <message>
         <source>Last backup: %1, %2</source>
-        <translation>前回のバックアップ: %1、%2</translation>
+        <translation>前回のバ⁠ッ⁠ク⁠ア⁠ッ⁠プ: %1、%2</translation>
     </message>
     <message>
         <source>Back up now</source>
-        <translation>今すぐバックアップ</translation>
+        <translation>今すぐバ⁠ッ⁠ク⁠ア⁠ッ⁠プ</translation>
     </message>
     <message>
         <source>A backup is running</source>
-        <translation>バックアップを実行中です</translation>
+        <translation>バ⁠ッ⁠ク⁠ア⁠ッ⁠プを実行中です</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation>コピー</translation>
+        <translation>コ⁠ピ⁠ー</translation>
     </message>
 </context>
 </TS>

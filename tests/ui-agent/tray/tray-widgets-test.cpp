@@ -7,7 +7,6 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
-#include <memory>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
