@@ -145,14 +145,16 @@ int run(int argc, char** argv, const Options& options) {
 
   // 13. The machine-wide lock: another user's agent refuses this one.
   MachineLock lock(MachineLock::kName, options.lockUser);
-  const MachineLock::Result locked = lock.acquire();
-  if (locked == MachineLock::HeldByOtherUser || locked == MachineLock::Failed) {
+  // True (after the warning) when another user's agent holds the lock.
+  const auto refused = [](MachineLock::Result r) {
+    if (r != MachineLock::HeldByOtherUser && r != MachineLock::Failed) return false;
     LOG_WARN(vlog::kDefaultComponent, "machine lock %s: another user runs the agent",
-             MachineLock::resultName(locked));
+             MachineLock::resultName(r));
     showWarningMsg(string_display::text(Str::app_name), string_display::text(Str::app_exists));
     os_services::stop_process_services();
-    return 0;
-  }
+    return true;
+  };
+  if (refused(lock.acquire())) return 0;
 
   // 14. Single instance: a first instance that is exiting has 500 ms to let go.
   QElapsedTimer clock;
@@ -173,13 +175,7 @@ int run(int argc, char** argv, const Options& options) {
   // user's exiting agent still held it a moment ago.
   if (!lock.held()) {
     const MachineLock::Result kept = lock.acquireForLife(3000);
-    if (kept == MachineLock::HeldByOtherUser || kept == MachineLock::Failed) {
-      LOG_WARN(vlog::kDefaultComponent, "machine lock %s: another user runs the agent",
-               MachineLock::resultName(kept));
-      showWarningMsg(string_display::text(Str::app_name), string_display::text(Str::app_exists));
-      os_services::stop_process_services();
-      return 0;
-    }
+    if (refused(kept)) return 0;
     if (kept != MachineLock::Acquired)
       LOG_ERROR(vlog::kDefaultComponent, "machine lock still %s: this agent runs without it",
                 MachineLock::resultName(kept));

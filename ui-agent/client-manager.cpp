@@ -366,7 +366,7 @@ void ClientManager::runNotifier(const Json::Value& notifications) {
   };
   connect(notifier, &QProcess::errorOccurred, this, [notifier, balloons](QProcess::ProcessError error) {
     if (error != QProcess::FailedToStart) return;
-    CM_LOG_ERROR("can't wait started: %s", qUtf8Printable(notifier->errorString()));
+    CM_LOG_ERROR("the notifier did not start: %s", qUtf8Printable(notifier->errorString()));
     balloons();
     notifier->deleteLater();
   });
@@ -383,7 +383,7 @@ void ClientManager::runNotifier(const Json::Value& notifications) {
             notifier->deleteLater();
           });
   QTimer::singleShot(30000, notifier, [notifier] {
-    CM_LOG_ERROR("can't wait finished: the notifier is stopped");
+    CM_LOG_ERROR("the notifier has not ended after 30 s: stopped");
     notifier->kill();
   });
   notifier->start(client_manager_platform::notifierProgram(), arguments, QIODevice::ReadOnly);

@@ -24,6 +24,7 @@
 #include "bench-report.h"
 #include "core/global-connecter.h"
 #include "service-communicator.h"
+#include "ui-agent/service-peer.h"
 #include "win-ipc.h"
 
 namespace {
@@ -40,34 +41,6 @@ long statusKiB(const char* field) {
 void resetPeak() {
   std::ofstream("/proc/self/clear_refs") << "5";
 }
-
-// The service end: answers every request with `answer`.
-class Peer {
- public:
-  explicit Peer(std::string answer) : answer_(std::move(answer)) {
-    server_.set_timeout_ms(50);
-    if (server_.create(WinIpc::kServicePipe) != 0) std::abort();
-    thread_ = std::thread([this] {
-      while (!stop_) {
-        if (!server_.accept()) continue;
-        std::string request;
-        if (server_.read(request) == 0) server_.write(answer_);
-        server_.disconnect();
-      }
-    });
-  }
-  ~Peer() {
-    stop_ = true;
-    thread_.join();
-    server_.close();
-  }
-
- private:
-  std::string answer_;
-  WinIpc::IpcServer server_;
-  std::thread thread_;
-  std::atomic<bool> stop_{false};
-};
 
 std::string realStatus() {
   std::string logs;
@@ -95,7 +68,7 @@ struct Cost {
 
 // One get_status through the bus to three listeners.
 Cost ask(const std::string& answer) {
-  Peer peer(answer);
+  ServicePeer peer(answer);
   GlobalConnecter* bus = &GlobalConnecter::instance();
   QObject requester, listeners[3];
   QEventLoop loop;

@@ -27,6 +27,7 @@
 #include "core/global-connecter.h"
 #include "json-access.h"
 #include "service-communicator.h"
+#include "ui-agent/service-peer.h"
 #include "win-ipc.h"
 
 namespace {
@@ -36,33 +37,6 @@ using Clock = std::chrono::steady_clock;
 const char kAnswer[] =
     R"({"status":8192,"content":{"connected":true,"last_backup":{"result":1,"end_time":1700000000}},)"
     R"("connection":{"address":"cloud.example","port":443,"username":"me@example.com"}})";
-
-// The service end: answers every request with kAnswer.
-class Peer {
- public:
-  Peer() {
-    server_.set_timeout_ms(50);
-    if (server_.create(WinIpc::kServicePipe) != 0) std::abort();
-    thread_ = std::thread([this] {
-      while (!stop_) {
-        if (!server_.accept()) continue;
-        std::string request;
-        if (server_.read(request) == 0) server_.write(kAnswer);
-        server_.disconnect();
-      }
-    });
-  }
-  ~Peer() {
-    stop_ = true;
-    thread_.join();
-    server_.close();
-  }
-
- private:
-  WinIpc::IpcServer server_;
-  std::thread thread_;
-  std::atomic<bool> stop_{false};
-};
 
 Json::Value getStatusRequest() {
   Json::Value r(Json::objectValue);
@@ -136,7 +110,7 @@ int main(int argc, char** argv) {
   QCoreApplication app(argc, argv);
   GlobalConnecter::instance();
 
-  Peer peer;
+  ServicePeer peer(kAnswer);
   QThread worker;
   auto* communicator = new ServiceCommunicator();
   communicator->moveToThread(&worker);
