@@ -11,6 +11,12 @@ set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
 set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
 
 list(APPEND CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32)
+# Qt for Windows (scripts/lib/build-qt-windows.sh prints its prefix): its
+# packages are found like the system's, under the find root.
+set(CMAKE_TRY_COMPILE_PLATFORM_VARIABLES NIMBRA_QT_WINDOWS_PREFIX)
+if(NIMBRA_QT_WINDOWS_PREFIX)
+  list(APPEND CMAKE_FIND_ROOT_PATH ${NIMBRA_QT_WINDOWS_PREFIX})
+endif()
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)

@@ -74,13 +74,21 @@ QString localServerName(const QString& base) {
 }
 
 bool peerIsSameUser(qintptr descriptor) {
-  // The local socket is a named pipe: whoever created the name first serves
-  // it, so the server's process must run as this user.
+  // The local socket is a named pipe. On the client end the other process is
+  // the pipe's server (whoever created the name first serves it); on the
+  // server end it is the client that connected.
   const HANDLE pipe = reinterpret_cast<HANDLE>(descriptor);
-  ULONG pid = 0;
-  if (!::GetNamedPipeServerProcessId(pipe, &pid) || pid == 0) return false;
-  if (pid == ::GetCurrentProcessId()) return true;
-  const HANDLE process = ::OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, pid);
+  const ULONG self = ::GetCurrentProcessId();
+  ULONG server = 0;
+  if (!::GetNamedPipeServerProcessId(pipe, &server) || server == 0) return false;
+  ULONG peer = server;
+  if (server == self) {
+    ULONG client = 0;
+    if (!::GetNamedPipeClientProcessId(pipe, &client) || client == 0) return false;
+    peer = client;
+  }
+  if (peer == self) return true;
+  const HANDLE process = ::OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, peer);
   if (process == nullptr) return false;
   std::unique_ptr<BYTE[]> theirs, mine;
   const bool same = tokenUser(process, theirs) && tokenUser(::GetCurrentProcess(), mine) &&
