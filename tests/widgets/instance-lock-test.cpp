@@ -147,6 +147,9 @@ TEST_F(WidgetsLock, FirstAcquiresSameUserSeesItHeld) {
   EXPECT_EQ(second.acquire(), MachineLock::Acquired);
 }
 
+#ifndef _WIN32
+// (Windows tells another user's holder by the mutex's access denied, which
+// no seam can simulate: the identity below is a Linux uid.)
 TEST_F(WidgetsLock, AnotherUsersHolderIsToldApart) {
   MachineLock holder(name_);
   ASSERT_EQ(holder.acquire(), MachineLock::Acquired);
@@ -156,6 +159,7 @@ TEST_F(WidgetsLock, AnotherUsersHolderIsToldApart) {
   MachineLock me(name_, [] { return static_cast<unsigned long>(::getuid()); });
   EXPECT_EQ(me.acquire(), MachineLock::HeldBySameUser);
 }
+#endif
 
 TEST_F(WidgetsLock, LockVanishesWithItsProcess) {
   QProcess holder;

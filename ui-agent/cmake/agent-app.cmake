@@ -4,7 +4,10 @@ if(TARGET agent_ui)
   # The screens' platform halves (agent_ui's glob leaves -posix/-windows out).
   nimbra_platform_sources(agent_ui_platform_sources ${CMAKE_CURRENT_SOURCE_DIR}/tray/tray-theme)
   target_sources(agent_ui PRIVATE ${agent_ui_platform_sources})
-  target_link_libraries(agent_ui PUBLIC agent_platform Qt5::DBus)
+  target_link_libraries(agent_ui PUBLIC agent_platform)
+  if(TARGET Qt5::DBus)
+    target_link_libraries(agent_ui PUBLIC Qt5::DBus)  # the panel's colour from the settings portal
+  endif()
 
   file(GLOB agent_app_sources CONFIGURE_DEPENDS
        ${CMAKE_CURRENT_SOURCE_DIR}/agent-app*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/client-manager*.cpp)
@@ -27,5 +30,11 @@ if(TARGET agent_ui)
 
   add_executable(nimbra-backup-agent main.cpp)
   target_link_libraries(nimbra-backup-agent PRIVATE agent_app)
+  if(WIN32)
+    # A static Qt links its default plugins (Windows platform, SVG); the
+    # offscreen platform too, as on Linux, for the tests and headless runs
+    # (QT_QPA_PLATFORM=offscreen).
+    set_property(TARGET nimbra-backup-agent APPEND PROPERTY QT_PLUGINS Qt5::QOffscreenIntegrationPlugin)
+  endif()
   install(TARGETS nimbra-backup-agent RUNTIME DESTINATION bin)
 endif()

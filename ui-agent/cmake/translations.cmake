@@ -16,8 +16,22 @@ foreach(lang IN LISTS NIMBRA_LANGUAGES)
   list(APPEND nimbra_ts_files ${nimbra_ts_dir}/${lang}.ts)
   string(APPEND nimbra_qrc_entries "    <file>${lang}.qm</file>\n")
 endforeach()
-set_source_files_properties(${nimbra_ts_files} PROPERTIES OUTPUT_LOCATION ${nimbra_qm_dir})
-qt5_add_translation(nimbra_qm_files ${nimbra_ts_files})
+if(COMMAND qt5_add_translation)
+  set_source_files_properties(${nimbra_ts_files} PROPERTIES OUTPUT_LOCATION ${nimbra_qm_dir})
+  qt5_add_translation(nimbra_qm_files ${nimbra_ts_files})
+else()
+  # A cross build (Windows): the build machine's lrelease; .qm files are the
+  # same on every platform.
+  find_program(NIMBRA_LRELEASE NAMES lrelease-qt5 lrelease HINTS /usr/lib/qt5/bin REQUIRED)
+  set(nimbra_qm_files)
+  foreach(ts IN LISTS nimbra_ts_files)
+    get_filename_component(lang ${ts} NAME_WE)
+    set(qm ${nimbra_qm_dir}/${lang}.qm)
+    add_custom_command(OUTPUT ${qm} COMMAND ${NIMBRA_LRELEASE} -silent ${ts} -qm ${qm}
+                       DEPENDS ${ts} VERBATIM)
+    list(APPEND nimbra_qm_files ${qm})
+  endforeach()
+endif()
 
 # The .qrc lives beside the .qm files it lists; it is rewritten only when the
 # language list changes.

@@ -5,11 +5,12 @@
 //   MESSAGE <text>     a message from a second instance reached the bus
 //   SHEET <title>|<text>  a warning was shown (and answered with OK)
 // Environment: NIMBRA_TEST_OTHER_USER=1 makes this process look like another
-// user to the machine-wide lock; NIMBRA_TEST_QUIT_AFTER=<n> ends the event
+// user to the machine-wide lock (Linux only); NIMBRA_TEST_QUIT_AFTER=<n> ends the event
 // loop after n messages.
-#include <unistd.h>
-
 #include <cstdio>
+#ifndef _WIN32
+#include <unistd.h>
+#endif
 
 #include <QMessageBox>
 #include <QTimer>
@@ -30,8 +31,10 @@ void say(const QString& line) {
 
 int main(int argc, char** argv) {
   agent_app::Options options;
+#ifndef _WIN32
   if (qEnvironmentVariable("NIMBRA_TEST_OTHER_USER") == QLatin1String("1"))
     options.lockUser = [] { return static_cast<unsigned long>(::getuid()) + 1; };
+#endif
   options.applicationReady = [](QApplication& app) {
     auto* answer = new QTimer(&app);
     QObject::connect(answer, &QTimer::timeout, [] {

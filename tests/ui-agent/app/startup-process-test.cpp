@@ -85,7 +85,8 @@ TEST_F(AgentLaunch, SecondLaunchWithoutArgumentsSendsOpenAndExits) {
   EXPECT_EQ(waitLine(first, "MESSAGE"), "MESSAGE open");
   // 500 ms of asking plus 100 ms before sending, on top of the program's own start.
   EXPECT_GE(took, 600);
-  std::printf("second launch exited after %lld ms (600 ms of waiting by design)\n", static_cast<long long>(took));
+  std::printf("second launch exited after %lld ms (600 ms of waiting by design)\n",
+              static_cast<long long>(took));
   EXPECT_EQ(first.state(), QProcess::Running);
 }
 
@@ -112,6 +113,9 @@ TEST_F(AgentLaunch, OpenLogStartsThePrimaryWithTheLogPending) {
   EXPECT_EQ(waitLine(first, "OPEN_LOG"), "OPEN_LOG 1");
 }
 
+#ifndef _WIN32
+// (Windows tells another user by the lock's access denied, which the
+// launcher cannot simulate.)
 TEST_F(AgentLaunch, AnotherUsersAgentRefusesThisOne) {
   // The machine-wide lock held here; the launcher looks like another user.
   MachineLock holder;
@@ -119,7 +123,8 @@ TEST_F(AgentLaunch, AnotherUsersAgentRefusesThisOne) {
   QProcessEnvironment otherUser;
   otherUser.insert("NIMBRA_TEST_OTHER_USER", "1");
   QProcess& refused = start(kLauncher, {}, otherUser);
-  EXPECT_EQ(waitLine(refused, "SHEET"), "SHEET Nimbra Backup|This application is already opened by another user.");
+  EXPECT_EQ(waitLine(refused, "SHEET"),
+            "SHEET Nimbra Backup|This application is already opened by another user.");
   ASSERT_TRUE(refused.waitForFinished(10000));
   EXPECT_EQ(refused.exitCode(), 0);
   EXPECT_EQ(QString::fromUtf8(refused.readAllStandardOutput()).contains("PRIMARY"), false);
@@ -128,5 +133,6 @@ TEST_F(AgentLaunch, AnotherUsersAgentRefusesThisOne) {
   QProcess& same = start(kLauncher, {});
   EXPECT_EQ(waitLine(same, "PRIMARY"), "PRIMARY");
 }
+#endif
 
 }  // namespace
