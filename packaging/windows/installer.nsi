@@ -9,7 +9,9 @@
 ;   makensis -DVERSION=x.y.z -DSTAGE=<install tree> -DICON=<.ico> -DOUTFILE=<setup.exe> installer.nsi
 ; Silent: setup.exe /S [/D=<folder>], uninstall.exe /S.
 
-Unicode true
+; The programs are 64-bit: so is the installer (it also runs where no 32-bit
+; Windows layer is installed).
+Target amd64-unicode
 SetCompressor /SOLID lzma
 RequestExecutionLevel user
 

@@ -30,5 +30,11 @@ if(TARGET agent_ui)
 
   add_executable(nimbra-backup-agent main.cpp)
   target_link_libraries(nimbra-backup-agent PRIVATE agent_app)
+  if(WIN32)
+    # A static Qt links its default plugins (Windows platform, SVG); the
+    # offscreen platform too, as on Linux, for the tests and headless runs
+    # (QT_QPA_PLATFORM=offscreen).
+    set_property(TARGET nimbra-backup-agent APPEND PROPERTY QT_PLUGINS Qt5::QOffscreenIntegrationPlugin)
+  endif()
   install(TARGETS nimbra-backup-agent RUNTIME DESTINATION bin)
 endif()
