@@ -81,7 +81,7 @@ mkdir -p "$work/qtbase" "$work/qtsvg"
 tar -xf "$base_tar" -C "$work/qtbase" --strip-components=1
 tar -xf "$svg_tar" -C "$work/qtsvg" --strip-components=1
 
-# Qt's win32-g++ spec calls <CROSS_COMPILE>gcc and friends: point those names
+# Qt's win32-g++ mkspec calls <CROSS_COMPILE>gcc and friends: point those names
 # at the posix-thread variants, as the project's toolchain file does.
 for tool in gcc g++ ar ranlib strip windres objcopy nm ld; do
   target=$(command -v "x86_64-w64-mingw32-$tool-posix" || command -v "x86_64-w64-mingw32-$tool")
