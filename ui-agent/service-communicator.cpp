@@ -148,15 +148,16 @@ int ServiceCommunicator::query(const Json::Value& request, Json::Value& response
   if (client.read(text, WinIpc::Limits{cap.max_bytes, 0, 0}, &quit_) != 0) {
     if (!quit_.load())
       LOG_ERROR(vlog::kDefaultComponent,
-                "Failed to recv response from service (the answer to '%s' may hold %zu bytes)",
-                action.c_str(), cap.max_bytes);
+                "Failed to recv response from service (the answer to '%s' may hold %llu bytes)",
+                action.c_str(), static_cast<unsigned long long>(cap.max_bytes));
     return -1;
   }
   // Refused before it is parsed: parsing costs far more than the text.
   const std::size_t elements = answer_limits::count_elements(text, cap.max_elements);
   if (elements > cap.max_elements) {
-    LOG_ERROR(vlog::kDefaultComponent, "answer to '%s' refused: more than %zu elements in %zu bytes",
-              action.c_str(), cap.max_elements, text.size());
+    LOG_ERROR(vlog::kDefaultComponent, "answer to '%s' refused: more than %llu elements in %llu bytes",
+              action.c_str(), static_cast<unsigned long long>(cap.max_elements),
+              static_cast<unsigned long long>(text.size()));
     return -1;
   }
   std::string error;
