@@ -24,6 +24,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <functional>
 #include <string>
 #include <thread>
 #include <vector>
@@ -252,9 +253,20 @@ int main(int argc, char** argv) {
   // (a second launch with open_log); the pop-up was opened by the clicks.
   desktop.dropEvents();
   const pid_t second = spawn({agent.program, "open_log"}, a.env, scratch + "/agent-open-log.log");
+  // The window manager maps its frame, which holds the agent's window a
+  // level or two down.
+  std::function<bool(Window, int)> holds = [&](Window w, int depth) {
+    if (desktop.windowPid(w) == a.pid) return true;
+    Window top = 0, parent = 0, *kids = nullptr;
+    unsigned n = 0;
+    if (depth == 0 || !XQueryTree(desktop.x(), w, &top, &parent, &kids, &n)) return false;
+    bool found = false;
+    for (unsigned i = 0; i < n && !found; ++i) found = holds(kids[i], depth - 1);
+    if (kids) XFree(kids);
+    return found;
+  };
   const bool dialog = desktop.waitEvent(
-      [&](const XEvent& e) { return e.type == MapNotify && desktop.windowPid(e.xmap.window) == a.pid; },
-      10000);
+      [&](const XEvent& e) { return e.type == MapNotify && holds(e.xmap.window, 3); }, 10000);
   if (!dialog) std::printf("  the activity dialog did not open\n");
   std::this_thread::sleep_for(std::chrono::seconds(2));
   const long rss_opened = rss_kib(a.pid);
