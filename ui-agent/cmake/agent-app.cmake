@@ -2,11 +2,15 @@
 # executable nimbra-backup-agent, whose main() only calls start-up.
 if(TARGET agent_ui)
   # The screens' platform halves (agent_ui's glob leaves -posix/-windows out).
-  nimbra_platform_sources(agent_ui_platform_sources ${CMAKE_CURRENT_SOURCE_DIR}/tray/tray-theme)
+  nimbra_platform_sources(agent_ui_platform_sources ${CMAKE_CURRENT_SOURCE_DIR}/tray/tray-theme
+                          ${CMAKE_CURRENT_SOURCE_DIR}/tray/status-notifier-item)
   target_sources(agent_ui PRIVATE ${agent_ui_platform_sources})
   target_link_libraries(agent_ui PUBLIC agent_platform)
   if(TARGET Qt5::DBus)
-    target_link_libraries(agent_ui PUBLIC Qt5::DBus)  # the panel's colour from the settings portal
+    # The panel's colour from the settings portal; the StatusNotifierItem
+    # and its menu (com.canonical.dbusmenu, exported by libdbusmenu-qt5).
+    find_package(dbusmenu-qt5 CONFIG REQUIRED)
+    target_link_libraries(agent_ui PUBLIC Qt5::DBus PRIVATE dbusmenu-qt5)
   endif()
 
   file(GLOB agent_app_sources CONFIGURE_DEPENDS

@@ -22,6 +22,8 @@
 #include "string-display.h"
 #include "style-manager.h"
 #include "tray/quota-info-widget.h"
+#include "tray/status-notifier-item.h"
+#include "tray/tray-anchor.h"
 #include "tray/tray-menu.h"
 #include "tray/tray-placement.h"
 #include "tray/tray-theme.h"
@@ -143,7 +145,8 @@ QVector<TrayBalloon> trayBalloons(const Json::Value& notifications) {
 
 // ---- SystemTray --------------------------------------------------------------
 
-SystemTray::SystemTray(QObject* parent) : QSystemTrayIcon(parent) {
+SystemTray::SystemTray(QObject* parent) : QObject(parent) {
+  sni_ = new StatusNotifierItem(this);
   menu_ = new TrayMenu();
   container_ = new TrayMenuContainer(menu_);
   menu_->setFixedSize(DPIinfo::scaled(400), DPIinfo::scaled(232));
@@ -154,7 +157,11 @@ SystemTray::SystemTray(QObject* parent) : QSystemTrayIcon(parent) {
 
   GlobalConnecter& bus = GlobalConnecter::instance();
   connect(&bus, &GlobalConnecter::sigPositionClicked, this, &SystemTray::slotPositionClicked);
-  connect(this, &QSystemTrayIcon::activated, this, &SystemTray::slotIconActivated);
+  connect(sni_, &StatusNotifierItem::activated, this, &SystemTray::slotActivatedAt);
+  connect(sni_, &StatusNotifierItem::contextMenuRequested, this, [this](QPoint p) {
+    if (contextMenu_) contextMenu_->popup(p);
+  });
+  connect(sni_, &StatusNotifierItem::hostChanged, this, &SystemTray::applyHost);
   connect(&bus, &GlobalConnecter::sigShowMessage, this, &SystemTray::slotShowMessage);
   connect(menu_, &TrayMenu::sigTrayStatusChanged, this, &SystemTray::slotStatusChanged);
   connect(&bus, &GlobalConnecter::sigApplicationStateChanged, this, &SystemTray::slotApplicationStateChanged);
@@ -185,7 +192,75 @@ SystemTray::SystemTray(QObject* parent) : QSystemTrayIcon(parent) {
 
 SystemTray::~SystemTray() {
   delete container_;
+  sni_->setMenu(nullptr);
   delete rightMenu_;
+}
+
+void SystemTray::setVisible(bool visible) {
+  visible_ = visible;
+  applyHost();
+}
+
+void SystemTray::applyHost() {
+  using Host = StatusNotifierItem::Host;
+  const Host host = sni_->host();
+  // Until the session bus has answered, nothing: Qt decides once per
+  // process, when its first tray icon is made, whether to use a D-Bus tray
+  // itself, and it must not while a panel shows our item.
+  if (host == Host::Unknown) return;
+  if (host == Host::Present) {
+    if (xembed_ && xembed_->isVisible()) {
+      LOG_INFO(vlog::kDefaultComponent, "tray: the icon moves to the StatusNotifierItem panel");
+      xembed_->hide();
+    }
+    return;
+  }
+  if (!xembed_) {
+    xembed_ = new QSystemTrayIcon(this);
+    xembed_->setIcon(icon_);
+    xembed_->setToolTip(toolTip_);
+    xembed_->setContextMenu(contextMenu_);
+    connect(xembed_, &QSystemTrayIcon::activated, this, &SystemTray::slotIconActivated);
+  }
+  if (xembed_->isVisible() != visible_) {
+    LOG_INFO(vlog::kDefaultComponent, "tray: the icon %s Qt's tray icon", visible_ ? "shows as" : "leaves");
+    xembed_->setVisible(visible_);
+  }
+}
+
+QRect SystemTray::geometry() const {
+  return xembed_ && xembed_->isVisible() ? xembed_->geometry() : QRect();
+}
+
+QPoint SystemTray::clickAnchor() const {
+  tray_anchor::Facts facts;
+  facts.icon = geometry();
+  facts.activation = lastActivation_;
+  // Only X11 tells where the pointer is.
+  if (QGuiApplication::platformName() == QLatin1String("xcb")) facts.pointer = QCursor::pos();
+  if (QScreen* primary = QGuiApplication::primaryScreen()) facts.screens << primary->geometry();
+  for (QScreen* screen : QGuiApplication::screens())
+    if (screen != QGuiApplication::primaryScreen()) facts.screens << screen->geometry();
+  return tray_anchor::anchorFor(facts);
+}
+
+QPoint SystemTray::openAnchor() const {
+  const QRect icon = geometry();
+  return icon.isValid() ? icon.topLeft() : clickAnchor();
+}
+
+void SystemTray::setContextMenu(QMenu* menu) {
+  contextMenu_ = menu;
+  if (xembed_) xembed_->setContextMenu(menu);
+  sni_->setMenu(menu);
+}
+
+void SystemTray::showMessage(const QString& title, const QString& text, int ms) {
+  if (!xembed_ || !xembed_->isVisible()) {
+    LOG_INFO(vlog::kDefaultComponent, "tray: a balloon is not shown: no tray icon of Qt's to show it");
+    return;
+  }
+  xembed_->showMessage(title, text, QSystemTrayIcon::Information, ms);
 }
 
 void SystemTray::applyIcon() {
@@ -199,7 +274,9 @@ void SystemTray::applyIcon() {
   ImageManager* images = ImageManager::getInstance();
   for (int size : {16, 20, 22, 24, 32, 48, 64})
     picture.addPixmap(images->pixmap(name, QSize(size, size), 1.0));
-  setIcon(picture);
+  icon_ = picture;
+  if (xembed_) xembed_->setIcon(picture);
+  sni_->setIcon(picture);
 }
 
 void SystemTray::slotStatusChanged(TrayStatus s) {
@@ -238,12 +315,8 @@ void SystemTray::buildRightMenu() {
     a->setObjectName(QLatin1String(name));
     return a;
   };
-  connect(add(Str::notification_btn, "OpenAction"), &QAction::triggered, this, [this]() {
-    // Without the icon's place (some panels do not tell it), where the
-    // person just clicked the icon.
-    const QRect icon = geometry();
-    showMenuAt(icon.isValid() ? icon.center() : QCursor::pos());
-  });
+  connect(add(Str::notification_btn, "OpenAction"), &QAction::triggered, this,
+          [this]() { showMenuAt(clickAnchor()); });
   backupNow_ = add(Str::tray_menu_backup_now, "BackupNowAction");
   connect(backupNow_, &QAction::triggered, this, &SystemTray::backupNow);
   backupReason_ = add(Str::tray_menu_backup_running, "BackupNowReason");
@@ -269,7 +342,11 @@ void SystemTray::backupNow() {
 
 void SystemTray::applyView() {
   view_ = tray_icon_model::view_for(facts_);
-  if (toolTip() != view_.tool_tip) setToolTip(view_.tool_tip);
+  if (toolTip_ != view_.tool_tip) {
+    toolTip_ = view_.tool_tip;
+    if (xembed_) xembed_->setToolTip(toolTip_);
+    sni_->setToolTip(toolTip_);
+  }
   if (!backupNow_) return;
   backupNow_->setEnabled(view_.backup_now);
   backupReason_->setVisible(view_.backup_reason.has_value());
@@ -288,7 +365,17 @@ void SystemTray::showMenuAt(QPoint p) {
 }
 
 bool SystemTray::trayAvailable() const {
-  return trayAvailable_ ? trayAvailable_() : QSystemTrayIcon::isSystemTrayAvailable();
+  if (trayAvailable_) return trayAvailable_();
+  switch (sni_->host()) {
+    case StatusNotifierItem::Host::Present:
+      return true;
+    case StatusNotifierItem::Host::Absent:
+      // Asked only now: Qt's answer decides its own tray icon's kind for good.
+      return QSystemTrayIcon::isSystemTrayAvailable();
+    case StatusNotifierItem::Host::Unknown:
+      break;
+  }
+  return false;
 }
 
 void SystemTray::click() {
@@ -299,7 +386,7 @@ void SystemTray::click() {
       container_->showAsWindow();
       return;
     }
-    container_->showAt(geometry().center());
+    container_->showAt(clickAnchor());
     container_->raise();
     container_->activateWindow();
   }
@@ -307,6 +394,11 @@ void SystemTray::click() {
 
 void SystemTray::slotIconActivated(QSystemTrayIcon::ActivationReason reason) {
   if (reason == QSystemTrayIcon::Trigger) click();
+}
+
+void SystemTray::slotActivatedAt(QPoint p) {
+  lastActivation_ = p;
+  click();
 }
 
 void SystemTray::slotApplicationStateChanged(Qt::ApplicationState state) {
@@ -338,12 +430,11 @@ void SystemTray::slotPositionClicked(QPoint p) {
 }
 
 void SystemTray::slotShowMessage(QString title, QString message) {
-  showMessage(title, message, QSystemTrayIcon::Information, 0);
+  showMessage(title, message, 0);
 }
 
 void SystemTray::showNotifications(const Json::Value& notifications) {
-  for (const TrayBalloon& b : trayBalloons(notifications))
-    showMessage(b.title, b.text, QSystemTrayIcon::Information, 10000);
+  for (const TrayBalloon& b : trayBalloons(notifications)) showMessage(b.title, b.text, 10000);
 }
 
 void SystemTray::updateServiceStatus(ServiceStatus status, const Json::Value& content) {

@@ -9,6 +9,12 @@
 // "Back up now" (with why it is disabled), the activity dialog, settings and
 // "Exit". The tool tip names the state (tray-icon-model.h).
 //
+// The icon is a StatusNotifierItem while a panel shows such items (D-Bus
+// trays), else Qt's tray icon (an XEmbed tray on X11, the shell's
+// notification area on Windows). Either may appear or go away while the
+// agent runs; the icon moves to whichever is there. On a StatusNotifierItem
+// panel the pop-up is anchored at the point of the click (tray-anchor.h).
+//
 // Without a notification area (a desktop without a tray), the pop-up is
 // shown as an ordinary small window when the agent is asked to show itself.
 
@@ -21,6 +27,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 
 #include "core/log-entry.h"
 #include "core/service-status.h"
@@ -28,6 +35,7 @@
 #include "tray/tray-icon-model.h"
 
 class PanelThemeWatcher;
+class StatusNotifierItem;
 class TrayMenu;
 
 // The frameless pop-up that holds the tray menu, placed next to the icon.
@@ -80,13 +88,31 @@ struct TrayBalloon {
 // it is not an array or is empty.
 QVector<TrayBalloon> trayBalloons(const Json::Value& notifications);
 
-class SystemTray : public QSystemTrayIcon {
+class SystemTray : public QObject {
   Q_OBJECT
  public:
   // Creates the tray menu and its pop-up; asks for the connection record
   // one second later.
   explicit SystemTray(QObject* parent = nullptr);
   ~SystemTray() override;
+
+  // Shows the icon on whichever tray there is, now or once one appears.
+  void setVisible(bool visible);
+  // What the icon shows (on either kind of tray).
+  QIcon icon() const { return icon_; }
+  QString toolTip() const { return toolTip_; }
+  QMenu* contextMenu() const { return contextMenu_; }
+  // The icon's place on an XEmbed tray; empty elsewhere.
+  QRect geometry() const;
+  // Where a click on the icon anchors the pop-up now: the icon's centre, the
+  // point of the last click a panel reported, or the pointer (tray-anchor.h).
+  QPoint clickAnchor() const;
+  // Where "open" from a second launch anchors it: the icon's top-left
+  // corner where the tray tells its place, else clickAnchor().
+  QPoint openAnchor() const;
+  StatusNotifierItem* statusNotifierItem() const { return sni_; }
+  // Qt's tray icon, once there was no StatusNotifierItem panel to use.
+  QSystemTrayIcon* xembedIcon() const { return xembed_; }
 
   // 0 no action on click, 1 connected, 2 not connected (see the class comment).
   void setConnectionMode(int mode);
@@ -133,12 +159,19 @@ class SystemTray : public QSystemTrayIcon {
  public slots:
   void slotPositionClicked(QPoint p);
   void slotIconActivated(QSystemTrayIcon::ActivationReason reason);
+  // A click a StatusNotifierItem panel reported, at `p` ((0, 0): no point).
+  void slotActivatedAt(QPoint p);
   void slotShowMessage(QString title, QString message);
   void slotStatusChanged(TrayStatus s);
   void slotApplicationStateChanged(Qt::ApplicationState state);
 
  private:
   void applyIcon();
+  // The icon on the tray there is now: the StatusNotifierItem while a panel
+  // shows it, else Qt's tray icon.
+  void applyHost();
+  void setContextMenu(QMenu* menu);
+  void showMessage(const QString& title, const QString& text, int ms);
   // The tool tip and the menu's enabled states from the facts.
   void applyView();
   void buildRightMenu();
@@ -162,4 +195,11 @@ class SystemTray : public QSystemTrayIcon {
   PanelThemeWatcher* theme_ = nullptr;
   std::function<bool()> holdOpen_;
   std::function<bool()> trayAvailable_;
+  StatusNotifierItem* sni_ = nullptr;
+  QSystemTrayIcon* xembed_ = nullptr;
+  bool visible_ = false;
+  QIcon icon_;
+  QString toolTip_;
+  QMenu* contextMenu_ = nullptr;
+  std::optional<QPoint> lastActivation_;
 };

@@ -1,0 +1,179 @@
+// The agent on a StatusNotifierItem panel (X11, no XEmbed tray): a bare
+// org.kde.StatusNotifierWatcher (sni-watcher.py) stands for the panel, and
+// busctl does what the panel does: reads the item, clicks it (Activate with
+// the point of the click) and clicks its menu's entries (dbusmenu Event).
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include "desktop/agent-desktop.h"
+
+namespace desktop_test {
+namespace {
+
+class StatusNotifierPanel : public AgentDesktop {
+ protected:
+  bool withTray() const override { return false; }
+
+  ::testing::AssertionResult startWatcher() {
+    watcher_ = std::make_unique<notifier_test::ChildProcess>();
+    watcher_->setProcessEnvironment(env_);
+    watcher_->setStandardErrorFile(QString::fromStdString(scratch_->path()) + "/sni-watcher.err",
+                                   QIODevice::Append);
+    watcher_->start("/usr/bin/python3", {source("/tests/desktop/sni-watcher.py")});
+    if (!waitUntil(
+            [&] {
+              watcher_->waitForReadyRead(100);
+              return watcher_->readAll().contains("ready") || watcher_->state() == QProcess::NotRunning;
+            },
+            15000) ||
+        watcher_->state() != QProcess::Running)
+      return ::testing::AssertionFailure() << "the StatusNotifierWatcher did not come up";
+    return ::testing::AssertionSuccess();
+  }
+  void stopWatcher() {
+    watcher_->terminate();
+    watcher_->waitForFinished(5000);
+  }
+
+  // busctl VERB ARGS..., its options ended before ARGS (which may be negative numbers).
+  QString busctl(QStringList args) const {
+    args.insert(1, "--");
+    return run("busctl", QStringList{"--user", "--json=short"} + args);
+  }
+  // The "data" of a busctl reply in JSON.
+  QJsonValue reply(const QStringList& args) const {
+    const QJsonObject o = QJsonDocument::fromJson(busctl(args).toUtf8()).object();
+    return o.value("data");
+  }
+  // The agent's item as the watcher lists it; empty until it registered.
+  QString item() const {
+    const QJsonArray items = reply({"get-property", "org.kde.StatusNotifierWatcher", "/StatusNotifierWatcher",
+                                    "org.kde.StatusNotifierWatcher", "RegisteredStatusNotifierItems"})
+                                 .toArray();
+    return items.isEmpty() ? QString() : items.first().toString();
+  }
+  QJsonValue itemProperty(const QString& name) const {
+    return reply({"get-property", item(), "/StatusNotifierItem", "org.kde.StatusNotifierItem", name});
+  }
+  // The largest of the item's pictures, as the panel would draw it.
+  TrayPicture itemPicture() const {
+    QImage best;
+    for (const QJsonValue& p : itemProperty("IconPixmap").toArray()) {
+      const QJsonArray a = p.toArray();
+      const int w = a.at(0).toInt(), h = a.at(1).toInt();
+      const QJsonArray bytes = a.at(2).toArray();
+      if (w <= best.width() || w <= 0 || h <= 0 || bytes.size() != w * h * 4) continue;
+      best = QImage(w, h, QImage::Format_ARGB32);
+      for (int i = 0; i < w * h; ++i)
+        best.setPixel(i % w, i / w,
+                      qRgba(bytes[i * 4 + 1].toInt(), bytes[i * 4 + 2].toInt(), bytes[i * 4 + 3].toInt(),
+                            bytes[i * 4].toInt()));
+    }
+    return classifyTrayPicture(best);
+  }
+  void clickItem(int x, int y) {
+    busctl({"call", item(), "/StatusNotifierItem", "org.kde.StatusNotifierItem", "Activate", "ii",
+            QString::number(x), QString::number(y)});
+  }
+  // The pop-up's place once it is up.
+  QRect popupAfterClickAt(int x, int y) {
+    clickItem(x, y);
+    if (!waitUntil([&] { return !popup().isEmpty(); }, 10000)) return {};
+    QRect r;
+    waitUntil(
+        [&] {
+          r = windowRect(popup());
+          return !r.isEmpty();
+        },
+        5000);
+    return r;
+  }
+  bool closePopup() {
+    return pressUntil(
+        "Escape", [&] { return popup().isEmpty(); }, 10000);
+  }
+
+  void TearDown() override {
+    if (watcher_) stopWatcher();
+    AgentDesktop::TearDown();
+  }
+
+  std::unique_ptr<QProcess> watcher_;
+};
+
+TEST_F(StatusNotifierPanel, PopupOpensAtTheClickAndTheItemDescribesItself) {
+  ASSERT_TRUE(startWatcher());
+  ASSERT_TRUE(startLinked("idle"));
+  ASSERT_TRUE(waitUntil([&] { return !item().isEmpty(); }, 15000)) << "the item never registered";
+  EXPECT_EQ(itemProperty("Title").toString(), "Nimbra Backup");
+  EXPECT_EQ(itemProperty("Id").toString(), "nimbra-backup");
+  EXPECT_TRUE(waitUntil([&] { return itemPicture() == TrayPicture::Success; }, 20000))
+      << pictureName(itemPicture());
+  const QJsonArray tip = itemProperty("ToolTip").toArray();
+  ASSERT_EQ(tip.size(), 4);
+  EXPECT_EQ(tip[2].toString(), "Nimbra Backup");
+  EXPECT_TRUE(tip[3].toString().contains("Successful")) << tip[3].toString().toStdString();
+
+  // Near the bottom: centred on the click, just above it.
+  QRect pop = popupAfterClickAt(900, 700);
+  ASSERT_FALSE(pop.isEmpty()) << "a click on the item shows no pop-up";
+  EXPECT_NEAR(pop.center().x(), 900, 2) << pop.x();
+  EXPECT_GE(pop.bottom(), 690);
+  EXPECT_LT(pop.bottom(), 700);
+  EXPECT_TRUE(run("xwininfo", {"-id", popup()}).contains("Override Redirect State: yes")) << "not a pop-up";
+  shot("popup-on-sni");
+  ASSERT_TRUE(closePopup());
+  // At the top-right corner: below the click, inside the screen.
+  pop = popupAfterClickAt(1275, 12);
+  ASSERT_FALSE(pop.isEmpty());
+  EXPECT_EQ(pop.top(), 12);
+  EXPECT_LE(pop.right(), 1279);
+  EXPECT_GE(pop.right(), 1270);
+  ASSERT_TRUE(closePopup());
+
+  // The right-click menu over dbusmenu: its "Activity" entry opens the list.
+  const QStringList getLayout{"call", item(), "/MenuBar", "com.canonical.dbusmenu", "GetLayout", "iias",
+                              "0",    "-1",   "0"};
+  const QJsonArray layout = reply(getLayout).toArray();
+  ASSERT_EQ(layout.size(), 2) << busctl(getLayout).toStdString();
+  QStringList labels;
+  int activity = -1;
+  for (const QJsonValue& child : layout[1].toArray().at(2).toArray()) {
+    const QJsonArray entry = child.toObject().value("data").toArray();
+    const QString label = entry.at(1).toObject().value("label").toObject().value("data").toString();
+    labels << label;
+    if (label == "Activity") activity = entry.at(0).toInt();
+  }
+  ASSERT_GE(activity, 0) << labels.join('|').toStdString();
+  EXPECT_TRUE(labels.contains("Back up now")) << labels.join('|').toStdString();
+  busctl({"call", item(), "/MenuBar", "com.canonical.dbusmenu", "Event", "isvu", QString::number(activity),
+          "clicked", "s", "", "0"});
+  EXPECT_FALSE(waitForAgentWindow(15000, "^Activity$").isEmpty()) << "the menu's Activity opens nothing";
+}
+
+TEST_F(StatusNotifierPanel, IconRegistersWhenThePanelStartsLateAndAgain) {
+  ASSERT_TRUE(startLinked("idle"));
+  ASSERT_TRUE(waitForLog("StatusNotifierItem host absent", 15000));
+  // Until there is a tray, "open" shows the pop-up as a window of its own.
+  EXPECT_EQ(launchAgain({}), 0);
+  ASSERT_TRUE(waitUntil([&] { return !popup().isEmpty(); }, 15000)) << "\"open\" shows nothing";
+  EXPECT_TRUE(run("xwininfo", {"-id", popup()}).contains("Override Redirect State: no"));
+  ASSERT_TRUE(activate(popup()));
+  ASSERT_TRUE(closePopup());
+
+  ASSERT_TRUE(startWatcher());
+  ASSERT_TRUE(waitUntil([&] { return !item().isEmpty(); }, 10000)) << "the item never registered";
+  EXPECT_FALSE(popupAfterClickAt(640, 400).isEmpty()) << "a click on the item shows no pop-up";
+  EXPECT_TRUE(run("xwininfo", {"-id", popup()}).contains("Override Redirect State: yes")) << "not a pop-up";
+  ASSERT_TRUE(closePopup());
+
+  // The panel starts again: the item registers again.
+  stopWatcher();
+  ASSERT_TRUE(waitForLog("StatusNotifierWatcher gone", 10000));
+  ASSERT_TRUE(startWatcher());
+  EXPECT_TRUE(waitUntil([&] { return !item().isEmpty(); }, 10000)) << "the item never registered again";
+}
+
+}  // namespace
+}  // namespace desktop_test
