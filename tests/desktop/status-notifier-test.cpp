@@ -106,13 +106,13 @@ TEST_F(StatusNotifierPanel, PopupOpensAtTheClickAndTheItemDescribesItself) {
   ASSERT_TRUE(startWatcher());
   ASSERT_TRUE(startLinked("idle"));
   ASSERT_TRUE(waitUntil([&] { return !item().isEmpty(); }, 15000)) << "the item never registered";
-  EXPECT_EQ(itemProperty("Title").toString(), "Nimbra Backup");
-  EXPECT_EQ(itemProperty("Id").toString(), "nimbra-backup");
+  EXPECT_EQ(itemProperty("Title").toString().toStdString(), "Nimbra Backup");
+  EXPECT_EQ(itemProperty("Id").toString().toStdString(), "nimbra-backup");
   EXPECT_TRUE(waitUntil([&] { return itemPicture() == TrayPicture::Success; }, 20000))
       << pictureName(itemPicture());
   const QJsonArray tip = itemProperty("ToolTip").toArray();
   ASSERT_EQ(tip.size(), 4);
-  EXPECT_EQ(tip[2].toString(), "Nimbra Backup");
+  EXPECT_EQ(tip[2].toString().toStdString(), "Nimbra Backup");
   EXPECT_TRUE(tip[3].toString().contains("Successful")) << tip[3].toString().toStdString();
 
   // Near the bottom: centred on the click, just above it.
@@ -152,7 +152,7 @@ TEST_F(StatusNotifierPanel, PopupOpensAtTheClickAndTheItemDescribesItself) {
   EXPECT_FALSE(waitForAgentWindow(15000, "^Activity$").isEmpty()) << "the menu's Activity opens nothing";
 }
 
-TEST_F(StatusNotifierPanel, IconRegistersWhenThePanelStartsLateAndAgain) {
+TEST_F(StatusNotifierPanel, IconRegistersWhenThePanelStartsLate) {
   ASSERT_TRUE(startLinked("idle"));
   ASSERT_TRUE(waitForLog("StatusNotifierItem host absent", 15000));
   // Until there is a tray, "open" shows the pop-up as a window of its own.
@@ -166,13 +166,43 @@ TEST_F(StatusNotifierPanel, IconRegistersWhenThePanelStartsLateAndAgain) {
   ASSERT_TRUE(waitUntil([&] { return !item().isEmpty(); }, 10000)) << "the item never registered";
   EXPECT_FALSE(popupAfterClickAt(640, 400).isEmpty()) << "a click on the item shows no pop-up";
   EXPECT_TRUE(run("xwininfo", {"-id", popup()}).contains("Override Redirect State: yes")) << "not a pop-up";
-  ASSERT_TRUE(closePopup());
+}
 
-  // The panel starts again: the item registers again.
+// A panel that has both kinds of tray (tint2 here, and the watcher).
+class BothTrays : public StatusNotifierPanel {
+ protected:
+  bool withTray() const override { return true; }
+};
+
+TEST_F(BothTrays, IconMovesToTheItemPanelWhileItRunsAndBack) {
+  ASSERT_TRUE(startLinked("idle"));  // the icon in tint2
+  ASSERT_TRUE(startWatcher());
+  ASSERT_TRUE(waitUntil([&] { return !item().isEmpty(); }, 10000)) << "the item never registered";
+  EXPECT_TRUE(waitUntil([&] { return trayIcon().isEmpty(); }, 10000)) << "the icon shows twice";
   stopWatcher();
-  ASSERT_TRUE(waitForLog("StatusNotifierWatcher gone", 10000));
+  EXPECT_TRUE(waitUntil([&] { return !trayIcon().isEmpty(); }, 10000)) << "the icon is not back in tint2";
+  clickTrayIcon();
+  EXPECT_TRUE(waitUntil([&] { return !popup().isEmpty(); }, 10000)) << "a click on the icon shows no pop-up";
+  ASSERT_TRUE(closePopup());
+  // The panel starts again.
   ASSERT_TRUE(startWatcher());
   EXPECT_TRUE(waitUntil([&] { return !item().isEmpty(); }, 10000)) << "the item never registered again";
+}
+
+class LateXEmbedTray : public AgentDesktop {
+ protected:
+  bool withTray() const override { return false; }
+};
+
+TEST_F(LateXEmbedTray, IconAppearsWhenThePanelStarts) {
+  ASSERT_TRUE(startLinked("idle"));
+  ASSERT_TRUE(waitForLog("StatusNotifierItem host absent", 15000));
+  const QString why = desktop_->startTray();
+  ASSERT_TRUE(why.isEmpty()) << why.toStdString();
+  ASSERT_TRUE(waitUntil([&] { return !trayIcon().isEmpty(); }, 15000)) << "no icon in the late tray";
+  EXPECT_TRUE(waitForTrayPicture(TrayPicture::Success, 10000)) << pictureName(trayPicture());
+  clickTrayIcon();
+  EXPECT_TRUE(waitUntil([&] { return !popup().isEmpty(); }, 10000)) << "a click on the icon shows no pop-up";
 }
 
 }  // namespace
