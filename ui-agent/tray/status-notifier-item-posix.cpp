@@ -163,6 +163,10 @@ class StatusNotifierAdaptor : public QDBusAbstractAdaptor {
 
 namespace {
 
+QDBusConnection busNamed(const QString& connection) {
+  return connection.isEmpty() ? QDBusConnection::sessionBus() : QDBusConnection(connection);
+}
+
 StatusNotifierAdaptor* adaptorOf(QObject* adaptor) {
   return static_cast<StatusNotifierAdaptor*>(adaptor);
 }
@@ -181,12 +185,13 @@ const char* hostName(StatusNotifierItem::Host host) {
 
 }  // namespace
 
-StatusNotifierItem::StatusNotifierItem(QObject* parent) : QObject(parent) {
+StatusNotifierItem::StatusNotifierItem(QObject* parent, const QString& connection)
+    : QObject(parent), connection_(connection) {
   qDBusRegisterMetaType<SniPixmap>();
   qDBusRegisterMetaType<SniPixmapList>();
   qDBusRegisterMetaType<SniToolTip>();
   adaptor_ = new StatusNotifierAdaptor(this);
-  QDBusConnection bus = QDBusConnection::sessionBus();
+  QDBusConnection bus = busNamed(connection_);
   if (!bus.isConnected()) {
     LOG_INFO(vlog::kDefaultComponent, "tray: no session bus, so no StatusNotifierItem");
     host_ = Host::Absent;
@@ -223,7 +228,7 @@ StatusNotifierItem::StatusNotifierItem(QObject* parent) : QObject(parent) {
 StatusNotifierItem::~StatusNotifierItem() {
   delete exporter_;
   if (service_.isEmpty()) return;
-  QDBusConnection bus = QDBusConnection::sessionBus();
+  QDBusConnection bus = busNamed(connection_);
   bus.unregisterObject(QLatin1String(kItemPath));
   if (service_ != bus.baseService()) bus.unregisterService(service_);
 }
@@ -236,7 +241,7 @@ void StatusNotifierItem::setHost(Host host) {
 }
 
 void StatusNotifierItem::askWatcher() {
-  QDBusConnection bus = QDBusConnection::sessionBus();
+  QDBusConnection bus = busNamed(connection_);
   const QDBusMessage ask =
       QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
                                      QStringLiteral("/org/freedesktop/DBus"),
@@ -257,7 +262,7 @@ void StatusNotifierItem::askWatcher() {
 }
 
 void StatusNotifierItem::registerWithWatcher() {
-  QDBusConnection bus = QDBusConnection::sessionBus();
+  QDBusConnection bus = busNamed(connection_);
   const QDBusMessage call =
       QDBusMessage::createMethodCall(QLatin1String(kWatcherService), QLatin1String(kWatcherPath),
                                      QLatin1String(kWatcherInterface),
@@ -280,7 +285,7 @@ void StatusNotifierItem::registerWithWatcher() {
 
 void StatusNotifierItem::askHost() {
   if (service_.isEmpty()) return;
-  QDBusConnection bus = QDBusConnection::sessionBus();
+  QDBusConnection bus = busNamed(connection_);
   const QDBusMessage get =
       QDBusMessage::createMethodCall(QLatin1String(kWatcherService), QLatin1String(kWatcherPath),
                                      QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"))
@@ -324,7 +329,7 @@ void StatusNotifierItem::setMenu(QMenu* menu) {
   menu_ = menu;
   if (!menu || service_.isEmpty()) return;
   // It makes itself a child of the menu and ends with it.
-  exporter_ = new DBusMenuExporter(QLatin1String(kMenuPath), menu, QDBusConnection::sessionBus());
+  exporter_ = new DBusMenuExporter(QLatin1String(kMenuPath), menu, busNamed(connection_));
 }
 
 #include "status-notifier-item-posix.moc"

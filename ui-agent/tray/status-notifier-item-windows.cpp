@@ -3,7 +3,8 @@
 // a host.
 #include "tray/status-notifier-item.h"
 
-StatusNotifierItem::StatusNotifierItem(QObject* parent) : QObject(parent), host_(Host::Absent) {}
+StatusNotifierItem::StatusNotifierItem(QObject* parent, const QString& connection)
+    : QObject(parent), host_(Host::Absent), connection_(connection) {}
 
 StatusNotifierItem::~StatusNotifierItem() = default;
 

@@ -27,7 +27,8 @@ class StatusNotifierItem : public QObject {
  public:
   enum class Host { Unknown, Absent, Present };
 
-  explicit StatusNotifierItem(QObject* parent = nullptr);
+  // On the session bus, or on the D-Bus connection named `connection`.
+  explicit StatusNotifierItem(QObject* parent = nullptr, const QString& connection = QString());
   ~StatusNotifierItem() override;
 
   Host host() const { return host_; }
@@ -61,6 +62,7 @@ class StatusNotifierItem : public QObject {
 
  private:
   Host host_ = Host::Unknown;
+  QString connection_;
   QString service_;
   QObject* adaptor_ = nullptr;
   QPointer<QObject> exporter_;
