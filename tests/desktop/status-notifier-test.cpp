@@ -2,9 +2,12 @@
 // org.kde.StatusNotifierWatcher (sni-watcher.py) stands for the panel, and
 // busctl does what the panel does: reads the item, clicks it (Activate with
 // the point of the click) and clicks its menu's entries (dbusmenu Event).
+#include <QDir>
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QStandardPaths>
 
 #include "desktop/agent-desktop.h"
 
@@ -16,6 +19,8 @@ class StatusNotifierPanel : public AgentDesktop {
   bool withTray() const override { return false; }
 
   ::testing::AssertionResult startWatcher() {
+    if (!QFile::exists("/usr/bin/busctl"))
+      return ::testing::AssertionFailure() << "busctl is missing: scripts/setup installs it";
     watcher_ = std::make_unique<notifier_test::ChildProcess>();
     watcher_->setProcessEnvironment(env_);
     watcher_->setStandardErrorFile(QString::fromStdString(scratch_->path()) + "/sni-watcher.err",
@@ -203,6 +208,80 @@ TEST_F(LateXEmbedTray, IconAppearsWhenThePanelStarts) {
   EXPECT_TRUE(waitForTrayPicture(TrayPicture::Success, 10000)) << pictureName(trayPicture());
   clickTrayIcon();
   EXPECT_TRUE(waitUntil([&] { return !popup().isEmpty(); }, 10000)) << "a click on the icon shows no pop-up";
+}
+
+// A real StatusNotifierItem panel, clicked as a person clicks it.
+class LxqtPanel : public AgentDesktop {
+ protected:
+  bool withTray() const override { return false; }
+  void TearDown() override {
+    if (panel_) {
+      panel_->kill();
+      panel_->waitForFinished(5000);
+    }
+    AgentDesktop::TearDown();
+  }
+  ::testing::AssertionResult startPanel() {
+    if (QStandardPaths::findExecutable("lxqt-panel").isEmpty())
+      return ::testing::AssertionFailure() << "lxqt-panel is missing: scripts/setup installs it";
+    const QString config = env_.value("XDG_CONFIG_HOME") + "/lxqt";
+    QDir().mkpath(config);
+    QFile conf(config + "/panel.conf");
+    if (!conf.open(QIODevice::WriteOnly) ||
+        conf.write("[General]\n__userfile__=true\npanels=panel1\n\n[panel1]\nalignment=-1\n"
+                   "panelSize=32\niconSize=22\nplugins=statusnotifier\nposition=Bottom\nwidth=100\n"
+                   "width-percent=true\n\n[statusnotifier]\ntype=statusnotifier\n") < 0)
+      return ::testing::AssertionFailure() << "cannot write " << conf.fileName().toStdString();
+    conf.close();
+    panel_ = std::make_unique<notifier_test::ChildProcess>();
+    panel_->setProcessEnvironment(env_);
+    panel_->setStandardOutputFile(QString::fromStdString(scratch_->path()) + "/lxqt-panel.log");
+    panel_->setStandardErrorFile(QString::fromStdString(scratch_->path()) + "/lxqt-panel.log",
+                                 QIODevice::Append);
+    panel_->start("lxqt-panel", QStringList());
+    if (!waitUntil(
+            [&] {
+              return run("busctl", {"--user", "list"}).contains("org.kde.StatusNotifierWatcher");
+            },
+            15000))
+      return ::testing::AssertionFailure() << "lxqt-panel's watcher did not come up";
+    return ::testing::AssertionSuccess();
+  }
+  std::unique_ptr<QProcess> panel_;
+};
+
+TEST_F(LxqtPanel, ClickOnTheIconOpensThePopupAboveItAndTheMenuWorks) {
+  ASSERT_TRUE(startPanel());
+  ASSERT_TRUE(startLinked("idle"));
+  // The green picture in the panel along the bottom (768 to 799).
+  const QRect panel(0, 768, 1280, 32);
+  QPoint icon;
+  ASSERT_TRUE(waitUntil(
+      [&] {
+        icon = findColour(QColor(0x00, 0xA2, 0x82), panel, 60);
+        return !icon.isNull();
+      },
+      20000))
+      << "no green icon in the panel";
+  clickAt(icon);
+  ASSERT_TRUE(waitUntil([&] { return !popup().isEmpty(); }, 10000)) << "a click on the icon shows no pop-up";
+  const QRect pop = windowRect(popup());
+  EXPECT_LT(pop.bottom(), panel.top()) << "the pop-up covers the panel";
+  EXPECT_GT(pop.bottom(), panel.top() - 40) << "the pop-up is far from the icon";
+  EXPECT_TRUE(pop.left() <= icon.x() && icon.x() <= pop.right()) << pop.x() << " icon " << icon.x();
+  shot("popup-on-lxqt-panel");
+  ASSERT_TRUE(pressUntil(
+      "Escape", [&] { return popup().isEmpty(); }, 10000));
+
+  // The right-click menu, drawn by the panel: Open, Back up now, Activity.
+  // One pixel off the last click: --sync waits for the pointer to move.
+  run("xdotool",
+      {"mousemove", "--sync", QString::number(icon.x() + 1), QString::number(icon.y()), "click", "3"});
+  ASSERT_TRUE(waitUntil([&] { return screenPixels(QColor(0xFF, 0xFF, 0xFF), 0) > 5000; }, 10000))
+      << "no menu";
+  shot("menu-on-lxqt-panel");
+  keys({"Down", "Down", "Down", "Return"});
+  EXPECT_FALSE(waitForAgentWindow(15000, "^Activity$").isEmpty()) << "the menu's Activity opens nothing";
 }
 
 }  // namespace
