@@ -27,6 +27,7 @@
 #include "tray/tray-menu.h"
 #include "tray/tray-placement.h"
 #include "tray/tray-theme.h"
+#include "window-placement.h"
 
 // ---- TrayMenuContainer ----------------------------------------------------
 
@@ -65,7 +66,9 @@ QRect TrayMenuContainer::availableGeometry() const {
 }
 
 void TrayMenuContainer::placeAt(QPoint anchor) {
-  const tray_placement::Placement p = tray_placement::place(availableGeometry(), sizeHint(), anchor, side_);
+  // The work area of the screen the anchor is on (a panel on a second screen).
+  const QRect area = available_ ? available_() : window_placement::workAreaAt(anchor);
+  const tray_placement::Placement p = tray_placement::place(area, sizeHint(), anchor, side_);
   side_ = p.side;
   anchor_ = anchor;
   placed_ = true;
@@ -236,8 +239,11 @@ QPoint SystemTray::clickAnchor() const {
   tray_anchor::Facts facts;
   facts.icon = geometry();
   facts.activation = lastActivation_;
-  // Only X11 tells where the pointer is.
-  if (QGuiApplication::platformName() == QLatin1String("xcb")) facts.pointer = QCursor::pos();
+  // Wayland does not tell where the pointer is (nor does the offscreen
+  // platform of the tests).
+  const QString platform = QGuiApplication::platformName();
+  if (platform == QLatin1String("xcb") || platform == QLatin1String("windows"))
+    facts.pointer = QCursor::pos();
   if (QScreen* primary = QGuiApplication::primaryScreen()) facts.screens << primary->geometry();
   for (QScreen* screen : QGuiApplication::screens())
     if (screen != QGuiApplication::primaryScreen()) facts.screens << screen->geometry();

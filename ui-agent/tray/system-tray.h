@@ -57,7 +57,8 @@ class TrayMenuContainer : public QWidget {
   QPoint anchor() const { return anchor_; }
   int side() const { return side_; }
 
-  // The work area to place in; the primary screen's available geometry
+  // The work area to place in: the pop-up goes into the work area of the
+  // screen that holds its anchor, the window into the primary screen's,
   // unless a test gives another.
   void setAvailableGeometrySource(std::function<QRect()> source) { available_ = std::move(source); }
 

@@ -5,7 +5,7 @@
 //
 // XEmbed trays tell the icon's place; StatusNotifierItem panels do not, but
 // most send the point of the click with it (Activate), some send (0, 0); on
-// X11 the pointer is where the person just clicked.
+// X11 (and Windows) the pointer is where the person just clicked.
 
 #include <QPoint>
 #include <QRect>
