@@ -148,6 +148,20 @@ QVector<TrayBalloon> trayBalloons(const Json::Value& notifications) {
 
 // ---- SystemTray --------------------------------------------------------------
 
+namespace {
+
+// Every screen's geometry, the primary's first.
+QVector<QRect> screenGeometries() {
+  QVector<QRect> out;
+  QScreen* primary = QGuiApplication::primaryScreen();
+  if (primary) out << primary->geometry();
+  for (QScreen* screen : QGuiApplication::screens())
+    if (screen != primary) out << screen->geometry();
+  return out;
+}
+
+}  // namespace
+
 SystemTray::SystemTray(QObject* parent) : QObject(parent) {
   sni_ = new StatusNotifierItem(this);
   menu_ = new TrayMenu();
@@ -162,7 +176,9 @@ SystemTray::SystemTray(QObject* parent) : QObject(parent) {
   connect(&bus, &GlobalConnecter::sigPositionClicked, this, &SystemTray::slotPositionClicked);
   connect(sni_, &StatusNotifierItem::activated, this, &SystemTray::slotActivatedAt);
   connect(sni_, &StatusNotifierItem::contextMenuRequested, this, [this](QPoint p) {
-    if (contextMenu_) contextMenu_->popup(p);
+    // The panel's point, kept on a screen (any peer on the bus may call).
+    if (contextMenu_)
+      contextMenu_->popup(tray_anchor::anchorFor({QRect(), p, std::nullopt, screenGeometries()}));
   });
   connect(sni_, &StatusNotifierItem::hostChanged, this, &SystemTray::applyHost);
   connect(&bus, &GlobalConnecter::sigShowMessage, this, &SystemTray::slotShowMessage);
@@ -244,9 +260,7 @@ QPoint SystemTray::clickAnchor() const {
   const QString platform = QGuiApplication::platformName();
   if (platform == QLatin1String("xcb") || platform == QLatin1String("windows"))
     facts.pointer = QCursor::pos();
-  if (QScreen* primary = QGuiApplication::primaryScreen()) facts.screens << primary->geometry();
-  for (QScreen* screen : QGuiApplication::screens())
-    if (screen != QGuiApplication::primaryScreen()) facts.screens << screen->geometry();
+  facts.screens = screenGeometries();
   return tray_anchor::anchorFor(facts);
 }
 
