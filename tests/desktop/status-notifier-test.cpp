@@ -1,7 +1,10 @@
-// The agent on a StatusNotifierItem panel (X11, no XEmbed tray): a bare
+// The agent on StatusNotifierItem panels (X11). StatusNotifierPanel: a bare
 // org.kde.StatusNotifierWatcher (sni-watcher.py) stands for the panel, and
 // busctl does what the panel does: reads the item, clicks it (Activate with
 // the point of the click) and clicks its menu's entries (dbusmenu Event).
+// BothTrays: the watcher beside tint2, coming and going. LateXEmbedTray:
+// tint2 starting after the agent. LxqtPanel: a real panel, clicked with the
+// pointer.
 #include <QDir>
 #include <QFile>
 #include <QJsonArray>
