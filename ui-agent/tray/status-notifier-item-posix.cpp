@@ -206,6 +206,9 @@ StatusNotifierItem::StatusNotifierItem(QObject* parent, const QString& connectio
     host_ = Host::Absent;
     return;
   }
+  // The exporter makes itself a child of the menu and ends with it.
+  exported_ = new QMenu();
+  new DBusMenuExporter(QLatin1String(kMenuPath), exported_, bus);
   auto* watcher = new QDBusServiceWatcher(QLatin1String(kWatcherService), bus,
                                           QDBusServiceWatcher::WatchForOwnerChange, this);
   connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
@@ -226,7 +229,7 @@ StatusNotifierItem::StatusNotifierItem(QObject* parent, const QString& connectio
 }
 
 StatusNotifierItem::~StatusNotifierItem() {
-  delete exporter_;
+  delete exported_;  // and its exporter
   if (service_.isEmpty()) return;
   QDBusConnection bus = busNamed(connection_);
   bus.unregisterObject(QLatin1String(kItemPath));
@@ -323,13 +326,11 @@ void StatusNotifierItem::setToolTip(const QString& toolTip) {
 }
 
 void StatusNotifierItem::setMenu(QMenu* menu) {
-  if (menu == menu_ && (exporter_ || !menu)) return;
-  // One object per path: the old menu's exporter goes first.
-  delete exporter_;
-  menu_ = menu;
-  if (!menu || service_.isEmpty()) return;
-  // It makes itself a child of the menu and ends with it.
-  exporter_ = new DBusMenuExporter(QLatin1String(kMenuPath), menu, busNamed(connection_));
+  if (!exported_) return;
+  // The entries stay the menu's own (shared, not copied): their states
+  // reach the panel as they change.
+  for (QAction* action : exported_->actions()) exported_->removeAction(action);
+  if (menu) exported_->addActions(menu->actions());
 }
 
 #include "status-notifier-item-posix.moc"

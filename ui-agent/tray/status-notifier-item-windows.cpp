@@ -12,9 +12,7 @@ void StatusNotifierItem::setIcon(const QIcon&) {}
 
 void StatusNotifierItem::setToolTip(const QString&) {}
 
-void StatusNotifierItem::setMenu(QMenu* menu) {
-  menu_ = menu;
-}
+void StatusNotifierItem::setMenu(QMenu*) {}
 
 void StatusNotifierItem::setHost(Host host) {
   host_ = host;

@@ -17,7 +17,6 @@
 #include <QIcon>
 #include <QObject>
 #include <QPoint>
-#include <QPointer>
 #include <QString>
 
 class QMenu;
@@ -37,7 +36,9 @@ class StatusNotifierItem : public QObject {
   void setIcon(const QIcon& icon);
   // The first line is the tool tip's title, the others its text.
   void setToolTip(const QString& toolTip);
-  // The right-click menu, exported while it lives; none without one.
+  // The right-click menu: its entries are what the exported menu holds (it
+  // is exported for the item's whole life, empty without one, so that a
+  // panel that reads it once at the start sees it change).
   void setMenu(QMenu* menu);
 
   // The bus name the item is exported under; empty when it is not.
@@ -65,7 +66,6 @@ class StatusNotifierItem : public QObject {
   QString connection_;
   QString service_;
   QObject* adaptor_ = nullptr;
-  QPointer<QObject> exporter_;
-  QMenu* menu_ = nullptr;
+  QMenu* exported_ = nullptr;
   int generation_ = 0;  // answers to questions asked before a change are dropped
 };
