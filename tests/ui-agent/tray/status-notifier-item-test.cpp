@@ -52,7 +52,8 @@ void PrintTo(const WatcherRow& r, std::ostream* os) {
   *os << r.name;
 }
 
-class ItemHost : public ::testing::TestWithParam<WatcherRow> {
+// A private bus with the fake watcher on it.
+class PrivateBus : public ::testing::Test {
  protected:
   void SetUp() override {
     daemon_.start(QStringLiteral("dbus-daemon"), {"--session", "--nofork", "--print-address=1"});
@@ -73,6 +74,8 @@ class ItemHost : public ::testing::TestWithParam<WatcherRow> {
   QProcess daemon_;
   FakeWatcher watcher_;
 };
+
+class ItemHost : public PrivateBus, public ::testing::WithParamInterface<WatcherRow> {};
 
 TEST_P(ItemHost, FollowsTheWatchersAnswer) {
   const WatcherRow& r = GetParam();
@@ -97,5 +100,17 @@ INSTANTIATE_TEST_SUITE_P(
                       WatcherRow{"GetFails", true, QVariant(), Host::Absent},
                       WatcherRow{"RegistrationRefused", false, QVariant(true), Host::Absent}),
     [](const auto& row) { return std::string(row.param.name); });
+
+// A panel reads the menu as the item registers, before the agent has one.
+TEST_F(PrivateBus, TheMenuIsOnTheBusBeforeThereIsOne) {
+  StatusNotifierItem item(nullptr, QStringLiteral("item"));
+  const QDBusMessage reply =
+      QDBusConnection(QStringLiteral("panel"))
+          .call(QDBusMessage::createMethodCall(item.serviceName(), "/MenuBar",
+                                               "org.freedesktop.DBus.Introspectable", "Introspect"),
+                QDBus::BlockWithGui, 5000);
+  EXPECT_TRUE(reply.arguments().value(0).toString().contains("com.canonical.dbusmenu"))
+      << reply.errorMessage().toStdString();
+}
 
 }  // namespace
