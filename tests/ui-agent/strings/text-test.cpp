@@ -1,5 +1,5 @@
-// {name} placeholders, byte sizes and the texts of pushed notifications, row
-// by row from text.tsv, and the high-contrast colours of a catalogue text.
+// {name} placeholders, byte sizes, the texts of pushed notifications and
+// single activity messages, row by row from text.tsv, and the high-contrast colours of a catalogue text.
 #include <gmock/gmock.h>
 
 #include <QJsonDocument>
@@ -37,6 +37,10 @@ TEST_P(Texts, AreWhatTheTableSays) {
     const Json::Value data = agent_test::parse(row[2]);
     const int type = std::stoi(row[1]);
     got = notification_text(type, data, true) + '|' + notification_text(type, data, false);
+  } else if (row[0] == "event") {
+    const QStringList how = QString::fromStdString(row[1]).split('|');
+    ASSERT_EQ(how.size(), 3);
+    got = render_event_message(how[0].toUInt(), agent_test::parse(row[2]), how[1] == "1", how[2].toInt());
   } else {
     FAIL() << "no function " << row[0];
   }
