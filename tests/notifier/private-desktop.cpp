@@ -170,7 +170,14 @@ QString PrivateDesktop::startWindowManager() {
   stop(openbox_);
   QFile log(scratch_ + "/openbox.log");
   log.open(QIODevice::ReadOnly);
-  return "openbox does not manage the screen within 60 s; its log: " + QString::fromUtf8(log.readAll());
+  int code = -1;
+  run("xprop", {"-root", "-len", "1", "_XKB_RULES_NAMES"}, &code);
+  return QStringLiteral(
+             "openbox does not manage the screen within 60 s (Xvfb %1, %2 socket, a client %3 connect); "
+             "its log: %4")
+      .arg(xvfb_ && xvfb_->state() == QProcess::Running ? "running" : "gone",
+           QFile::exists("/tmp/.X11-unix/X" + display_.mid(1)) ? "with its" : "without its",
+           code == 0 ? "can" : "cannot", QString::fromUtf8(log.readAll()));
 }
 
 QString PrivateDesktop::startTray() {
