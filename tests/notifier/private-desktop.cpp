@@ -142,28 +142,42 @@ QString PrivateDesktop::startDunst() {
 
 QString PrivateDesktop::startWindowManager() {
   // A window manager that supports _NET_ACTIVE_WINDOW announces itself on
-  // the root window. openbox that ends before that (it found the display
-  // busy) gets another start.
+  // the root window. One that is still starting is waited for (on a loaded
+  // machine that takes seconds, and a second openbox beside a slow first one
+  // would only find the screen taken); one that ended before announcing
+  // itself (the display was not ready for it) is started again.
+  constexpr int kBudgetMs = 60000;
   QElapsedTimer clock;
   clock.start();
-  while (clock.elapsed() < 20000) {
+  while (clock.elapsed() < kBudgetMs) {
     openbox_ = std::make_unique<ChildProcess>();
     openbox_->setProcessEnvironment(environment());
     openbox_->setStandardOutputFile(scratch_ + "/openbox.log", QIODevice::Append);
     openbox_->setStandardErrorFile(scratch_ + "/openbox.log", QIODevice::Append);
     openbox_->start("openbox", {"--sm-disable"});
     if (!openbox_->waitForStarted(5000)) return "openbox does not start: " + openbox_->errorString();
-    if (wait_until(
-            [&] {
-              return openbox_->state() == QProcess::NotRunning ||
-                     run("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"}).contains("window id");
-            },
-            15000) &&
-        openbox_->state() == QProcess::Running)
-      return {};
-    stop(openbox_);
+    wait_until(
+        [&] {
+          return openbox_->state() == QProcess::NotRunning ||
+                 run("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"}).contains("window id");
+        },
+        static_cast<int>(kBudgetMs - clock.elapsed()));
+    if (openbox_->state() == QProcess::Running) {
+      if (run("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"}).contains("window id")) return {};
+      break;
+    }
   }
-  return "openbox does not manage the screen";
+  stop(openbox_);
+  QFile log(scratch_ + "/openbox.log");
+  log.open(QIODevice::ReadOnly);
+  int code = -1;
+  run("xprop", {"-root", "-len", "1", "_XKB_RULES_NAMES"}, &code);
+  return QStringLiteral(
+             "openbox does not manage the screen within 60 s (Xvfb %1, %2 socket, a client %3 connect); "
+             "its log: %4")
+      .arg(xvfb_ && xvfb_->state() == QProcess::Running ? "running" : "gone",
+           QFile::exists("/tmp/.X11-unix/X" + display_.mid(1)) ? "with its" : "without its",
+           code == 0 ? "can" : "cannot", QString::fromUtf8(log.readAll()));
 }
 
 QString PrivateDesktop::startTray() {

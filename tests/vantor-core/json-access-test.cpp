@@ -38,7 +38,9 @@ struct NumberRow {
   std::optional<std::uint64_t> u64;
   std::optional<double> real;
 };
-void PrintTo(const NumberRow& c, std::ostream* os) { *os << c.key; }
+void PrintTo(const NumberRow& c, std::ostream* os) {
+  *os << c.key;
+}
 constexpr std::nullopt_t no = std::nullopt;
 constexpr std::int64_t kI64Max = std::numeric_limits<std::int64_t>::max();
 
@@ -158,6 +160,16 @@ TEST(JsonMask, SecretMembersAtAnyDepthShowAsStars) {
   EXPECT_EQ(jsonx::get_int32(out, "tokens"), 3) << "a name merely starting like a secret is kept";
   EXPECT_EQ(out["list"][2], Json::Value("plain"));
   EXPECT_EQ(jsonx::get_string(in, "token"), "tok-1") << "the original is never changed";
+  // Names in any spelling; query parameters in any case or percent-encoding.
+  EXPECT_EQ(jsonx::masked(parsed(R"({"accessToken": "a", "sessionKey": "b", "Session-Id": "c",
+      "url": "https://h/p?ACCESS_TOKEN=d&x=1", "u2": "https://h/?access_tok%65n=e#f",
+      "u3": "nimbrabackup://p?Token=", "plain": "a=b&x=y"})")),
+            parsed(R"({"accessToken": "***", "sessionKey": "***", "Session-Id": "***",
+      "url": "https://h/p?ACCESS_TOKEN=***&x=1", "u2": "https://h/?access_tok%65n=***#f",
+      "u3": "nimbrabackup://p?Token=", "plain": "a=b&x=y"})"));
+  // Other shapes come back as they are.
+  for (const char* shape : {R"({"content": ["password"]})", R"("text")", R"({"password": null})"})
+    EXPECT_EQ(jsonx::masked(parsed(shape)), parsed(shape)) << shape;
 }
 
 }  // namespace

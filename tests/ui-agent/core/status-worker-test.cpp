@@ -163,8 +163,9 @@ TEST_F(StatusWorkerTest, StopBeforeStartThenStartTwiceMakesOneTimerTickingOnTheW
   ASSERT_TRUE(requests.wait(3000));
 }
 
-// Answers that lack members, or hold them with the wrong type: a held
-// connection stays unless a `connection` object came.
+// Answers that lack members, or hold them with the wrong type (how each type
+// reads is json-access's table): a held connection stays unless a
+// `connection` object came.
 struct Answer {
   const char* text;
   std::int32_t status;
@@ -196,18 +197,11 @@ INSTANTIATE_TEST_SUITE_P(
     Answers, AnswerShapeTest,
     ::testing::Values(Answer{R"({"status": 8192, "content": {}})", 8192, "{}", false},
                       Answer{R"({"status": "12288", "content": {}})", 0, "{}", false},
-                      Answer{R"({"status": {"v": 1}})", 0, "null", false},
-                      Answer{R"({"status": true})", 0, "null", false},
-                      Answer{R"({"status": 8192.0})", 8192, "null", false},
-                      Answer{R"({"status": 8192.5})", 0, "null", false},
                       Answer{R"({"status": 4294979584})", 0x3000, "null", false},
-                      Answer{R"({"status": -1})", -1, "null", false},
                       Answer{R"({"status": 8192, "content": 5})", 8192, "null", false},
                       Answer{R"({"status": 8192, "content": [1, 2]})", 8192, "null", false},
-                      Answer{R"({"status": 8192, "content": "x"})", 8192, "null", false},
                       Answer{R"({"status": 8192, "connection": [{"address": "a"}]})", 8192, "null", false},
                       Answer{R"({"status": 8192, "connection": "cloud"})", 8192, "null", false},
-                      Answer{R"({"status": 8192, "connection": null})", 8192, "null", false},
                       Answer{R"({"status": 8192, "connection": {}})", 8192, "null", true},
                       Answer{R"({"status": 8192, "connection": {"address": "new"}, "proxy": [1]})", 8192,
                              "null", true},

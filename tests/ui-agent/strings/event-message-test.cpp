@@ -41,7 +41,8 @@ QString fill_in_order(const QString& tmpl, const QStringList& values, bool rich)
 }
 
 // A value a hostile service might send: a link and a picture.
-const QString kMarkup = QStringLiteral("<a href=\"http://evil.example/\">Click</a><img src=\"http://evil.example/x.png\">");
+const QString kMarkup =
+    QStringLiteral("<a href=\"http://evil.example/\">Click</a><img src=\"http://evil.example/x.png\">");
 
 // What a rich label would make live of `rich`: pictures, and links to the
 // hostile address.
@@ -180,68 +181,7 @@ TEST(EventTables, SizesAreAsListed) {
   EXPECT_EQ(strings_fixture::event_rows("generic").size(), 30u);
 }
 
-struct MessageCase {
-  quint32 type;
-  const char* body;
-  bool rich;
-  int limit;
-  const char* expected;
-};
-void PrintTo(const MessageCase& c, std::ostream* os) {
-  *os << c.type << (c.rich ? " rich " : " plain ") << c.body;
-}
-
-class EventMessage : public ::testing::TestWithParam<MessageCase> {};
-
-TEST_P(EventMessage, Renders) {
-  const MessageCase& c = GetParam();
-  EXPECT_EQ(render_event_message(c.type, parse(c.body), c.rich, c.limit), QString::fromUtf8(c.expected));
-}
-
-const char kVolume[] = R"({"volume_name": "C:", "error_code": "5"})";
-const char kReading[] = "Reading and uploading the volume content of C:.";
-
-INSTANTIATE_TEST_SUITE_P(
-    EdgeCases, EventMessage,
-    ::testing::Values(
-        MessageCase{7002, kVolume, false, 449, "Starting to take a snapshot for C:."},
-        MessageCase{7002, kVolume, true, 1313, "Starting to take a snapshot for <b>C:</b>."},
-        // 7004's values trade places.
-        MessageCase{7004, kVolume, false, 449, "Error code C:: Failed to take a snapshot for 5."},
-        MessageCase{7004, kVolume, true, 1313,
-                    "Error code <b>C:</b>: Failed to take a snapshot for <b>5</b>."},
-        // The CBT mark only for a JSON true, only on 7012.
-        MessageCase{7012, R"({"volume_name": "C:", "cbt": true})", false, 449,
-                    "Reading and uploading the volume content of C:. [CBT]"},
-        MessageCase{7012, R"({"volume_name": "C:", "cbt": true})", true, 1313,
-                    "Reading and uploading the volume content of <b>C:</b>. [CBT]"},
-        MessageCase{7012, R"({"volume_name": "C:", "cbt": false})", false, 449, kReading},
-        MessageCase{7012, R"({"volume_name": "C:"})", false, 449, kReading},
-        MessageCase{7012, R"({"volume_name": "C:", "cbt": "true"})", false, 449, kReading},
-        MessageCase{7012, R"({"volume_name": "C:", "cbt": 1})", false, 449, kReading},
-        MessageCase{7013, R"({"volume_name": "C:", "cbt": true})", false, 449,
-                    "Successfully read the content of volume C:."},
-        MessageCase{1201, R"({"destination": "D:\\restore"})", false, 449, "Restore task started."},
-        MessageCase{1201, R"({"destination": "D:\\restore"})", true, 1313, "Restore task started."},
-        MessageCase{5001, R"({"email": "ann@example.com"})", true, 1313,
-                    "Account <b>ann@example.com</b> was signed in."},
-        MessageCase{7048, R"({"script_result_path": "/tmp/x"})", false, 449,
-                    "Terminated the pre-freeze script  because it timed out."},
-        // Plain text is never elided.
-        MessageCase{8002, "null", false, 40, "No permissions to the local disk."},
-        // Values are not filled again.
-        MessageCase{7004, R"({"volume_name": "%2 {x}", "error_code": "%1"})", false, 449,
-                    "Error code %2 {x}: Failed to take a snapshot for %1."},
-        MessageCase{7044,
-                    R"({"volume_name": "{interval_start}", "interval_start": "1", "interval_end": 2.5})",
-                    false, 449, "{interval_start} has a bad cluster in 1 - 2.5. The interval is skipped."},
-        // A named member must be a string; generic ones follow the placeholder rules.
-        MessageCase{7020, R"({"error_code": 5})", false, 449,
-                    "Error code : Failed to read the snapshot. Check and fix the disk errors."},
-        MessageCase{7046, R"({"exit_code": 1234567, "script_result_path": {"a": 1}})", false, 449,
-                    "Exit code 1.23457e+06: Ignored the unsuccessful execution of pre-freeze script ."},
-        MessageCase{7046, R"({"exit_code": true, "script_result_path": null})", true, kWide,
-                    "Exit code <b>1</b>: Ignored the unsuccessful execution of pre-freeze script <b></b>."}));
+// The edge cases of single messages are rows of text.tsv.
 
 TEST(EventMessageWidth, TinyLimitEndsInAnEllipsis) {
   const QString full = text(Str::reason_no_perm);

@@ -2,13 +2,14 @@
 // The two text files beside these tests: every catalogue key named for the
 // agent with its English text, and the table of activity event types.
 
-#include <QFile>
 #include <QString>
 #include <QStringList>
 
 #include <ostream>
-#include <stdexcept>
+#include <string>
 #include <vector>
+
+#include "support/table.h"
 
 namespace strings_fixture {
 
@@ -33,13 +34,12 @@ inline void PrintTo(const EventRow& row, std::ostream* os) {
 
 // The tab-separated columns of every data line of a fixture file.
 inline std::vector<QStringList> columns(const char* name, int count) {
-  QFile file(QStringLiteral(NIMBRA_STRINGS_FIXTURE_DIR "/") + QLatin1String(name));
-  if (!file.open(QIODevice::ReadOnly)) throw std::runtime_error(std::string("missing fixture ") + name);
   std::vector<QStringList> rows;
-  for (const QString& line : QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'))) {
-    if (line.isEmpty() || line.startsWith(QLatin1Char('#'))) continue;
-    rows.push_back(line.split(QLatin1Char('\t')));
-    if (rows.back().size() != count) throw std::runtime_error(std::string("bad line in ") + name);
+  for (const nimbra_test::TableRow& row :
+       nimbra_test::read_table(std::string("ui-agent/strings/") + name, static_cast<std::size_t>(count))) {
+    QStringList cells;
+    for (const std::string& cell : row.cells) cells << QString::fromStdString(cell);
+    rows.push_back(cells);
   }
   return rows;
 }

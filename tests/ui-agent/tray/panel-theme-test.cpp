@@ -16,7 +16,6 @@
 
 #include <memory>
 
-#include "support/temp-dir.h"
 #include "tray/system-tray.h"
 #include "tray/tray-theme.h"
 
@@ -48,13 +47,35 @@ class FakeSettings : public QObject {
   }
 };
 
-class PanelTheme : public ::testing::Test {
- protected:
+// One private session bus for the whole executable, in place before any test
+// runs: Qt connects its session bus once per process, so a bus started by a
+// later test would never reach a tray made there.
+class PrivateSessionBus : public ::testing::Environment {
+ public:
+  static QString address;
+
   void SetUp() override {
     daemon_.start(QStringLiteral("dbus-daemon"), {"--session", "--nofork", "--print-address=1"});
     ASSERT_TRUE(daemon_.waitForReadyRead(10000)) << "dbus-daemon did not start";
-    address_ = QString::fromUtf8(daemon_.readLine().trimmed());
-    env_ = std::make_unique<nimbra_test::ScopedEnv>("DBUS_SESSION_BUS_ADDRESS", qPrintable(address_));
+    address = QString::fromUtf8(daemon_.readLine().trimmed());
+    qputenv("DBUS_SESSION_BUS_ADDRESS", address.toUtf8());
+  }
+  void TearDown() override {
+    daemon_.kill();
+    daemon_.waitForFinished(3000);
+  }
+
+ private:
+  QProcess daemon_;
+};
+QString PrivateSessionBus::address;
+::testing::Environment* const kBus = ::testing::AddGlobalTestEnvironment(new PrivateSessionBus);
+
+// The portal on that bus, for one test.
+class PanelTheme : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    address_ = PrivateSessionBus::address;
     portalBus_ = std::make_unique<QDBusConnection>(QDBusConnection::connectToBus(address_, "portal"));
     ASSERT_TRUE(portalBus_->isConnected());
     ASSERT_TRUE(portalBus_->registerObject("/org/freedesktop/portal/desktop", &settings_,
@@ -62,9 +83,11 @@ class PanelTheme : public ::testing::Test {
     ASSERT_TRUE(portalBus_->registerService("org.freedesktop.portal.Desktop"));
   }
   void TearDown() override {
-    if (portalBus_) QDBusConnection::disconnectFromBus("portal");
-    daemon_.kill();
-    daemon_.waitForFinished(3000);
+    if (!portalBus_) return;
+    portalBus_->unregisterService("org.freedesktop.portal.Desktop");
+    portalBus_->unregisterObject("/org/freedesktop/portal/desktop");
+    portalBus_.reset();
+    QDBusConnection::disconnectFromBus("portal");
   }
   void changeScheme(const QVariant& v, const QString& key = QStringLiteral("color-scheme")) {
     QDBusMessage signal = QDBusMessage::createSignal("/org/freedesktop/portal/desktop",
@@ -73,9 +96,7 @@ class PanelTheme : public ::testing::Test {
     ASSERT_TRUE(portalBus_->send(signal));
   }
 
-  QProcess daemon_;
   QString address_;
-  std::unique_ptr<nimbra_test::ScopedEnv> env_;
   std::unique_ptr<QDBusConnection> portalBus_;
   FakeSettings settings_;
 };
