@@ -41,8 +41,9 @@ class ClientManager : public QObject {
 
   // For tests and tools.
   SystemTray* systemTray() const { return tray; }
-  Wizard* wizardWindow() const { return wizard; }
-  AboutWindowContainer* aboutWindow() const { return about; }
+  // The wizard and the about window, built when first asked for.
+  Wizard* wizardWindow();
+  AboutWindowContainer* aboutWindow();
   UpdateStatusDialog* updateStatusDialog() const { return updateDialog; }
   GetStatusWorker* statusPoller() const { return statusWorker; }
   ServiceCommunicator* serviceCommunicator() const { return communicator; }

@@ -144,10 +144,7 @@ QVector<TrayBalloon> trayBalloons(const Json::Value& notifications) {
 // ---- SystemTray --------------------------------------------------------------
 
 SystemTray::SystemTray(QObject* parent) : QSystemTrayIcon(parent) {
-  menu_ = new TrayMenu();
-  container_ = new TrayMenuContainer(menu_);
-  menu_->setFixedSize(DPIinfo::scaled(400), DPIinfo::scaled(232));
-  holdOpen_ = [this] { return menu_->userMenu() && menu_->userMenu()->isVisible(); };
+  holdOpen_ = [this] { return menu_ && menu_->userMenu() && menu_->userMenu()->isVisible(); };
   theme_ = new PanelThemeWatcher(this);
   applyIcon();
   applyView();
@@ -156,7 +153,6 @@ SystemTray::SystemTray(QObject* parent) : QSystemTrayIcon(parent) {
   connect(&bus, &GlobalConnecter::sigPositionClicked, this, &SystemTray::slotPositionClicked);
   connect(this, &QSystemTrayIcon::activated, this, &SystemTray::slotIconActivated);
   connect(&bus, &GlobalConnecter::sigShowMessage, this, &SystemTray::slotShowMessage);
-  connect(menu_, &TrayMenu::sigTrayStatusChanged, this, &SystemTray::slotStatusChanged);
   connect(&bus, &GlobalConnecter::sigApplicationStateChanged, this, &SystemTray::slotApplicationStateChanged);
   connect(this, &SystemTray::sigGetConnectionInfo, &bus, &GlobalConnecter::sigGetConnectionInfo);
   connect(this, &SystemTray::sigTrayClickedWithoutConnection, &bus,
@@ -181,6 +177,26 @@ SystemTray::SystemTray(QObject* parent) : QSystemTrayIcon(parent) {
   });
 
   QTimer::singleShot(1000, this, [this]() { emit sigGetConnectionInfo(); });
+}
+
+// The pop-up is built after the icon is shown (start-up waits for the icon
+// only), or at once when something needs it earlier.
+void SystemTray::buildPopup() {
+  if (menu_) return;
+  menu_ = new TrayMenu();
+  container_ = new TrayMenuContainer(menu_);
+  menu_->setFixedSize(DPIinfo::scaled(400), DPIinfo::scaled(232));
+  connect(menu_, &TrayMenu::sigTrayStatusChanged, this, &SystemTray::slotStatusChanged);
+}
+
+TrayMenu* SystemTray::trayMenu() {
+  buildPopup();
+  return menu_;
+}
+
+TrayMenuContainer* SystemTray::container() {
+  buildPopup();
+  return container_;
 }
 
 SystemTray::~SystemTray() {
@@ -215,7 +231,7 @@ void SystemTray::setConnectionMode(int mode) {
     rightMenu_->deleteLater();
     rightMenu_ = nullptr;
     backupNow_ = backupReason_ = nullptr;
-    menu_->clearLogEntries();
+    if (menu_) menu_->clearLogEntries();
     status_ = TrayIdle;
     facts_.status = StatusUnknown;
     facts_.content = Json::Value();
@@ -251,7 +267,7 @@ void SystemTray::buildRightMenu() {
   rightMenu_->addSeparator();
   connect(add(Str::title_activities, "ActivityAction"), &QAction::triggered, this,
           &SystemTray::showLogWindow);
-  connect(add(Str::act_settings, "SettingsAction"), &QAction::triggered, menu_,
+  connect(add(Str::act_settings, "SettingsAction"), &QAction::triggered, trayMenu(),
           &TrayMenu::slotShowSettingsWindow);
   rightMenu_->addSeparator();
   QAction* quit = add(Str::act_tray_quit, "ExitAction");
@@ -279,10 +295,10 @@ void SystemTray::applyView() {
 void SystemTray::showMenuAt(QPoint p) {
   if (mode_ != 1) return;
   if (!trayAvailable()) {
-    container_->showAsWindow();
+    container()->showAsWindow();
     return;
   }
-  container_->showAt(p);
+  container()->showAt(p);
   container_->raise();
   container_->activateWindow();
 }
@@ -296,10 +312,10 @@ void SystemTray::click() {
     emit sigTrayClickedWithoutConnection();
   } else if (mode_ == 1) {
     if (!trayAvailable()) {
-      container_->showAsWindow();
+      container()->showAsWindow();
       return;
     }
-    container_->showAt(geometry().center());
+    container()->showAt(geometry().center());
     container_->raise();
     container_->activateWindow();
   }
@@ -331,7 +347,7 @@ void SystemTray::actOnActivation() {
 }
 
 void SystemTray::slotPositionClicked(QPoint p) {
-  if (!container_->isVisible() || container_->isWindowMode()) return;
+  if (!container_ || !container_->isVisible() || container_->isWindowMode()) return;
   if (holdOpen_ && holdOpen_()) return;
   if (tray_placement::pressInside(container_->geometry(), p)) return;
   container_->hide();
@@ -347,7 +363,7 @@ void SystemTray::showNotifications(const Json::Value& notifications) {
 }
 
 void SystemTray::updateServiceStatus(ServiceStatus status, const Json::Value& content) {
-  menu_->updateServiceStatus(status, content);
+  trayMenu()->updateServiceStatus(status, content);
   facts_.status = status;
   facts_.content = content;
   facts_.reachable = true;
@@ -355,21 +371,21 @@ void SystemTray::updateServiceStatus(ServiceStatus status, const Json::Value& co
 }
 
 void SystemTray::appendLogEntries(const QList<LogEntry>& entries) {
-  menu_->appendLogEntries(entries);
+  trayMenu()->appendLogEntries(entries);
 }
 
 void SystemTray::showLogWindow() {
-  menu_->slotSeeAllClicked();
+  trayMenu()->slotSeeAllClicked();
 }
 
 void SystemTray::updateQuota(const Json::Value& billing) {
-  menu_->quotaInfoWidget()->setUsage(billing);
+  trayMenu()->quotaInfoWidget()->setUsage(billing);
 }
 
 void SystemTray::setAccountName(const QString& account) {
-  menu_->quotaInfoWidget()->setAccount(account);
+  trayMenu()->quotaInfoWidget()->setAccount(account);
 }
 
 void SystemTray::setMenuEntriesVisible(bool is_vell_account, bool is_auth_fork, int backup_role) {
-  menu_->setMenuEntriesVisible(is_vell_account, is_auth_fork, backup_role);
+  trayMenu()->setMenuEntriesVisible(is_vell_account, is_auth_fork, backup_role);
 }
