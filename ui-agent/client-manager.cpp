@@ -110,25 +110,24 @@ ClientManager::ClientManager() : QObject(nullptr) {
     CM_LOG_ERROR("agent pipe not served: %s", e.what());
   }
 
-  statusThread = new QThread(this);
+  // The poller shares the request client's thread: a tick sends its request
+  // and handles the answer there, without waking a thread of its own (and
+  // no tick comes while an exchange is under way).
   statusWorker = new GetStatusWorker();
-  statusWorker->moveToThread(statusThread);
-  statusThread->start(QThread::InheritPriority);
+  statusWorker->moveToThread(communicatorThread);
 
   // The windows are built when first needed: a connected agent never shows
   // the wizard, and nothing but the tray icon is needed to start.
 }
 
 ClientManager::~ClientManager() {
-  // The three threads, then the windows.
+  // The two threads, then the windows.
   ipcServer->stop();
   ipcServer->wait();
   statusWorker->stopPolling();
-  statusThread->quit();
-  statusThread->wait();
-  delete statusWorker;
   communicatorThread->quit();
   communicatorThread->wait();
+  delete statusWorker;
   delete communicator;
   delete tray;
   delete updateDialog;

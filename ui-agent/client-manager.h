@@ -1,6 +1,6 @@
 #pragma once
-// The agent's controller. It owns the three worker threads (the request
-// client, the agent's pipe server, the status poller) and the top-level
+// The agent's controller. It owns the two worker threads (the request
+// client with the status poller, the agent's pipe server) and the top-level
 // windows (tray icon, wizard, about window, update dialog); it turns bus
 // signals into requests to the service and the service's answers into
 // changes of those windows, and decides the agent's mode: setup (the wizard),
@@ -95,7 +95,6 @@ class ClientManager : public QObject {
   ServiceIpcServer* ipcServer = nullptr;
   ConnectionInfo connection;
   GetStatusWorker* statusWorker = nullptr;
-  QThread* statusThread = nullptr;
   int failureCount = 0;
   UpdateStatusDialog* updateDialog = nullptr;
   bool showMenuWhenConnected = false;
