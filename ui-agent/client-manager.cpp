@@ -352,7 +352,8 @@ void ClientManager::slotHandleNotifications(const Json::Value& pushed) {
   if (client_manager_platform::useNotifier()) {
     runNotifier(notifications);
   } else if (tray) {
-    tray->showNotifications(jsonx::member(notifications, "notifications"));
+    tray->showNotifications(
+        client_manager_rules::balloonNotifications(jsonx::member(notifications, "notifications")));
   }
 }
 
@@ -368,7 +369,8 @@ void ClientManager::runNotifier(const Json::Value& notifications) {
   }
   auto* notifier = new QProcess(this);
   notifier->setProcessChannelMode(QProcess::MergedChannels);
-  const Json::Value list = jsonx::member(notifications, "notifications");
+  const Json::Value list =
+      client_manager_rules::balloonNotifications(jsonx::member(notifications, "notifications"));
   // Balloons instead when there is no notifier to show them.
   const auto balloons = [this, list] {
     if (tray) tray->showNotifications(list);
