@@ -93,6 +93,11 @@ int run(int argc, char** argv, const Options& options) {
   format.setAlphaBufferSize(8);
   QSurfaceFormat::setDefaultFormat(format);
   platform::prepareGraphics();
+  // Whichever way start-up ends, the font configuration's helper thread
+  // (see prepareGraphics) is joined first.
+  struct JoinFontThread {
+    ~JoinFontThread() { platform::fontsNeeded(); }
+  } joinFontThread;
 
   // 3-4. The application, which is also the per-user single instance.
   QtSingleApplication app(argc, argv, true);
@@ -138,18 +143,26 @@ int run(int argc, char** argv, const Options& options) {
       string_display::load_translation(translator, language) && !translator.isEmpty())
     QCoreApplication::installTranslator(&translator);
 
-  // 12. Font by language (with readable stand-ins where a family is missing).
-  platform::fontsNeeded();
-  language_font::install_font_substitutions();
-  QApplication::setFont(language_font::application_font(language));
+  // 12. Font by language (with readable stand-ins where a family is missing):
+  // before the first widget is built, which is after the tray icon is shown
+  // (loading the font configuration is the slowest step of start-up).
+  bool fontSet = false;
+  const auto setFont = [&fontSet, language] {
+    if (fontSet) return;
+    fontSet = true;
+    platform::fontsNeeded();
+    language_font::install_font_substitutions();
+    QApplication::setFont(language_font::application_font(language));
+  };
 
   // 13. The machine-wide lock: another user's agent refuses this one.
   MachineLock lock(MachineLock::kName, options.lockUser);
   // True (after the warning) when another user's agent holds the lock.
-  const auto refused = [](MachineLock::Result r) {
+  const auto refused = [&setFont](MachineLock::Result r) {
     if (r != MachineLock::HeldByOtherUser && r != MachineLock::Failed) return false;
     LOG_WARN(vlog::kDefaultComponent, "machine lock %s: another user runs the agent",
              MachineLock::resultName(r));
+    setFont();
     showWarningMsg(string_display::text(Str::app_name), string_display::text(Str::app_exists));
     os_services::stop_process_services();
     return true;
@@ -188,7 +201,16 @@ int run(int argc, char** argv, const Options& options) {
       {{QStringLiteral("ok"), string_display::text(Str::btn_ok)},
        {QStringLiteral("cancel"), string_display::text(Str::btn_cancel)},
        {QStringLiteral("copy"), string_display::text(Str::act_copy)}});
-  app.setWindowIcon(QIcon(getGlobalImage(QStringLiteral("app_img"))));
+  // What the windows need, once the event loop runs: the primary shows its
+  // tray icon first. (Posted before the primary is made, so that it runs
+  // before anything the primary posts.)
+  QMetaObject::invokeMethod(
+      &app,
+      [&app, &setFont] {
+        setFont();
+        app.setWindowIcon(QIcon(getGlobalImage(QStringLiteral("app_img"))));
+      },
+      Qt::QueuedConnection);
   const bool openLog = wantsOpenLog(QCoreApplication::arguments());
   std::unique_ptr<QObject> controller =
       options.createPrimary ? options.createPrimary(openLog) : startClientManager(openLog);

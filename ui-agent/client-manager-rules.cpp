@@ -54,6 +54,12 @@ Json::Value boundedNotifications(const Json::Value& object, int& leftOut) {
   return bounded;
 }
 
+Json::Value balloonNotifications(const Json::Value& list) {
+  Json::Value out(Json::arrayValue);
+  if (list.isArray() && !list.empty()) out.append(list[list.size() - 1]);
+  return out;
+}
+
 bool notifierArguments(const Json::Value& object, QStringList& arguments) {
   arguments.clear();
   const Json::Value& list = jsonx::member(object, "notifications");

@@ -52,6 +52,11 @@ inline constexpr int kNotificationsPerPush = 5;
 // The object the service pushed with its "notifications" array cut to the
 // last kNotificationsPerPush elements; `leftOut` tells how many went.
 Json::Value boundedNotifications(const Json::Value& object, int& leftOut);
+// The tray balloons for a push's (bounded) "notifications" array: its last
+// element only. A balloon replaces the one before it (one per icon), so the
+// others would be built, at several milliseconds of the GUI thread each, to
+// be gone at once. An empty array when `list` holds nothing.
+Json::Value balloonNotifications(const Json::Value& list);
 
 // The notifier's arguments for the object the service pushed: "1", its
 // site_path, the number of notifications, then title, text, button label

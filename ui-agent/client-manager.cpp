@@ -110,27 +110,24 @@ ClientManager::ClientManager() : QObject(nullptr) {
     CM_LOG_ERROR("agent pipe not served: %s", e.what());
   }
 
-  statusThread = new QThread(this);
+  // The poller shares the request client's thread: a tick sends its request
+  // and handles the answer there, without waking a thread of its own (and
+  // no tick comes while an exchange is under way).
   statusWorker = new GetStatusWorker();
-  statusWorker->moveToThread(statusThread);
-  statusThread->start(QThread::InheritPriority);
+  statusWorker->moveToThread(communicatorThread);
 
-  wizard = new Wizard();  // 900 x 540, its own size
-  wizard->hide();
-  about = new AboutWindowContainer();
-  about->hide();
+  // The windows are built when first needed: a connected agent never shows
+  // the wizard, and nothing but the tray icon is needed to start.
 }
 
 ClientManager::~ClientManager() {
-  // The three threads, then the windows.
+  // The two threads, then the windows.
   ipcServer->stop();
   ipcServer->wait();
   statusWorker->stopPolling();
-  statusThread->quit();
-  statusThread->wait();
-  delete statusWorker;
   communicatorThread->quit();
   communicatorThread->wait();
+  delete statusWorker;
   delete communicator;
   delete tray;
   delete updateDialog;
@@ -138,11 +135,23 @@ ClientManager::~ClientManager() {
   delete wizard;
 }
 
+Wizard* ClientManager::wizardWindow() {
+  if (!wizard) wizard = new Wizard();  // 900 x 540, its own size
+  return wizard;
+}
+
+AboutWindowContainer* ClientManager::aboutWindow() {
+  if (!about) about = new AboutWindowContainer();
+  return about;
+}
+
 void ClientManager::start(bool openLog) {
   CM_LOG_INFO("Application start with log %d", openLog ? 1 : 0);
   openLogPending = openLog;
   if (!tray) tray = new SystemTray();
   tray->setVisible(true);
+  // The pop-up once the icon is up, so that the first click finds it built.
+  QMetaObject::invokeMethod(tray, &SystemTray::buildPopup, Qt::QueuedConnection);
 }
 
 // The requests of the sign-in and device registration, answered to the wizard.
@@ -175,7 +184,7 @@ void ClientManager::slotGetConnectionInfo() {
 void ClientManager::slotGetAuthURL() {
   sendAction("get_auth");
   authPending.exchange(true);
-  wizard->showSignInSheet();
+  wizardWindow()->showSignInSheet();
 }
 
 void ClientManager::slotCreateDevice(const QString& zid, const QString& subscription_id,
@@ -186,7 +195,7 @@ void ClientManager::slotCreateDevice(const QString& zid, const QString& subscrip
   request["subscription_id"] = subscription_id.toStdString();
   request["account_type"] = account_type.toStdString();
   send(request);
-  wizard->showConnecting();
+  wizardWindow()->showConnecting();
 }
 
 static Json::Value portalRequest(const char* subaction) {
@@ -213,13 +222,13 @@ void ClientManager::slotUpdateQuota() {
 }
 
 void ClientManager::slotShowAboutWindow() {
-  about->show();
+  aboutWindow()->show();
   about->raise();
   about->activateWindow();
 }
 
 void ClientManager::slotTrayClickedWithoutConnection() {
-  wizard->bringToFront();
+  wizardWindow()->bringToFront();
 }
 
 void ClientManager::slotLogoutService() {
@@ -290,9 +299,9 @@ void ClientManager::slotMessageReceived(const QString& msg) {
     request["action"] = "get_token";
     request["token"] = m.value.toStdString();
     send(request);
-    wizard->closeSignInSheet();
-    wizard->bringToFront();
-    wizard->showConnecting();
+    wizardWindow()->closeSignInSheet();
+    wizardWindow()->bringToFront();
+    wizardWindow()->showConnecting();
   }
 }
 
@@ -308,8 +317,8 @@ void ClientManager::slotHandleStatusChange(ServiceStatus, ServiceStatus current,
     store.clearConnection();
     store.setLastLogId(0);
     if (tray) tray->setConnectionMode(2);
-    wizard->showWelcomePage();
-    wizard->bringToFront();
+    wizardWindow()->showWelcomePage();
+    wizardWindow()->bringToFront();
     return;
   }
   if (tray) {
@@ -341,7 +350,8 @@ void ClientManager::slotHandleNotifications(const Json::Value& pushed) {
   if (client_manager_platform::useNotifier()) {
     runNotifier(notifications);
   } else if (tray) {
-    tray->showNotifications(jsonx::member(notifications, "notifications"));
+    tray->showNotifications(
+        client_manager_rules::balloonNotifications(jsonx::member(notifications, "notifications")));
   }
 }
 
@@ -357,7 +367,8 @@ void ClientManager::runNotifier(const Json::Value& notifications) {
   }
   auto* notifier = new QProcess(this);
   notifier->setProcessChannelMode(QProcess::MergedChannels);
-  const Json::Value list = jsonx::member(notifications, "notifications");
+  const Json::Value list =
+      client_manager_rules::balloonNotifications(jsonx::member(notifications, "notifications"));
   // Balloons instead when there is no notifier to show them.
   const auto balloons = [this, list] {
     if (tray) tray->showNotifications(list);
@@ -409,11 +420,11 @@ void ClientManager::slotQueryServiceDone(const QObject* sender, const SharedJson
 }
 
 void ClientManager::onConnectionInfo(const Json::Value& response) {
-  if (!updateDialog) {
-    updateDialog = new UpdateStatusDialog();
-    connect(updateDialog, &QDialog::finished, qApp, &QCoreApplication::quit);
-  }
   if (jsonx::has(response, "update_status")) {
+    if (!updateDialog) {
+      updateDialog = new UpdateStatusDialog();
+      connect(updateDialog, &QDialog::finished, qApp, &QCoreApplication::quit);
+    }
     const std::string state = jsonx::get_string(response, "update_status");
     if (state == "update_error") {
       updateDialog->setMessage(text(Str::desc_update_service_fail));
@@ -428,11 +439,11 @@ void ClientManager::onConnectionInfo(const Json::Value& response) {
     updateDialog->show();
     return;
   }
-  updateDialog->hide();
+  if (updateDialog) updateDialog->hide();
   if (!jsonx::has(response, "connection")) {
     if (tray) tray->setConnectionMode(2);
-    wizard->bringToFront();
-    wizard->showWelcomePage();
+    wizardWindow()->bringToFront();
+    wizardWindow()->showWelcomePage();
     return;
   }
   const Json::Value& link = jsonx::member(response, "connection");
@@ -469,17 +480,17 @@ void ClientManager::onAuth(const Json::Value& response) {
   }
   CM_LOG_ERROR("failed to get auth URL [%s]", loggable(response).c_str());
   authPending.exchange(false);
-  wizard->closeSignInSheet();
-  wizard->showError(service_error::code_of(response), response);
-  wizard->showWelcomePage();
+  wizardWindow()->closeSignInSheet();
+  wizardWindow()->showError(service_error::code_of(response), response);
+  wizardWindow()->showWelcomePage();
 }
 
 void ClientManager::onToken(const Json::Value& response) {
   if (jsonx::has(response, "error")) {
     CM_LOG_ERROR("failed to get token [%s]", loggable(response).c_str());
-    wizard->hideConnecting();
-    wizard->showError(service_error::code_of(response), response);
-    wizard->showWelcomePage();
+    wizardWindow()->hideConnecting();
+    wizardWindow()->showError(service_error::code_of(response), response);
+    wizardWindow()->showWelcomePage();
     return;
   }
   sendAction("get_site_info");
@@ -487,22 +498,23 @@ void ClientManager::onToken(const Json::Value& response) {
 
 void ClientManager::onSiteInfo(const SharedJson& answer) {
   const Json::Value& response = answer;
-  wizard->hideConnecting();
+  wizardWindow()->hideConnecting();
   if (jsonx::has(response, "error") && jsonx::member(response, "data").empty()) {
     CM_LOG_ERROR("failed to get site info [%s]", loggable(response).c_str());
-    wizard->showError(service_error::code_of(response), response);
-    wizard->showWelcomePage();
+    wizardWindow()->showError(service_error::code_of(response), response);
+    wizardWindow()->showWelcomePage();
     return;
   }
   StatusStore::instance().setStatus(static_cast<ServiceStatus>(kSiteInfoStatus), answer);
-  wizard->showSummaryPage();
+  wizardWindow()->showSummaryPage();
 }
 
 bool ClientManager::askBackupNow() {
-  VellMessageSheet sheet(VellMessageSheet::Question, wizard, true, QMessageBox::Discard | QMessageBox::Apply);
+  VellMessageSheet sheet(VellMessageSheet::Question, wizardWindow(), true,
+                         QMessageBox::Discard | QMessageBox::Apply);
   sheet.setFixedHeight(DPIinfo::scaled(158));
   sheet.setMaximumWidth(DPIinfo::scaled(480));
-  VellMask::createMask(&sheet, wizard, QColor(0, 0, 0, 20));
+  VellMask::createMask(&sheet, wizardWindow(), QColor(0, 0, 0, 20));
   sheet.setText(text(Str::desc_backup_confirm));
   const QSize buttonSize(DPIinfo::scaled(100), DPIinfo::scaled(32));
   if (QPushButton* notNow = sheet.button(QMessageBox::Discard)) {
@@ -523,11 +535,11 @@ bool ClientManager::askBackupNow() {
 }
 
 void ClientManager::onCreateDevice(const Json::Value& response) {
-  wizard->hideConnecting();
+  wizardWindow()->hideConnecting();
   if (jsonx::has(response, "error")) {
     CM_LOG_ERROR("failed to create device [%s]", loggable(response).c_str());
-    wizard->showError(service_error::code_of(response), response);
-    wizard->showWelcomePage();
+    wizardWindow()->showError(service_error::code_of(response), response);
+    wizardWindow()->showWelcomePage();
     return;
   }
   QGuiApplication::setQuitOnLastWindowClosed(false);
@@ -535,7 +547,7 @@ void ClientManager::onCreateDevice(const Json::Value& response) {
     showMenuWhenConnected = true;
     sendAction("backup_now");
   }
-  wizard->hide();
+  if (wizard) wizard->hide();
   sendAction("get_connection_info");
   statusWorker->startPolling();
   if (tray) tray->setConnectionMode(1);
@@ -550,9 +562,9 @@ void ClientManager::slotQueryServiceFailed() {
     --registrationInFlight;
     CM_LOG_ERROR("a registration request failed: back to the welcome page");
     authPending.exchange(false);
-    wizard->closeSignInSheet();
-    wizard->showError(-1);
-    wizard->showWelcomePage();
+    wizardWindow()->closeSignInSheet();
+    wizardWindow()->showError(-1);
+    wizardWindow()->showWelcomePage();
   }
   const client_manager_rules::Failure verdict =
       client_manager_rules::countFailure(failureCount, statusWorker->isPolling());

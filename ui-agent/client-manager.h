@@ -1,6 +1,6 @@
 #pragma once
-// The agent's controller. It owns the three worker threads (the request
-// client, the agent's pipe server, the status poller) and the top-level
+// The agent's controller. It owns the two worker threads (the request
+// client with the status poller, the agent's pipe server) and the top-level
 // windows (tray icon, wizard, about window, update dialog); it turns bus
 // signals into requests to the service and the service's answers into
 // changes of those windows, and decides the agent's mode: setup (the wizard),
@@ -41,8 +41,9 @@ class ClientManager : public QObject {
 
   // For tests and tools.
   SystemTray* systemTray() const { return tray; }
-  Wizard* wizardWindow() const { return wizard; }
-  AboutWindowContainer* aboutWindow() const { return about; }
+  // The wizard and the about window, built when first asked for.
+  Wizard* wizardWindow();
+  AboutWindowContainer* aboutWindow();
   UpdateStatusDialog* updateStatusDialog() const { return updateDialog; }
   GetStatusWorker* statusPoller() const { return statusWorker; }
   ServiceCommunicator* serviceCommunicator() const { return communicator; }
@@ -94,7 +95,6 @@ class ClientManager : public QObject {
   ServiceIpcServer* ipcServer = nullptr;
   ConnectionInfo connection;
   GetStatusWorker* statusWorker = nullptr;
-  QThread* statusThread = nullptr;
   int failureCount = 0;
   UpdateStatusDialog* updateDialog = nullptr;
   bool showMenuWhenConnected = false;

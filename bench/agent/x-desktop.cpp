@@ -247,6 +247,13 @@ void Desktop::click(int x, int y, int button) {
   XFlush(x_);
 }
 
+void Desktop::key(unsigned long keysym) {
+  const KeyCode code = XKeysymToKeycode(x_, static_cast<KeySym>(keysym));
+  XTestFakeKeyEvent(x_, code, True, CurrentTime);
+  XTestFakeKeyEvent(x_, code, False, CurrentTime);
+  XFlush(x_);
+}
+
 unsigned long Desktop::pixel(int x, int y) const {
   XImage* image = XGetImage(x_, root_, x, y, 1, 1, AllPlanes, ZPixmap);
   if (!image) return 0;

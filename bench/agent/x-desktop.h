@@ -75,6 +75,8 @@ class Desktop {
   void dropEvents();
   // A left (1) or right (3) click at a root position, through XTest.
   void click(int x, int y, int button = 1);
+  // A press and release of one key (an X keysym such as XK_Up), through XTest.
+  void key(unsigned long keysym);
   // The colour of one screen pixel as 0xRRGGBB.
   unsigned long pixel(int x, int y) const;
 

@@ -14,8 +14,12 @@ GetStatusWorker::GetStatusWorker(QObject* parent) : QObject(parent) {
   GlobalConnecter* bus = &GlobalConnecter::instance();
   connect(bus, &GlobalConnecter::sigQueryServiceDone, this, &GetStatusWorker::slotQueryServiceDone);
   connect(bus, &GlobalConnecter::sigQueryServiceEnded, this, &GetStatusWorker::slotQueryServiceEnded);
-  connect(this, &GetStatusWorker::sigQueryService, bus, &GlobalConnecter::sigQueryService);
-  connect(this, &GetStatusWorker::sigNotifyStatusChange, bus, &GlobalConnecter::sigNotifyStatusChange);
+  // Forwarded on the poller's thread, so that a poll does not wake the main
+  // thread only to pass the request on.
+  connect(this, &GetStatusWorker::sigQueryService, bus, &GlobalConnecter::sigQueryService,
+          Qt::DirectConnection);
+  connect(this, &GetStatusWorker::sigNotifyStatusChange, bus, &GlobalConnecter::sigNotifyStatusChange,
+          Qt::DirectConnection);
 }
 
 GetStatusWorker::~GetStatusWorker() {

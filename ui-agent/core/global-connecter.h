@@ -4,6 +4,8 @@
 // and listeners connect the bus signals to their slots. The bus lives on the
 // main thread, so signals emitted on worker threads reach their listeners
 // through queued delivery; every type carried here is a registered meta-type.
+// Worker threads forward to the bus with direct connections, so their
+// signals go to each listener's thread without a hop through the main one.
 //
 // Answers and the status content travel as SharedJson: one tree, shared
 // read-only by every listener (slots may take `const Json::Value&`).

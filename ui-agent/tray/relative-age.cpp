@@ -2,6 +2,9 @@
 
 #include <QDateTime>
 
+#include <array>
+#include <chrono>
+
 #include "string-display.h"
 
 namespace tray_text {
@@ -34,7 +37,25 @@ QString relative_age_text(qint64 now, quint64 t) {
 }
 
 QString minute_time(qint64 secs) {
-  return QDateTime::fromSecsSinceEpoch(secs).toString(QStringLiteral("yyyy/MM/dd HH:mm"));
+  // Every conversion to local time reads the time zone again (a stat of
+  // /etc/localtime each), and the pop-up and the tool tip ask for the same
+  // few times at every status, once a second. A text is kept for a minute,
+  // so a change of time zone shows within one.
+  struct Kept {
+    qint64 secs = 0;
+    qint64 until = -1;
+    QString text;
+  };
+  static thread_local std::array<Kept, 4> kept;
+  static thread_local std::size_t next = 0;
+  const qint64 now = std::chrono::duration_cast<std::chrono::milliseconds>(
+                         std::chrono::steady_clock::now().time_since_epoch())
+                         .count();
+  for (const Kept& k : kept)
+    if (k.secs == secs && now < k.until) return k.text;
+  Kept& k = kept[next++ % kept.size()];
+  k = {secs, now + 60000, QDateTime::fromSecsSinceEpoch(secs).toString(QStringLiteral("yyyy/MM/dd HH:mm"))};
+  return k.text;
 }
 
 QString second_time(qint64 secs) {

@@ -164,10 +164,7 @@ QVector<QRect> screenGeometries() {
 
 SystemTray::SystemTray(QObject* parent) : QObject(parent) {
   sni_ = new StatusNotifierItem(this);
-  menu_ = new TrayMenu();
-  container_ = new TrayMenuContainer(menu_);
-  menu_->setFixedSize(DPIinfo::scaled(400), DPIinfo::scaled(232));
-  holdOpen_ = [this] { return menu_->userMenu() && menu_->userMenu()->isVisible(); };
+  holdOpen_ = [this] { return menu_ && menu_->userMenu() && menu_->userMenu()->isVisible(); };
   theme_ = new PanelThemeWatcher(this);
   applyIcon();
   applyView();
@@ -182,7 +179,6 @@ SystemTray::SystemTray(QObject* parent) : QObject(parent) {
   });
   connect(sni_, &StatusNotifierItem::hostChanged, this, &SystemTray::applyHost);
   connect(&bus, &GlobalConnecter::sigShowMessage, this, &SystemTray::slotShowMessage);
-  connect(menu_, &TrayMenu::sigTrayStatusChanged, this, &SystemTray::slotStatusChanged);
   connect(&bus, &GlobalConnecter::sigApplicationStateChanged, this, &SystemTray::slotApplicationStateChanged);
   connect(this, &SystemTray::sigGetConnectionInfo, &bus, &GlobalConnecter::sigGetConnectionInfo);
   connect(this, &SystemTray::sigTrayClickedWithoutConnection, &bus,
@@ -207,6 +203,26 @@ SystemTray::SystemTray(QObject* parent) : QObject(parent) {
   });
 
   QTimer::singleShot(1000, this, [this]() { emit sigGetConnectionInfo(); });
+}
+
+// The pop-up is built after the icon is shown (start-up waits for the icon
+// only), or at once when something needs it earlier.
+void SystemTray::buildPopup() {
+  if (menu_) return;
+  menu_ = new TrayMenu();
+  container_ = new TrayMenuContainer(menu_);
+  menu_->setFixedSize(DPIinfo::scaled(400), DPIinfo::scaled(232));
+  connect(menu_, &TrayMenu::sigTrayStatusChanged, this, &SystemTray::slotStatusChanged);
+}
+
+TrayMenu* SystemTray::trayMenu() {
+  buildPopup();
+  return menu_;
+}
+
+TrayMenuContainer* SystemTray::container() {
+  buildPopup();
+  return container_;
 }
 
 SystemTray::~SystemTray() {
@@ -312,7 +328,7 @@ void SystemTray::setConnectionMode(int mode) {
     rightMenu_->deleteLater();
     rightMenu_ = nullptr;
     backupNow_ = backupReason_ = nullptr;
-    menu_->clearLogEntries();
+    if (menu_) menu_->clearLogEntries();
     status_ = TrayIdle;
     facts_.status = StatusUnknown;
     facts_.content = Json::Value();
@@ -344,7 +360,7 @@ void SystemTray::buildRightMenu() {
   rightMenu_->addSeparator();
   connect(add(Str::title_activities, "ActivityAction"), &QAction::triggered, this,
           &SystemTray::showLogWindow);
-  connect(add(Str::act_settings, "SettingsAction"), &QAction::triggered, menu_,
+  connect(add(Str::act_settings, "SettingsAction"), &QAction::triggered, trayMenu(),
           &TrayMenu::slotShowSettingsWindow);
   rightMenu_->addSeparator();
   QAction* quit = add(Str::act_tray_quit, "ExitAction");
@@ -376,10 +392,10 @@ void SystemTray::applyView() {
 void SystemTray::showMenuAt(QPoint p) {
   if (mode_ != 1) return;
   if (!trayAvailable()) {
-    container_->showAsWindow();
+    container()->showAsWindow();
     return;
   }
-  container_->showAt(p);
+  container()->showAt(p);
   container_->raise();
   container_->activateWindow();
 }
@@ -403,10 +419,10 @@ void SystemTray::click() {
     emit sigTrayClickedWithoutConnection();
   } else if (mode_ == 1) {
     if (!trayAvailable()) {
-      container_->showAsWindow();
+      container()->showAsWindow();
       return;
     }
-    container_->showAt(clickAnchor());
+    container()->showAt(clickAnchor());
     container_->raise();
     container_->activateWindow();
   }
@@ -443,7 +459,7 @@ void SystemTray::actOnActivation() {
 }
 
 void SystemTray::slotPositionClicked(QPoint p) {
-  if (!container_->isVisible() || container_->isWindowMode()) return;
+  if (!container_ || !container_->isVisible() || container_->isWindowMode()) return;
   if (holdOpen_ && holdOpen_()) return;
   if (tray_placement::pressInside(container_->geometry(), p)) return;
   container_->hide();
@@ -458,7 +474,7 @@ void SystemTray::showNotifications(const Json::Value& notifications) {
 }
 
 void SystemTray::updateServiceStatus(ServiceStatus status, const Json::Value& content) {
-  menu_->updateServiceStatus(status, content);
+  trayMenu()->updateServiceStatus(status, content);
   facts_.status = status;
   facts_.content = content;
   facts_.reachable = true;
@@ -466,21 +482,21 @@ void SystemTray::updateServiceStatus(ServiceStatus status, const Json::Value& co
 }
 
 void SystemTray::appendLogEntries(const QList<LogEntry>& entries) {
-  menu_->appendLogEntries(entries);
+  trayMenu()->appendLogEntries(entries);
 }
 
 void SystemTray::showLogWindow() {
-  menu_->slotSeeAllClicked();
+  trayMenu()->slotSeeAllClicked();
 }
 
 void SystemTray::updateQuota(const Json::Value& billing) {
-  menu_->quotaInfoWidget()->setUsage(billing);
+  trayMenu()->quotaInfoWidget()->setUsage(billing);
 }
 
 void SystemTray::setAccountName(const QString& account) {
-  menu_->quotaInfoWidget()->setAccount(account);
+  trayMenu()->quotaInfoWidget()->setAccount(account);
 }
 
 void SystemTray::setMenuEntriesVisible(bool is_vell_account, bool is_auth_fork, int backup_role) {
-  menu_->setMenuEntriesVisible(is_vell_account, is_auth_fork, backup_role);
+  trayMenu()->setMenuEntriesVisible(is_vell_account, is_auth_fork, backup_role);
 }

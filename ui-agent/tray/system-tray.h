@@ -133,9 +133,10 @@ class SystemTray : public QObject {
   void setAccountName(const QString& account);
   void setMenuEntriesVisible(bool is_vell_account, bool is_auth_fork, int backup_role);
 
-  TrayMenu* trayMenu() const { return menu_; }
-
-  TrayMenuContainer* container() const { return container_; }
+  // The pop-up's content and its window, built on first use (buildPopup()).
+  TrayMenu* trayMenu();
+  TrayMenuContainer* container();
+  void buildPopup();
   QMenu* rightMenu() const { return rightMenu_; }
   // What the tool tip and the right-click menu show now.
   const tray_icon_model::View& iconView() const { return view_; }

@@ -115,6 +115,11 @@ TEST(NotifierArguments, APushShowsItsLastFive) {
   ASSERT_EQ(shown["notifications"].size(), 5u);
   EXPECT_EQ(shown["notifications"][0]["id"].asInt(), 2996);
   EXPECT_EQ(shown["site_path"].asString(), "/s");
+  // Balloons replace each other: the last one only.
+  EXPECT_EQ(client_manager_rules::balloonNotifications(shown["notifications"]),
+            agent_test::parse(R"([{"type":7,"id":3000}])"));
+  for (const char* none : {"[]", "{}", "null"})
+    EXPECT_EQ(client_manager_rules::balloonNotifications(agent_test::parse(none)), agent_test::parse("[]"));
 }
 
 }  // namespace
