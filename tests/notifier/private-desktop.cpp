@@ -7,6 +7,8 @@
 #include <QJsonObject>
 #include <QThread>
 
+#include <algorithm>
+
 #include <signal.h>
 #include <sys/prctl.h>
 
@@ -142,11 +144,14 @@ QString PrivateDesktop::startDunst() {
 
 QString PrivateDesktop::startWindowManager() {
   // A window manager that supports _NET_ACTIVE_WINDOW announces itself on
-  // the root window. One that is still starting is waited for (on a loaded
-  // machine that takes seconds, and a second openbox beside a slow first one
-  // would only find the screen taken); one that ended before announcing
-  // itself (the display was not ready for it) is started again.
-  constexpr int kBudgetMs = 60000;
+  // the root window. openbox sometimes fails to open a display that other
+  // clients open fine, and the one started after it then hangs without a
+  // word: each try gets 20 s (a loaded machine needs seconds) before it is
+  // stopped and another starts, within 60 s in all.
+  constexpr int kBudgetMs = 60000, kTryMs = 20000;
+  const auto announced = [this] {
+    return run("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"}).contains("window id");
+  };
   QElapsedTimer clock;
   clock.start();
   while (clock.elapsed() < kBudgetMs) {
@@ -156,16 +161,10 @@ QString PrivateDesktop::startWindowManager() {
     openbox_->setStandardErrorFile(scratch_ + "/openbox.log", QIODevice::Append);
     openbox_->start("openbox", {"--sm-disable"});
     if (!openbox_->waitForStarted(5000)) return "openbox does not start: " + openbox_->errorString();
-    wait_until(
-        [&] {
-          return openbox_->state() == QProcess::NotRunning ||
-                 run("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"}).contains("window id");
-        },
-        static_cast<int>(kBudgetMs - clock.elapsed()));
-    if (openbox_->state() == QProcess::Running) {
-      if (run("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"}).contains("window id")) return {};
-      break;
-    }
+    wait_until([&] { return openbox_->state() == QProcess::NotRunning || announced(); },
+               static_cast<int>(std::min<qint64>(kTryMs, kBudgetMs - clock.elapsed())));
+    if (openbox_->state() == QProcess::Running && announced()) return {};
+    stop(openbox_);
   }
   stop(openbox_);
   QFile log(scratch_ + "/openbox.log");
