@@ -8,6 +8,7 @@
 #include <thread>
 
 #include "agent-app.h"
+#include "tray/popup-surface.h"
 
 namespace agent_app::platform {
 
@@ -22,6 +23,8 @@ void prepareGraphics() {
   // software renderer: about 55 MB of libraries mapped into the process for
   // nothing. A setting of the person's own is kept.
   if (qEnvironmentVariableIsEmpty("QT_XCB_GL_INTEGRATION")) qputenv("QT_XCB_GL_INTEGRATION", "none");
+  // On Wayland the tray pop-up needs a shell of the agent's own.
+  popup_surface::prepareApplication();
   // Loading the font configuration and its caches takes tens of
   // milliseconds; it happens on a helper thread while the application
   // connects to the display, instead of inside the first label built.

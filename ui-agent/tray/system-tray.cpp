@@ -21,6 +21,7 @@
 #include "logger.h"
 #include "string-display.h"
 #include "style-manager.h"
+#include "tray/popup-surface.h"
 #include "tray/quota-info-widget.h"
 #include "tray/tray-menu.h"
 #include "tray/tray-placement.h"
@@ -38,6 +39,7 @@ TrayMenuContainer::TrayMenuContainer(QWidget* content, QWidget* parent) : QWidge
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
   if (content_) layout->addWidget(content_);
+  popup_surface::closeOnFocusLoss(this);
 }
 
 void TrayMenuContainer::setPopupMode(bool popup) {
@@ -72,20 +74,21 @@ void TrayMenuContainer::placeAt(QPoint anchor) {
 
 void TrayMenuContainer::showAt(QPoint anchor) {
   if (isVisible() && !windowMode_) return;
+  // Where windows cannot place themselves (Wayland): popup-surface.h.
+  if (popup_surface::kind() == popup_surface::Kind::Framed) return showAsWindow();
   if (windowMode_) {
     hide();
     setPopupMode(true);
   }
   side_ = tray_placement::NotPlaced;
-  placeAt(anchor);
   adjustSize();
+  if (!popup_surface::placeOnLayer(this, anchor)) placeAt(anchor);
   show();
 }
 
 void TrayMenuContainer::showAsWindow() {
   if (windowMode_ && isVisible()) {
-    raise();
-    activateWindow();
+    popup_surface::activate(this);
     return;
   }
   if (!windowMode_) {
@@ -95,10 +98,11 @@ void TrayMenuContainer::showAsWindow() {
   adjustSize();
   const QRect area = availableGeometry();
   const QSize size = sizeHint();
+  // Fixed, so that a tiling window manager floats it instead of tiling it.
+  setFixedSize(size);
   move(area.center() - QPoint(size.width() / 2, size.height() / 2));
   showNormal();
-  raise();
-  activateWindow();
+  popup_surface::activate(this);
 }
 
 void TrayMenuContainer::paintEvent(QPaintEvent*) {
@@ -283,8 +287,7 @@ void SystemTray::showMenuAt(QPoint p) {
     return;
   }
   container_->showAt(p);
-  container_->raise();
-  container_->activateWindow();
+  popup_surface::activate(container_);
 }
 
 bool SystemTray::trayAvailable() const {
@@ -300,8 +303,7 @@ void SystemTray::click() {
       return;
     }
     container_->showAt(geometry().center());
-    container_->raise();
-    container_->activateWindow();
+    popup_surface::activate(container_);
   }
 }
 

@@ -1,0 +1,21 @@
+// Windows: the pop-up is placed by coordinates; activation is allowed.
+#include <QWidget>
+
+#include "tray/popup-surface.h"
+
+namespace popup_surface {
+
+void prepareApplication() {}
+
+Kind kind() {
+  return Kind::Positioned;
+}
+
+void markLayer(QWindow*, const layer_placement::Placement&) {}
+
+void activate(QWidget* window) {
+  window->raise();
+  window->activateWindow();
+}
+
+}  // namespace popup_surface
