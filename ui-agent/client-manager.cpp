@@ -27,6 +27,7 @@
 #include "vell-mask.h"
 #include "vell-message-sheet.h"
 #include "web-link.h"
+#include "window-placement.h"
 #include "wizard/wizard.h"
 
 using client_manager_rules::SchemeMessage;
@@ -216,8 +217,7 @@ void ClientManager::slotUpdateQuota() {
 
 void ClientManager::slotShowAboutWindow() {
   about->show();
-  about->raise();
-  about->activateWindow();
+  window_placement::activate(about);
 }
 
 void ClientManager::slotTrayClickedWithoutConnection() {

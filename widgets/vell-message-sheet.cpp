@@ -19,6 +19,7 @@
 #include "style-manager.h"
 #include "vell-button.h"
 #include "web-link.h"
+#include "window-placement.h"
 
 namespace {
 
@@ -229,8 +230,10 @@ int VellMessageSheet::exec() {
     resize(width(), qBound(minimumHeight(), layout()->totalHeightForWidth(width()), maximumHeight()));
   place();
   show();
-  raise();
-  if (!sheet_) activateWindow();
+  if (sheet_)
+    raise();
+  else
+    window_placement::activate(this);
   // The primary button takes the focus, so Return answers the sheet.
   QPushButton* primary = nullptr;
   for (auto it = buttons_.constEnd(); it != buttons_.constBegin();) {

@@ -163,11 +163,6 @@ void markLayer(QWindow* window, const layer_placement::Placement& placement) {
   LayerWindow::get(window)->setDesiredOutput(window->screen());
 }
 
-void activate(QWidget* window) {
-  window->raise();
-  if (QGuiApplication::platformName() != QLatin1String("wayland")) window->activateWindow();
-}
-
 }  // namespace popup_surface
 
 // Found by Qt under the name in popup-shell.json (a static plugin).

@@ -13,9 +13,4 @@ Kind kind() {
 
 void markLayer(QWindow*, const layer_placement::Placement&) {}
 
-void activate(QWidget* window) {
-  window->raise();
-  window->activateWindow();
-}
-
 }  // namespace popup_surface

@@ -52,9 +52,4 @@ bool placeOnLayer(QWidget* popup, QPoint anchor);
 // The compositor tells the agent of no press outside its own surfaces.
 void closeOnFocusLoss(QWidget* popup);
 
-// Raises `window` and gives it the keyboard focus where the windowing system
-// lets a program do that (not on Wayland, where the compositor decides and
-// asking only logs a warning).
-void activate(QWidget* window);
-
 }  // namespace popup_surface

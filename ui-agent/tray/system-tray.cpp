@@ -26,6 +26,7 @@
 #include "tray/tray-menu.h"
 #include "tray/tray-placement.h"
 #include "tray/tray-theme.h"
+#include "window-placement.h"
 
 // ---- TrayMenuContainer ----------------------------------------------------
 
@@ -88,7 +89,7 @@ void TrayMenuContainer::showAt(QPoint anchor) {
 
 void TrayMenuContainer::showAsWindow() {
   if (windowMode_ && isVisible()) {
-    popup_surface::activate(this);
+    window_placement::activate(this);
     return;
   }
   if (!windowMode_) {
@@ -102,7 +103,7 @@ void TrayMenuContainer::showAsWindow() {
   setFixedSize(size);
   move(area.center() - QPoint(size.width() / 2, size.height() / 2));
   showNormal();
-  popup_surface::activate(this);
+  window_placement::activate(this);
 }
 
 void TrayMenuContainer::paintEvent(QPaintEvent*) {
@@ -287,7 +288,7 @@ void SystemTray::showMenuAt(QPoint p) {
     return;
   }
   container_->showAt(p);
-  popup_surface::activate(container_);
+  window_placement::activate(container_);
 }
 
 bool SystemTray::trayAvailable() const {
@@ -303,7 +304,7 @@ void SystemTray::click() {
       return;
     }
     container_->showAt(geometry().center());
-    popup_surface::activate(container_);
+    window_placement::activate(container_);
   }
 }
 

@@ -75,10 +75,10 @@ void Wizard::bringToFront() {
   setWindowFlags(windowFlags() | forward);
   show();
   setWindowFlags(windowFlags() & ~forward);
-  setWindowState((windowState() & ~Qt::WindowMinimized) | Qt::WindowActive);
+  // (Not Qt::WindowActive here: activate() asks for that where it may be asked.)
+  setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
-  activateWindow();
-  raise();
+  window_placement::activate(this);
 }
 
 void Wizard::showWelcomePage() {
