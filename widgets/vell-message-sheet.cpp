@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "accessible-text.h"
 #include "component-strings.h"
 #include "copyable-text.h"
 #include "dpi-info.h"
@@ -108,6 +109,7 @@ VellMessageSheet::VellMessageSheet(int messageType, QWidget* parent, bool sheet,
     setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint | Qt::CustomizeWindowHint);
     setWindowModality(Qt::ApplicationModal);
     setAttribute(Qt::WA_StyledBackground);
+    accessible_text::setWindowRole(this, accessible_text::WindowRole::Dialog);
   }
   hide();
 

@@ -13,6 +13,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "accessible-text.h"
 #include "core/global-connecter.h"
 #include "core/notification-text.h"
 #include "dpi-info.h"
@@ -33,6 +34,7 @@
 TrayMenuContainer::TrayMenuContainer(QWidget* content, QWidget* parent) : QWidget(parent), content_(content) {
   setObjectName(QStringLiteral("TrayMenuContainer"));
   setAccessibleName(string_display::text(Str::app_name));
+  accessible_text::setWindowRole(this, accessible_text::WindowRole::Frame);
   setWindowTitle(string_display::text(Str::app_name));
   setAttribute(Qt::WA_TranslucentBackground);
   setPopupMode(true);

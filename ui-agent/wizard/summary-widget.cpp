@@ -6,6 +6,7 @@
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
+#include "accessible-text.h"
 #include "dpi-info.h"
 #include "image-manager.h"
 #include "json-access.h"
@@ -44,8 +45,8 @@ QFrame* separator(QWidget* parent) {
   return line;
 }
 
-// A row: dot, label, value, stretch; the label names the value for screen
-// readers.
+// A row: dot, label, value, stretch; the value tells its caption to screen
+// readers (fillRows() gives it its text).
 QHBoxLayout* row(QLabel* label, QWidget* value, QVBoxLayout* into, QWidget* parent) {
   auto* h = new QHBoxLayout;
   h->setContentsMargins(0, 0, 0, 0);
@@ -55,7 +56,7 @@ QHBoxLayout* row(QLabel* label, QWidget* value, QVBoxLayout* into, QWidget* pare
   h->addWidget(value, 0, Qt::AlignVCenter);
   h->addStretch(1);
   label->setBuddy(value);
-  value->setAccessibleName(label->text().trimmed());
+  accessible_text::describeValue(value, label->text(), QString());
   into->addLayout(h);
   return h;
 }
@@ -101,7 +102,7 @@ SummaryWidget::SummaryWidget(QWidget* parent) : QFrame(parent) {
   row(siteLabel, site, v, this);
   chooser_->setAccessibleName(siteLabel->text().trimmed());
   chooser_->view()->setAccessibleName(siteLabel->text().trimmed());
-  singleSite_->setAccessibleName(siteLabel->text().trimmed());
+  accessible_text::describeValue(singleSite_, siteLabel->text(), QString());
   siteLabel->setBuddy(chooser_);
   v->addWidget(separator(this));
 
@@ -151,6 +152,7 @@ void SummaryWidget::setData(const Json::Value& response) {
     chooser_->setCurrentIndex(0);
   }
   singleSite_->setText(chooser_->itemText(0));
+  accessible_text::describeValue(singleSite_, text(Str::desc_data_center), singleSite_->text());
   singleSite_->setVisible(count == 1);
   chooser_->setVisible(count != 1);
   const Json::Value& first = summary_text::site(data_, 0);
@@ -174,5 +176,9 @@ void SummaryWidget::fillRows(const Json::Value& site) {
   if (const auto schedule = summary_text::schedule_text(policy)) schedule_->setText(*schedule);
   const summary_text::Scope scope = summary_text::scope_text(policy);
   scope_->setText(summary_text::line_height_div(scope.text.toHtmlEscaped(), 24, false));
+  // Screen readers hear the whole values (the policy's name is elided on screen).
+  accessible_text::describeValue(policy_, text(Str::desc_backup_policy), name);
+  accessible_text::describeValue(schedule_, text(Str::backup_schedule), schedule_->text());
+  accessible_text::describeValue(scope_, text(Str::desc_backup_source), scope.text);
   note_->setVisible(scope.shortened);
 }
