@@ -54,11 +54,16 @@ Spoken forValue(const QString& caption, const QString& value) {
   return {plain.simplified(), withoutColon(caption)};
 }
 
+namespace {
+void apply(QWidget* widget, const Spoken& spoken) {
+  if (widget->accessibleName() != spoken.name) widget->setAccessibleName(spoken.name);
+  if (widget->accessibleDescription() != spoken.description)
+    widget->setAccessibleDescription(spoken.description);
+}
+}  // namespace
+
 void describeValue(QWidget* value, const QString& caption, const QString& text) {
-  const Spoken spoken = forValue(caption, text);
-  if (value->accessibleName() != spoken.name) value->setAccessibleName(spoken.name);
-  if (value->accessibleDescription() != spoken.description)
-    value->setAccessibleDescription(spoken.description);
+  apply(value, forValue(caption, text));
 }
 
 }  // namespace accessible_text

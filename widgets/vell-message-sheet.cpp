@@ -109,8 +109,9 @@ VellMessageSheet::VellMessageSheet(int messageType, QWidget* parent, bool sheet,
     setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint | Qt::CustomizeWindowHint);
     setWindowModality(Qt::ApplicationModal);
     setAttribute(Qt::WA_StyledBackground);
-    accessible_text::setWindowRole(this, accessible_text::WindowRole::Dialog);
   }
+  // A dialog to screen readers, also as a sheet over its window.
+  accessible_text::setWindowRole(this, accessible_text::WindowRole::Dialog);
   hide();
 
   const int s24 = DPIinfo::scaled(24);

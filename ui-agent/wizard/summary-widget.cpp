@@ -101,6 +101,9 @@ SummaryWidget::SummaryWidget(QWidget* parent) : QFrame(parent) {
   QLabel* siteLabel = rowLabel(Str::desc_data_center, this);
   row(siteLabel, site, v, this);
   chooser_->setAccessibleName(siteLabel->text().trimmed());
+  // On Linux Qt gives a combo box its chosen item as name: the caption then
+  // comes as description, as with the labels.
+  chooser_->setAccessibleDescription(accessible_text::forValue(siteLabel->text(), QString()).description);
   chooser_->view()->setAccessibleName(siteLabel->text().trimmed());
   accessible_text::describeValue(singleSite_, siteLabel->text(), QString());
   siteLabel->setBuddy(chooser_);

@@ -1,0 +1,126 @@
+// The first run as a screen reader's user makes it: everything read from the
+// accessibility tree (AT-SPI) and every button pressed through it, never a
+// key or a click. The accessibility bus comes up after the agent, as it does
+// when a screen reader is started later.
+#include <QJsonDocument>
+
+#include "desktop/agent-desktop.h"
+#include "notifier/private-desktop.h"
+
+namespace desktop_test {
+namespace {
+
+struct Node {
+  int depth = 0;
+  QString role, name, description;
+  bool showing = false;
+};
+
+class ScreenReader : public AgentDesktop {
+ protected:
+  void TearDown() override {
+    AgentDesktop::TearDown();
+    if (bus_) {
+      // It ends the accessibility bus (and with it the registry) on SIGTERM.
+      bus_->terminate();
+      bus_->waitForFinished(5000);
+    }
+  }
+
+  ::testing::AssertionResult startAccessibilityBus() {
+    bus_ = std::make_unique<notifier_test::ChildProcess>();
+    bus_->setProcessEnvironment(env_);
+    bus_->setStandardErrorFile(QString::fromStdString(scratch_->path()) + "/at-spi.err");
+    bus_->start("/usr/libexec/at-spi-bus-launcher", {"--launch-immediately"});
+    if (!bus_->waitForStarted(10000)) return ::testing::AssertionFailure() << "no at-spi-bus-launcher";
+    return ::testing::AssertionSuccess();
+  }
+
+  // The agent's accessibility tree; empty while it is not on the bus.
+  QVector<Node> tree() {
+    int code = -1;
+    const QString out = driver({"tree"}, &code);
+    QVector<Node> nodes;
+    if (code != 0) return nodes;
+    for (const QString& line : out.split('\n', Qt::SkipEmptyParts)) {
+      const QJsonObject o = QJsonDocument::fromJson(line.toUtf8()).object();
+      nodes.push_back({o.value("depth").toInt(), o.value("role").toString(), o.value("name").toString(),
+                       o.value("description").toString(), o.value("showing").toBool()});
+    }
+    return nodes;
+  }
+  // The first showing node described as `caption` (a value beside it), or
+  // called `name` with `role`, once the tree has it.
+  Node waitForNode(const std::function<bool(const Node&)>& match, int ms) {
+    Node found;
+    waitUntil(
+        [&] {
+          for (const Node& n : tree())
+            if (n.showing && match(n)) {
+              found = n;
+              return true;
+            }
+          return false;
+        },
+        ms);
+    return found;
+  }
+  bool press(const QString& name, const QString& role = QStringLiteral("push button")) {
+    int code = -1;
+    driver({"press", name, role}, &code);
+    return code == 0;
+  }
+  QString driver(const QStringList& args, int* code) {
+    return run(
+        "/usr/bin/python3",
+        QStringList{source("/tests/desktop/atspi-driver.py"), QString::number(agent_->processId())} + args,
+        code);
+  }
+
+  std::unique_ptr<notifier_test::ChildProcess> bus_;
+};
+
+TEST_F(ScreenReader, FirstRunThroughAccessibilityActionsAlone) {
+  ASSERT_TRUE(startSim("first-run"));
+  ASSERT_TRUE(startAgent());
+  ASSERT_FALSE(waitForAgentWindow(30000).isEmpty()) << "no wizard";
+  ASSERT_TRUE(startAccessibilityBus());
+
+  // The wizard is a frame, as a screen reader expects of an application window.
+  const Node start = waitForNode([](const Node& n) { return n.name == "Let's Start"; }, 30000);
+  ASSERT_EQ(start.role, "push button") << "the agent never showed on the accessibility bus";
+  for (const Node& n : tree()) {
+    if (n.depth != 1) continue;
+    EXPECT_TRUE(n.role == "frame" || n.role == "dialog") << n.role.toStdString();
+  }
+  ASSERT_TRUE(press("Let's Start"));
+  ASSERT_TRUE(waitForAction("get_site_info", 30000)) << "the browser's return never reached the agent";
+
+  // Every value of the summary is heard whole, with its caption as
+  // description (the site chooser's name is the chosen site).
+  const auto valueOf = [&](const QString& caption) {
+    return waitForNode([&](const Node& n) { return n.description == caption && !n.name.isEmpty(); }, 20000);
+  };
+  const Node policy = valueOf("Backup Policy"), site = valueOf("Data Center"),
+             schedule = valueOf("Backup schedule"), scope = valueOf("Backup scope");
+  shot("summary");
+  EXPECT_EQ(site.role, "combo box");
+  EXPECT_NE(site.name, site.description);
+  for (const Node& v : {policy, schedule, scope}) {
+    EXPECT_EQ(v.role, "label") << v.description.toStdString();
+    EXPECT_NE(v.name, v.description) << "a value read as its caption";
+  }
+
+  ASSERT_TRUE(press("Done"));
+  ASSERT_TRUE(waitForAction("create_device", 15000));
+  // The back-up-now question (a sheet over the wizard) is a dialog; its OK
+  // is pressed like any button.
+  const Node question = waitForNode([](const Node& n) { return n.role == "dialog"; }, 20000);
+  ASSERT_EQ(question.role, "dialog") << "no back-up-now question";
+  ASSERT_TRUE(waitUntil([&] { return press("OK"); }, 10000));
+  ASSERT_TRUE(waitForAction("backup_now", 15000));
+  shot("after-backup-now");
+}
+
+}  // namespace
+}  // namespace desktop_test
