@@ -8,6 +8,7 @@
 #include <QtGlobal>
 #include <thread>
 
+#include "accessible-text.h"
 #include "agent-app.h"
 #include "tray/popup-surface.h"
 
@@ -32,6 +33,7 @@ void prepareGraphics() {
   // agent then never saw it. Always on, the agent joins the accessibility
   // bus whenever there is one (its cost is nil while nobody listens). A
   // setting of the person's own is kept.
+  accessible_text::install();
   if (qEnvironmentVariableIsEmpty("QT_LINUX_ACCESSIBILITY_ALWAYS_ON"))
     qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
   // Loading the font configuration and its caches takes tens of

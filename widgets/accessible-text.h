@@ -19,8 +19,15 @@ enum class WindowRole {
   Dialog,  // a window that asks or tells something and is then closed
 };
 
+// The roles below, and the application's list of windows with the tray
+// pop-up in it (Qt lists no pop-up window). Before the application object
+// is made, so that its interface is ours from the start; setWindowRole()
+// calls it too.
+void install();
+
 // Announces `window` (a top-level widget, before it is first shown) with
-// `role`, whatever its class.
+// `role`, whatever its class; a pop-up window so announced is listed among
+// the application's windows.
 void setWindowRole(QWidget* window, WindowRole role);
 
 struct Spoken {

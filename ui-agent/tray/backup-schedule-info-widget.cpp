@@ -68,11 +68,20 @@ BackupScheduleInfoWidget::BackupScheduleInfoWidget(QWidget* parent) : QFrame(par
 }
 
 void BackupScheduleInfoWidget::setLastBackupTime(quint64 secs) {
-  last_value_->setText(tray_status_page::last_backup_text(secs));
-  accessible_text::describeValue(last_value_, last_caption_->fullText(), last_value_->fullText());
+  setLastBackupText(tray_status_page::last_backup_text(secs));
 }
 
 void BackupScheduleInfoWidget::setNextBackupTime(quint64 secs) {
-  next_value_->setText(tray_status_page::next_backup_text(secs));
-  accessible_text::describeValue(next_value_, next_caption_->fullText(), next_value_->fullText());
+  setNextBackupText(tray_status_page::next_backup_text(secs));
+}
+
+void BackupScheduleInfoWidget::setLastBackupText(const QString& text) {
+  last_value_->setText(text);
+  // Heard whole, with its caption.
+  accessible_text::describeValue(last_value_, last_caption_->fullText(), text);
+}
+
+void BackupScheduleInfoWidget::setNextBackupText(const QString& text) {
+  next_value_->setText(text);
+  accessible_text::describeValue(next_value_, next_caption_->fullText(), text);
 }
