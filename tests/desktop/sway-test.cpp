@@ -235,6 +235,27 @@ TEST_F(Sway, PopupIsALayerSurfaceWhereTheAgentPlacedItNeverATile) {
       << "Escape did not close the pop-up";
 }
 
+// A compositor without layer-shell (GNOME) is played by Qt's plain
+// xdg-shell: the pop-up is then a small fixed-size window, floated, not tiled.
+TEST_F(Sway, WithoutLayerShellThePopupIsASmallFloatingWindow) {
+  env_.insert("QT_WAYLAND_SHELL_INTEGRATION", "xdg-shell");
+  ASSERT_TRUE(startLinked("idle"));
+  QString item;
+  ASSERT_TRUE(waitUntil([&] { return !(item = trayItem()).isEmpty(); }, 20000)) << "no icon on waybar";
+  const QStringList serviceAndPath = item.split(' ');
+  busRun({"call", serviceAndPath[0], serviceAndPath[1], "org.kde.StatusNotifierItem", "Activate", "ii",
+          "1200", "790"});
+  QJsonArray tiles;
+  ASSERT_TRUE(waitUntil([&] { return (tiles = agentTiles()).size() == 1; }, 15000)) << "no pop-up window";
+  grim("popup-framed");
+  const QJsonObject window = tiles.first().toObject();
+  EXPECT_TRUE(window.value("floating").toBool()) << "the pop-up window is tiled";
+  const QJsonObject content = window.value("window_rect").toObject();
+  EXPECT_EQ(content.value("width").toInt(), 400);
+  EXPECT_EQ(content.value("height").toInt(), 232);
+  EXPECT_FALSE(agentStderr().contains("requestActivate")) << agentStderr().toStdString();
+}
+
 TEST_F(Sway, FirstRunByKeyboardInAFloatingWizard) {
   ASSERT_TRUE(startSim("first-run"));
   ASSERT_TRUE(startAgent());
