@@ -179,9 +179,8 @@ void SummaryWidget::fillRows(const Json::Value& site) {
   if (const auto schedule = summary_text::schedule_text(policy)) schedule_->setText(*schedule);
   const summary_text::Scope scope = summary_text::scope_text(policy);
   scope_->setText(summary_text::line_height_div(scope.text.toHtmlEscaped(), 24, false));
-  // Screen readers hear the whole values (the policy's name is elided on screen).
+  // Screen readers hear the whole name (elided on screen); the other values'
+  // names are their texts (row()).
   accessible_text::describeValue(policy_, text(Str::desc_backup_policy), name);
-  accessible_text::describeValue(schedule_, text(Str::backup_schedule), schedule_->text());
-  accessible_text::describeValue(scope_, text(Str::desc_backup_source), scope.text);
   note_->setVisible(scope.shortened);
 }
