@@ -1,6 +1,4 @@
-// Windows: the pop-up is placed by coordinates; activation is allowed.
-#include <QWidget>
-
+// Windows: the pop-up is placed by coordinates.
 #include "tray/popup-surface.h"
 
 namespace popup_surface {
