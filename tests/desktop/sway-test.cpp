@@ -229,6 +229,23 @@ TEST_F(Sway, PopupIsALayerSurfaceWhereTheAgentPlacedItNeverATile) {
   EXPECT_EQ(agentTiles().size(), 0) << QJsonDocument(agentTiles()).toJson().toStdString();
   EXPECT_FALSE(agentStderr().contains("requestActivate")) << agentStderr().toStdString();
 
+  // Its user drop-down (a menu opened from a layer surface, so a layer
+  // surface beside it) comes up from the keyboard: white outside the card.
+  const auto whiteOutside = [&](const QImage& shot) {
+    int white = 0;
+    for (int y = 0; y < shot.height(); y += 4)
+      for (int x = 0; x < shot.width(); x += 4)
+        white += !card.contains(x, y) && shot.pixel(x, y) == qRgb(255, 255, 255);
+    return white;
+  };
+  const int before = whiteOutside(screen);
+  type("Tab");
+  type("Tab");
+  type("space");
+  EXPECT_TRUE(waitUntil([&] { return whiteOutside(grim("user-menu")) > before + 500; }, 10000))
+      << "no user drop-down";
+  type("Escape");
+
   // Escape closes it (the keyboard came with it).
   type("Escape");
   EXPECT_TRUE(waitUntil([&] { return grim("closed").pixel(card.center()) != qRgb(255, 255, 255); }, 10000))
