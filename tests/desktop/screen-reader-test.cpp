@@ -1,83 +1,33 @@
 // The first run as a screen reader's user makes it, up to the tray pop-up
 // and the activity list: everything read from the accessibility tree
-// (AT-SPI) and every button pressed through it, never a key or a click. The accessibility bus comes up after
-// the agent, as it does when a screen reader is started later.
-#include <QJsonDocument>
-
+// (AT-SPI) and every button pressed through it, never a key or a click. The
+// accessibility bus comes up after the agent, as it does when a screen
+// reader is started later.
 #include "desktop/agent-desktop.h"
-#include "notifier/private-desktop.h"
+#include "desktop/atspi-tree.h"
 
 namespace desktop_test {
 namespace {
 
-struct Node {
-  int depth = 0;
-  QString role, name, description;
-  bool showing = false;
-};
+using Node = A11yNode;
 
 class ScreenReader : public AgentDesktop {
  protected:
   void TearDown() override {
     AgentDesktop::TearDown();
-    if (bus_) {
-      // It ends the accessibility bus (and with it the registry) on SIGTERM.
-      bus_->terminate();
-      bus_->waitForFinished(5000);
-    }
+    a11y_.reset();
   }
-
   ::testing::AssertionResult startAccessibilityBus() {
-    bus_ = std::make_unique<notifier_test::ChildProcess>();
-    bus_->setProcessEnvironment(env_);
-    bus_->setStandardErrorFile(QString::fromStdString(scratch_->path()) + "/at-spi.err");
-    bus_->start("/usr/libexec/at-spi-bus-launcher", {"--launch-immediately"});
-    if (!bus_->waitForStarted(10000)) return ::testing::AssertionFailure() << "no at-spi-bus-launcher";
-    return ::testing::AssertionSuccess();
+    a11y_ = std::make_unique<AtspiTree>(env_, source("/tests/desktop/atspi-driver.py"), agent_->processId());
+    return a11y_->startBus(QString::fromStdString(scratch_->path()) + "/at-spi.err");
   }
+  QVector<Node> tree() const { return a11y_->nodes(); }
+  Node waitForNode(const std::function<bool(const Node&)>& match, int ms) const {
+    return a11y_->waitFor(match, ms);
+  }
+  bool press(const QString& name) const { return a11y_->press(name); }
 
-  // The agent's accessibility tree; empty while it is not on the bus.
-  QVector<Node> tree() {
-    int code = -1;
-    const QString out = driver({"tree"}, &code);
-    QVector<Node> nodes;
-    if (code != 0) return nodes;
-    for (const QString& line : out.split('\n', Qt::SkipEmptyParts)) {
-      const QJsonObject o = QJsonDocument::fromJson(line.toUtf8()).object();
-      nodes.push_back({o.value("depth").toInt(), o.value("role").toString(), o.value("name").toString(),
-                       o.value("description").toString(), o.value("showing").toBool()});
-    }
-    return nodes;
-  }
-  // The first showing node described as `caption` (a value beside it), or
-  // called `name` with `role`, once the tree has it.
-  Node waitForNode(const std::function<bool(const Node&)>& match, int ms) {
-    Node found;
-    waitUntil(
-        [&] {
-          for (const Node& n : tree())
-            if (n.showing && match(n)) {
-              found = n;
-              return true;
-            }
-          return false;
-        },
-        ms);
-    return found;
-  }
-  bool press(const QString& name, const QString& role = QStringLiteral("push button")) {
-    int code = -1;
-    driver({"press", name, role}, &code);
-    return code == 0;
-  }
-  QString driver(const QStringList& args, int* code) {
-    return run(
-        "/usr/bin/python3",
-        QStringList{source("/tests/desktop/atspi-driver.py"), QString::number(agent_->processId())} + args,
-        code);
-  }
-
-  std::unique_ptr<notifier_test::ChildProcess> bus_;
+  std::unique_ptr<AtspiTree> a11y_;
 };
 
 TEST_F(ScreenReader, FirstRunThroughAccessibilityActionsAlone) {

@@ -1,6 +1,7 @@
 // The agent on Wayland: sway (headless) with waybar as its StatusNotifierItem
 // host. The tray pop-up opens as a layer surface where the agent placed it,
-// never as a tile; the first run works from the keyboard. There is no
+// never as a tile; the first run works from the keyboard, and a screen
+// reader started after the agent finds it. There is no
 // pointer: the icon is clicked through its D-Bus Activate, keys come from
 // wtype.
 //
@@ -22,6 +23,7 @@
 #include <unistd.h>
 
 #include "desktop/agent-desktop.h"
+#include "desktop/atspi-tree.h"
 #include "notifier/private-desktop.h"
 
 namespace desktop_test {
@@ -282,6 +284,10 @@ TEST_F(Sway, FirstRunByKeyboardInAFloatingWizard) {
   EXPECT_TRUE(wizard.value("floating").toBool()) << "the wizard is tiled";
   EXPECT_TRUE(wizard.value("focused").toBool());
   grim("welcome");
+  // A screen reader started now finds the wizard, a frame, on Wayland too.
+  AtspiTree a11y(env_, source("/tests/desktop/atspi-driver.py"), agent_->processId());
+  ASSERT_TRUE(a11y.startBus(runtime_->path() + "/at-spi.err"));
+  EXPECT_EQ(a11y.waitFor([](const A11yNode& n) { return n.depth == 1; }, 20000).role, "frame");
 
   ASSERT_TRUE(typeUntil(
       "Return", [&] { return countOf("get_auth") > 0; }, 20000));
