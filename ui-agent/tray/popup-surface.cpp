@@ -44,7 +44,10 @@ bool placeOnLayer(QWidget* popup, QPoint anchor) {
   if (kind() != Kind::Layer) return false;
   QScreen* screen = QGuiApplication::screenAt(anchor);
   if (!screen) screen = QGuiApplication::primaryScreen();
-  if (!screen) return false;
+  if (!screen) {
+    LOG_WARN(vlog::kDefaultComponent, "tray pop-up: no screen to anchor the layer surface to");
+    return false;
+  }
   const layer_placement::Placement placement =
       layer_placement::anchoredAt(screen->geometry(), popup->sizeHint(), anchor);
   popup->createWinId();
