@@ -154,6 +154,7 @@ INSTANTIATE_TEST_SUITE_P(
         LayerRow{"NegativeCoordinates", kScreen, {-40, 300}, kTL, {1, 184, 0, 0}, {1, 184}},
         // A second screen: margins from its own edges.
         LayerRow{"SecondScreenBottom", kSecond, {2500, 1070}, kBR, {0, 0, 500, 1}, {2300, 847}},
+        LayerRow{"SecondScreenLeftPanel", kSecond, {1290, 500}, kTL, {1, 384, 0, 0}, {1281, 384}},
         // A screen smaller than the pop-up: its left edge one pixel in, the
         // far margin negative.
         LayerRow{"TinyScreen", QRect(0, 0, 300, 200), {150, 190}, kBR, {0, 0, -101, 1}, {1, -33}}),
