@@ -27,6 +27,7 @@
 #include "vell-mask.h"
 #include "vell-message-sheet.h"
 #include "web-link.h"
+#include "window-placement.h"
 #include "wizard/wizard.h"
 
 using client_manager_rules::SchemeMessage;
@@ -223,8 +224,7 @@ void ClientManager::slotUpdateQuota() {
 
 void ClientManager::slotShowAboutWindow() {
   aboutWindow()->show();
-  about->raise();
-  about->activateWindow();
+  window_placement::activate(about);
 }
 
 void ClientManager::slotTrayClickedWithoutConnection() {

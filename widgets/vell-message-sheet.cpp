@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "accessible-text.h"
 #include "component-strings.h"
 #include "copyable-text.h"
 #include "dpi-info.h"
@@ -19,6 +20,7 @@
 #include "style-manager.h"
 #include "vell-button.h"
 #include "web-link.h"
+#include "window-placement.h"
 
 namespace {
 
@@ -108,6 +110,8 @@ VellMessageSheet::VellMessageSheet(int messageType, QWidget* parent, bool sheet,
     setWindowModality(Qt::ApplicationModal);
     setAttribute(Qt::WA_StyledBackground);
   }
+  // A dialog to screen readers, also as a sheet over its window.
+  accessible_text::setWindowRole(this, accessible_text::WindowRole::Dialog);
   hide();
 
   const int s24 = DPIinfo::scaled(24);
@@ -229,8 +233,10 @@ int VellMessageSheet::exec() {
     resize(width(), qBound(minimumHeight(), layout()->totalHeightForWidth(width()), maximumHeight()));
   place();
   show();
-  raise();
-  if (!sheet_) activateWindow();
+  if (sheet_)
+    raise();
+  else
+    window_placement::activate(this);
   // The primary button takes the focus, so Return answers the sheet.
   QPushButton* primary = nullptr;
   for (auto it = buttons_.constEnd(); it != buttons_.constBegin();) {

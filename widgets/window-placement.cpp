@@ -48,4 +48,9 @@ void centreWhenShown(QWidget* window, bool firstShowOnly) {
   window->installEventFilter(new CentreOnShow(window, firstShowOnly));
 }
 
+void activate(QWidget* window) {
+  window->raise();
+  if (QGuiApplication::platformName() != QLatin1String("wayland")) window->activateWindow();
+}
+
 }  // namespace window_placement

@@ -24,4 +24,9 @@ QRect workAreaAt(const QPoint& point);
 // with `firstShowOnly`, only the first time.
 void centreWhenShown(QWidget* window, bool firstShowOnly = false);
 
+// Raises `window` and gives it the keyboard focus where the windowing system
+// lets a program do that. On Wayland the compositor alone decides (it
+// focuses a window when it maps it) and asking only logs a warning.
+void activate(QWidget* window);
+
 }  // namespace window_placement

@@ -3,8 +3,24 @@
 if(TARGET agent_ui)
   # The screens' platform halves (agent_ui's glob leaves -posix/-windows out).
   nimbra_platform_sources(agent_ui_platform_sources ${CMAKE_CURRENT_SOURCE_DIR}/tray/tray-theme
-                          ${CMAKE_CURRENT_SOURCE_DIR}/tray/status-notifier-item)
+                          ${CMAKE_CURRENT_SOURCE_DIR}/tray/status-notifier-item
+                          ${CMAKE_CURRENT_SOURCE_DIR}/tray/popup-surface)
   target_sources(agent_ui PRIVATE ${agent_ui_platform_sources})
+  if(NOT WIN32)
+    # The pop-up as a layer surface on Wayland (tray/popup-surface-posix.cpp):
+    # a shell integration of our own, compiled in as a static Qt plugin, over
+    # Qt's private Wayland client interfaces and LayerShellQt.
+    find_package(Qt5WaylandClient 5.15 REQUIRED)
+    find_package(LayerShellQt REQUIRED)
+    # Qt's Wayland display header also reads the private keyboard-map support.
+    list(GET Qt5Core_INCLUDE_DIRS 0 qt_include_root)
+    target_include_directories(agent_ui SYSTEM PRIVATE ${Qt5WaylandClient_PRIVATE_INCLUDE_DIRS}
+                               ${Qt5Gui_PRIVATE_INCLUDE_DIRS} ${Qt5Core_PRIVATE_INCLUDE_DIRS}
+                               ${qt_include_root}/QtXkbCommonSupport/${Qt5Core_VERSION})
+    target_link_libraries(agent_ui PRIVATE Qt5::WaylandClient LayerShellQt::Interface)
+    set_source_files_properties(${CMAKE_CURRENT_SOURCE_DIR}/tray/popup-surface-posix.cpp
+                                PROPERTIES COMPILE_DEFINITIONS QT_STATICPLUGIN)
+  endif()
   target_link_libraries(agent_ui PUBLIC agent_platform)
   if(TARGET Qt5::DBus)
     # The panel's colour from the settings portal; the StatusNotifierItem

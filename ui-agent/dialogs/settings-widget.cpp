@@ -9,6 +9,7 @@
 #include <QRegularExpressionValidator>
 #include <QVBoxLayout>
 
+#include "accessible-text.h"
 #include "core/global-connecter.h"
 #include "dialogs/settings-rules.h"
 #include "dpi-info.h"
@@ -58,6 +59,7 @@ SettingsWidget::SettingsWidget(QWidget* parent) : QWidget(parent) {
   setWindowFlags(Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint);
   setWindowTitle(text(Str::act_settings));
   setAccessibleName(text(Str::act_settings));
+  accessible_text::setWindowRole(this, accessible_text::WindowRole::Dialog);
   setFixedSize(px(700), px(442));
   setAutoFillBackground(true);
   QPalette pal = palette();

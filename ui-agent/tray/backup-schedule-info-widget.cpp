@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "accessible-text.h"
 #include "dpi-info.h"
 #include "status-page-model.h"
 #include "string-display.h"
@@ -14,7 +15,8 @@ namespace {
 constexpr auto kFrameStyle =
     "QFrame#BackupScheduleInfoWidget {border-radius: 4px; background-color: rgba(171,181,194,0.1);}";
 // The captions and values inside the box: the page's text colours.
-constexpr auto kCaptionStyle = "QLabel { color: rgba(80,90,100,0.75); font-size: 13px; background: transparent; }";
+constexpr auto kCaptionStyle =
+    "QLabel { color: rgba(80,90,100,0.75); font-size: 13px; background: transparent; }";
 constexpr auto kValueStyle = "QLabel { color: #1E2832; font-size: 13px; background: transparent; }";
 
 }  // namespace
@@ -66,9 +68,20 @@ BackupScheduleInfoWidget::BackupScheduleInfoWidget(QWidget* parent) : QFrame(par
 }
 
 void BackupScheduleInfoWidget::setLastBackupTime(quint64 secs) {
-  last_value_->setText(tray_status_page::last_backup_text(secs));
+  setLastBackupText(tray_status_page::last_backup_text(secs));
 }
 
 void BackupScheduleInfoWidget::setNextBackupTime(quint64 secs) {
-  next_value_->setText(tray_status_page::next_backup_text(secs));
+  setNextBackupText(tray_status_page::next_backup_text(secs));
+}
+
+void BackupScheduleInfoWidget::setLastBackupText(const QString& text) {
+  last_value_->setText(text);
+  // Heard whole, with its caption.
+  accessible_text::describeValue(last_value_, last_caption_->fullText(), text);
+}
+
+void BackupScheduleInfoWidget::setNextBackupText(const QString& text) {
+  next_value_->setText(text);
+  accessible_text::describeValue(next_value_, next_caption_->fullText(), text);
 }

@@ -17,6 +17,9 @@ class BackupScheduleInfoWidget : public QFrame {
   void setNextBackupTime(quint64 secs);
   // The status page writes the schedule-type texts straight into the value.
   // A value wider than its label is elided, with the whole text as tool tip.
+  // The values as shown (and as screen readers hear them, with the captions).
+  void setLastBackupText(const QString& text);
+  void setNextBackupText(const QString& text);
   VellLabel* nextBackupLabel() const { return next_value_; }
   VellLabel* lastBackupLabel() const { return last_value_; }
 

@@ -9,6 +9,7 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "accessible-text.h"
 #include "copyable-text.h"
 #include "dpi-info.h"
 #include "logger.h"
@@ -28,7 +29,8 @@ constexpr int kTimeColumn = 200;
 constexpr int kEventColumn = 449;
 
 constexpr auto kHeaderStyle =
-    "QTableWidget { background-color: white; color: rgba(30,40,50,0.60); padding: 0px; margin: 0px; border: none;"
+    "QTableWidget { background-color: white; color: rgba(30,40,50,0.60); padding: 0px; margin: 0px; border: "
+    "none;"
     " outline: none; }"
     " QTableWidget::item { border-bottom: 1px solid #EBF0F5; }";
 constexpr auto kTableStyle =
@@ -73,6 +75,7 @@ LogWidget::LogWidget(QWidget* parent) : QWidget(parent), fitter_(event_fit::Fitt
   setAutoFillBackground(true);
   setWindowTitle(string_display::text(Str::title_activities));
   setAccessibleName(windowTitle());
+  accessible_text::setWindowRole(this, accessible_text::WindowRole::Frame);
 
   header_ = new QTableWidget(1, 2, this);
   header_->setObjectName(QStringLiteral("logHeaderTable"));
@@ -85,11 +88,15 @@ LogWidget::LogWidget(QWidget* parent) : QWidget(parent), fitter_(event_fit::Fitt
   header_->setFixedHeight(DPIinfo::scaled(30));
   header_->setStyleSheet(DPIinfo::getScaledStyleSheet(QLatin1String(kHeaderStyle)));
   for (int c = 0; c < 2; ++c) header_->setItem(0, c, new QTableWidgetItem);
-  header_->setCellWidget(0, 0, cellLabel(string_display::text(Str::desc_time),
-                                         getStyleSheet(QStringLiteral("log_widget_time"))));
+  header_->item(0, 0)->setData(Qt::AccessibleTextRole, string_display::text(Str::desc_time));
+  header_->item(0, 1)->setData(Qt::AccessibleTextRole, string_display::text(Str::desc_event));
+  header_->setCellWidget(
+      0, 0,
+      cellLabel(string_display::text(Str::desc_time), getStyleSheet(QStringLiteral("log_widget_time"))));
   // Both titles in the one look of the time column's.
-  header_->setCellWidget(0, 1, cellLabel(string_display::text(Str::desc_event),
-                                         getStyleSheet(QStringLiteral("log_widget_time"))));
+  header_->setCellWidget(
+      0, 1,
+      cellLabel(string_display::text(Str::desc_event), getStyleSheet(QStringLiteral("log_widget_time"))));
 
   auto* divider = new QFrame(this);
   divider->setObjectName(QStringLiteral("logDivider"));
@@ -107,10 +114,14 @@ LogWidget::LogWidget(QWidget* parent) : QWidget(parent), fitter_(event_fit::Fitt
   table_->verticalHeader()->setDefaultSectionSize(DPIinfo::scaled(40));
   table_->setStyleSheet(
       DPIinfo::getScaledStyleSheet(QLatin1String(kTableStyle)) + QLatin1Char('\n') +
-      forLabelsNamed(event_fit::Fitter::labelStyleSheet(), QStringLiteral("logEventText")) + QLatin1Char('\n') +
+      forLabelsNamed(event_fit::Fitter::labelStyleSheet(), QStringLiteral("logEventText")) +
+      QLatin1Char('\n') +
       forLabelsNamed(getStyleSheet(QStringLiteral("log_widget_time")), QStringLiteral("logTimeText")));
   table_->verticalScrollBar()->setStyleSheet(getStyleSheet(QStringLiteral("component.scrollbar")));
   table_->setAccessibleName(windowTitle());
+  // The columns' names for screen readers (the header itself is hidden).
+  table_->setHorizontalHeaderLabels(
+      {string_display::text(Str::desc_time), string_display::text(Str::desc_event)});
   copyable_text::enableRows(table_);
 
   close_ = new VellButton(string_display::text(Str::btn_close), VellButton::Secondary, this);
@@ -127,7 +138,8 @@ LogWidget::LogWidget(QWidget* parent) : QWidget(parent), fitter_(event_fit::Fitt
   bottom->addWidget(close_);
 
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(DPIinfo::scaled(24), DPIinfo::scaled(12), DPIinfo::scaled(24), DPIinfo::scaled(14));
+  layout->setContentsMargins(DPIinfo::scaled(24), DPIinfo::scaled(12), DPIinfo::scaled(24),
+                             DPIinfo::scaled(14));
   layout->setSpacing(0);
   layout->addWidget(header_);
   layout->addWidget(divider);
@@ -208,6 +220,8 @@ void LogWidget::fillRow(int row, const LogEntry& entry) {
   auto* item = new QTableWidgetItem;
   item->setToolTip(plain);
   item->setData(copyable_text::kPlainRole, plain);
+  // What a screen reader reads of the cell (the label on it is not reached).
+  item->setData(Qt::AccessibleTextRole, plain);
   item->setData(Qt::UserRole, QVariant::fromValue<qulonglong>(entry.id));
   table_->setItem(row, 1, item);
   table_->setCellWidget(row, 1, label);
@@ -220,5 +234,6 @@ void LogWidget::fillRow(int row, const LogEntry& entry) {
   time->setToolTip(when);
   table_->setItem(row, 0, new QTableWidgetItem);
   table_->item(row, 0)->setData(copyable_text::kPlainRole, when);
+  table_->item(row, 0)->setData(Qt::AccessibleTextRole, when);
   table_->setCellWidget(row, 0, time);
 }

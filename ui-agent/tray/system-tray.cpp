@@ -13,6 +13,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "accessible-text.h"
 #include "core/global-connecter.h"
 #include "core/notification-text.h"
 #include "dpi-info.h"
@@ -21,6 +22,7 @@
 #include "logger.h"
 #include "string-display.h"
 #include "style-manager.h"
+#include "tray/popup-surface.h"
 #include "tray/quota-info-widget.h"
 #include "tray/status-notifier-item.h"
 #include "tray/tray-anchor.h"
@@ -34,6 +36,7 @@
 TrayMenuContainer::TrayMenuContainer(QWidget* content, QWidget* parent) : QWidget(parent), content_(content) {
   setObjectName(QStringLiteral("TrayMenuContainer"));
   setAccessibleName(string_display::text(Str::app_name));
+  accessible_text::setWindowRole(this, accessible_text::WindowRole::Frame);
   setWindowTitle(string_display::text(Str::app_name));
   setAttribute(Qt::WA_TranslucentBackground);
   setPopupMode(true);
@@ -41,6 +44,7 @@ TrayMenuContainer::TrayMenuContainer(QWidget* content, QWidget* parent) : QWidge
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
   if (content_) layout->addWidget(content_);
+  popup_surface::closeOnFocusLoss(this);
 }
 
 void TrayMenuContainer::setPopupMode(bool popup) {
@@ -77,20 +81,21 @@ void TrayMenuContainer::placeAt(QPoint anchor) {
 
 void TrayMenuContainer::showAt(QPoint anchor) {
   if (isVisible() && !windowMode_) return;
+  // Where windows cannot place themselves (Wayland): popup-surface.h.
+  if (popup_surface::kind() == popup_surface::Kind::Framed) return showAsWindow();
   if (windowMode_) {
     hide();
     setPopupMode(true);
   }
   side_ = tray_placement::NotPlaced;
-  placeAt(anchor);
   adjustSize();
+  if (!popup_surface::placeOnLayer(this, anchor)) placeAt(anchor);
   show();
 }
 
 void TrayMenuContainer::showAsWindow() {
   if (windowMode_ && isVisible()) {
-    raise();
-    activateWindow();
+    window_placement::activate(this);
     return;
   }
   if (!windowMode_) {
@@ -100,10 +105,11 @@ void TrayMenuContainer::showAsWindow() {
   adjustSize();
   const QRect area = availableGeometry();
   const QSize size = sizeHint();
+  // Fixed, so that a tiling window manager floats it instead of tiling it.
+  setFixedSize(size);
   move(area.center() - QPoint(size.width() / 2, size.height() / 2));
   showNormal();
-  raise();
-  activateWindow();
+  window_placement::activate(this);
 }
 
 void TrayMenuContainer::paintEvent(QPaintEvent*) {
@@ -396,8 +402,7 @@ void SystemTray::showMenuAt(QPoint p) {
     return;
   }
   container()->showAt(p);
-  container_->raise();
-  container_->activateWindow();
+  window_placement::activate(container_);
 }
 
 bool SystemTray::trayAvailable() const {
@@ -423,8 +428,7 @@ void SystemTray::click() {
       return;
     }
     container()->showAt(clickAnchor());
-    container_->raise();
-    container_->activateWindow();
+    window_placement::activate(container_);
   }
 }
 

@@ -24,6 +24,7 @@
 #include "tray-progress-widget.h"
 #include "tray-status-widget.h"
 #include "vell-button.h"
+#include "window-placement.h"
 
 namespace {
 constexpr auto kBandwidthAction = "get_bandwidth_control";
@@ -244,8 +245,7 @@ void TrayMenu::setMenuEntriesVisible(bool is_vell_account, bool is_auth_fork, in
 void TrayMenu::slotSeeAllClicked() {
   log_->fillEntries(entries_);
   log_->show();
-  log_->raise();
-  log_->activateWindow();
+  window_placement::activate(log_);
 }
 
 void TrayMenu::slotShowSettingsWindow() {
@@ -270,8 +270,7 @@ void TrayMenu::slotQueryServiceDone(const QObject* /*sender*/, const Json::Value
     settings_->loadClientConfig(SettingsWidget::defaultClientConfig());
   }
   settings_->show();
-  settings_->raise();
-  settings_->activateWindow();
+  window_placement::activate(settings_);
 }
 
 void TrayMenu::keyPressEvent(QKeyEvent* event) {

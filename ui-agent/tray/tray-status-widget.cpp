@@ -128,8 +128,8 @@ void TrayStatusWidget::updateStatus(const Json::Value& content) {
     event_->clear();
     event_->setToolTip(QString());
   }
-  if (view.last_backup) schedule_->lastBackupLabel()->setText(*view.last_backup);
-  if (view.next_backup) schedule_->nextBackupLabel()->setText(*view.next_backup);
+  if (view.last_backup) schedule_->setLastBackupText(*view.last_backup);
+  if (view.next_backup) schedule_->setNextBackupText(*view.next_backup);
   age_->show();
   latest_->refresh(clock_());
   emit sigTrayStatusChanged(view.result.tray);

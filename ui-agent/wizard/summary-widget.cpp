@@ -6,6 +6,7 @@
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
+#include "accessible-text.h"
 #include "dpi-info.h"
 #include "image-manager.h"
 #include "json-access.h"
@@ -44,8 +45,8 @@ QFrame* separator(QWidget* parent) {
   return line;
 }
 
-// A row: dot, label, value, stretch; the label names the value for screen
-// readers.
+// A row: dot, label, value, stretch; the value tells its caption to screen
+// readers (fillRows() gives it its text).
 QHBoxLayout* row(QLabel* label, QWidget* value, QVBoxLayout* into, QWidget* parent) {
   auto* h = new QHBoxLayout;
   h->setContentsMargins(0, 0, 0, 0);
@@ -55,7 +56,7 @@ QHBoxLayout* row(QLabel* label, QWidget* value, QVBoxLayout* into, QWidget* pare
   h->addWidget(value, 0, Qt::AlignVCenter);
   h->addStretch(1);
   label->setBuddy(value);
-  value->setAccessibleName(label->text().trimmed());
+  accessible_text::describeValue(value, label->text(), QString());
   into->addLayout(h);
   return h;
 }
@@ -100,8 +101,11 @@ SummaryWidget::SummaryWidget(QWidget* parent) : QFrame(parent) {
   QLabel* siteLabel = rowLabel(Str::desc_data_center, this);
   row(siteLabel, site, v, this);
   chooser_->setAccessibleName(siteLabel->text().trimmed());
+  // On Linux Qt gives a combo box its chosen item as name: the caption then
+  // comes as description, as with the labels.
+  chooser_->setAccessibleDescription(accessible_text::forValue(siteLabel->text(), QString()).description);
   chooser_->view()->setAccessibleName(siteLabel->text().trimmed());
-  singleSite_->setAccessibleName(siteLabel->text().trimmed());
+  accessible_text::describeValue(singleSite_, siteLabel->text(), QString());
   siteLabel->setBuddy(chooser_);
   v->addWidget(separator(this));
 
@@ -151,6 +155,7 @@ void SummaryWidget::setData(const Json::Value& response) {
     chooser_->setCurrentIndex(0);
   }
   singleSite_->setText(chooser_->itemText(0));
+  accessible_text::describeValue(singleSite_, text(Str::desc_data_center), singleSite_->text());
   singleSite_->setVisible(count == 1);
   chooser_->setVisible(count != 1);
   const Json::Value& first = summary_text::site(data_, 0);
@@ -174,5 +179,8 @@ void SummaryWidget::fillRows(const Json::Value& site) {
   if (const auto schedule = summary_text::schedule_text(policy)) schedule_->setText(*schedule);
   const summary_text::Scope scope = summary_text::scope_text(policy);
   scope_->setText(summary_text::line_height_div(scope.text.toHtmlEscaped(), 24, false));
+  // Screen readers hear the whole name (elided on screen); the other values'
+  // names are their texts (row()).
+  accessible_text::describeValue(policy_, text(Str::desc_backup_policy), name);
   note_->setVisible(scope.shortened);
 }

@@ -8,6 +8,7 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include "accessible-text.h"
 #include "core/global-connecter.h"
 #include "core/service-error-text.h"
 #include "core/status-store.h"
@@ -68,6 +69,7 @@ Wizard::Wizard(QWidget* parent) : QWidget(parent) {
   // The wizard owns its size: 900 x 540.
   setFixedSize(DPIinfo::scaled(900), DPIinfo::scaled(540));
   setAccessibleName(text(Str::app_name));
+  accessible_text::setWindowRole(this, accessible_text::WindowRole::Frame);
 }
 
 void Wizard::bringToFront() {
@@ -75,10 +77,10 @@ void Wizard::bringToFront() {
   setWindowFlags(windowFlags() | forward);
   show();
   setWindowFlags(windowFlags() & ~forward);
-  setWindowState((windowState() & ~Qt::WindowMinimized) | Qt::WindowActive);
+  // (Not Qt::WindowActive here: activate() asks for that where it may be asked.)
+  setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
-  activateWindow();
-  raise();
+  window_placement::activate(this);
 }
 
 void Wizard::showWelcomePage() {

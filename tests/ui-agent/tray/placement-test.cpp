@@ -1,10 +1,11 @@
-// Where the pop-up goes for every taskbar position, and which presses count
-// as on it.
+// Where the pop-up goes for every taskbar position (by coordinates, and as
+// a Wayland layer surface), and which presses count as on it.
 #include <gtest/gtest.h>
 
 #include <ostream>
 #include <string>
 
+#include "tray/layer-placement.h"
 #include "tray/tray-placement.h"
 
 namespace {
@@ -96,5 +97,101 @@ INSTANTIATE_TEST_SUITE_P(Rows, OutsidePress,
                                            PressRow{"OneLeft", {99, 300}, false},
                                            PressRow{"OneAbove", {300, 199}, false}),
                          [](const auto& row) { return std::string(row.param.name); });
+
+// ---- Wayland layer surfaces: anchored edges and margins -----------------
+
+struct LayerRow {
+  const char* name;
+  QRect screen;
+  QPoint anchor;
+  Qt::Edges anchors;
+  QMargins margins;  // left, top, right, bottom
+  QPoint topLeft;
+};
+void PrintTo(const LayerRow& r, std::ostream* os) {
+  *os << r.name;
+}
+
+class LayerPlacement : public ::testing::TestWithParam<LayerRow> {};
+
+TEST_P(LayerPlacement, AnchoredToTheNearestEdge) {
+  const LayerRow& r = GetParam();
+  const layer_placement::Placement p = layer_placement::anchoredAt(r.screen, kPopup, r.anchor);
+  EXPECT_EQ(p.anchors, r.anchors);
+  EXPECT_EQ(p.margins, r.margins);
+  EXPECT_EQ(p.topLeft, r.topLeft);
+}
+
+const QRect kScreen(0, 0, 1280, 800), kSecond(1280, 0, 1920, 1080);
+constexpr Qt::Edges kBR = Qt::BottomEdge | Qt::RightEdge, kBL = Qt::BottomEdge | Qt::LeftEdge,
+                    kTR = Qt::TopEdge | Qt::RightEdge, kTL = Qt::TopEdge | Qt::LeftEdge;
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, LayerPlacement,
+    ::testing::Values(
+        // A bottom panel: one pixel above it, centred on the icon, from the
+        // nearer side.
+        LayerRow{"BottomRightIcon", kScreen, {1000, 790}, kBR, {0, 0, 80, 1}, {800, 567}},
+        LayerRow{"BottomLeftIcon", kScreen, {300, 790}, kBL, {100, 0, 0, 1}, {100, 567}},
+        LayerRow{"BottomFarRightKeptInside", kScreen, {1279, 799}, kBR, {0, 0, 1, 1}, {879, 567}},
+        LayerRow{"BottomFarLeftKeptInside", kScreen, {5, 795}, kBL, {1, 0, 0, 1}, {1, 567}},
+        // A top bar (sway's waybar by default).
+        LayerRow{"TopRightIcon", kScreen, {1200, 10}, kTR, {0, 1, 1, 0}, {879, 1}},
+        // The right half starts at 640.
+        LayerRow{"TopCentreGoesRight", kScreen, {640, 10}, kTR, {0, 1, 440, 0}, {440, 1}},
+        LayerRow{"TopOneLeftOfCentre", kScreen, {639, 10}, kTL, {439, 1, 0, 0}, {439, 1}},
+        // Side panels: beside them, centred on the icon's height.
+        LayerRow{"RightPanelLow", kScreen, {1270, 700}, kBR, {0, 0, 1, 1}, {879, 567}},
+        LayerRow{"RightPanelMiddle", kScreen, {1270, 450}, kBR, {0, 0, 1, 234}, {879, 334}},
+        LayerRow{"LeftPanelHigh", kScreen, {8, 100}, kTL, {1, 1, 0, 0}, {1, 1}},
+        LayerRow{"LeftPanelMiddle", kScreen, {8, 300}, kTL, {1, 184, 0, 0}, {1, 184}},
+        // Ties: a corner goes to the bottom or top edge.
+        LayerRow{"BottomRightCornerTie", kScreen, {1279, 799}, kBR, {0, 0, 1, 1}, {879, 567}},
+        LayerRow{"TopLeftCornerTie", kScreen, {0, 0}, kTL, {1, 1, 0, 0}, {1, 1}},
+        // A point outside the screen (an unknown place) counts as its
+        // nearest point inside.
+        LayerRow{"FarBelowAndRight", kScreen, {5000, 5000}, kBR, {0, 0, 1, 1}, {879, 567}},
+        LayerRow{"NegativeCoordinates", kScreen, {-40, 300}, kTL, {1, 184, 0, 0}, {1, 184}},
+        // A second screen: margins from its own edges.
+        LayerRow{"SecondScreenBottom", kSecond, {2500, 1070}, kBR, {0, 0, 500, 1}, {2300, 847}},
+        LayerRow{"SecondScreenLeftPanel", kSecond, {1290, 500}, kTL, {1, 384, 0, 0}, {1281, 384}},
+        // A screen smaller than the pop-up: its left edge one pixel in, the
+        // far margin negative.
+        LayerRow{"TinyScreen", QRect(0, 0, 300, 200), {150, 190}, kBR, {0, 0, -101, 1}, {1, -33}}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+struct NestedRow {
+  const char* name;
+  Qt::Edges anchors;
+  QMargins parentMargins;
+  QPoint offset;
+  QMargins margins;
+};
+void PrintTo(const NestedRow& r, std::ostream* os) {
+  *os << r.name;
+}
+
+class NestedLayer : public ::testing::TestWithParam<NestedRow> {};
+
+// The user drop-down (160 x 100) opened inside the 400 x 232 pop-up stays
+// where it is drawn relative to the pop-up, whatever edges the pop-up hangs
+// from.
+TEST_P(NestedLayer, KeepsItsPlaceBesideThePopup) {
+  const NestedRow& r = GetParam();
+  const layer_placement::Placement parent{r.anchors, r.parentMargins, QPoint(500, 300)};
+  const auto p = layer_placement::nestedIn(parent, kPopup, r.offset, QSize(160, 100));
+  EXPECT_EQ(p.anchors, r.anchors);
+  EXPECT_EQ(p.margins, r.margins);
+  EXPECT_EQ(p.topLeft, QPoint(500, 300) + r.offset);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, NestedLayer,
+    ::testing::Values(NestedRow{"FromBottomRight", kBR, {0, 0, 10, 1}, {230, 40}, {0, 0, 20, 93}},
+                      NestedRow{"FromTopLeft", kTL, {100, 1, 0, 0}, {230, 40}, {330, 41, 0, 0}},
+                      NestedRow{"FromTopRight", kTR, {0, 1, 1, 0}, {230, 40}, {0, 41, 11, 0}},
+                      // Past the pop-up's far edges: the margin stops at 0.
+                      NestedRow{"PastTheBottomRightEdge", kBR, {0, 0, 0, 0}, {300, 200}, {0, 0, 0, 0}}),
+    [](const auto& row) { return std::string(row.param.name); });
 
 }  // namespace
