@@ -9,8 +9,11 @@
 #include <cstdlib>
 #include <regex>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "log-test-util.h"
+#include "logger-platform.h"
 #include "logger.h"
 
 using logtest::kStamp;
@@ -79,6 +82,17 @@ TEST_F(LoggerTest, LinesHaveTheFixedForm) {
       lines[2], m, std::regex("(" + kStamp + R"():(\d{1,3}) svc\| \[DEBUG\]\[.*\{run-7\} fine detail)")))
       << lines[2];
   EXPECT_LT(std::stoi(m[2].str()), 1000);
+  // The offset from UTC, east positive, whole and part hours.
+  for (const auto& [minutes, text] : std::vector<std::pair<int, const char*>>{{0, "+0000"},
+                                                                              {60, "+0100"},
+                                                                              {-300, "-0500"},
+                                                                              {330, "+0530"},
+                                                                              {-570, "-0930"},
+                                                                              {345, "+0545"},
+                                                                              {840, "+1400"},
+                                                                              {-720, "-1200"},
+                                                                              {-1, "-0001"}})
+    EXPECT_EQ(text, vlog::utc_offset_text(minutes)) << minutes;
   // Windows paths in __FILE__ use backslashes.
   EXPECT_STREQ("win-ipc.cpp", vlog::base_name("C:\\src\\ipc/win-ipc.cpp"));
   EXPECT_STREQ("", vlog::base_name("folder/"));
