@@ -164,8 +164,7 @@ void ClientManager::sendAction(const char* action) {
 
 void ClientManager::showMenuAtIcon() {
   if (!tray) return;
-  const QRect icon = tray->geometry();
-  tray->showMenuAt(QPoint(icon.x(), icon.y()));
+  tray->showMenuAt(tray->iconAnchor());
 }
 
 // ---- requests ----------------------------------------------------------------

@@ -238,12 +238,8 @@ void SystemTray::buildRightMenu() {
     a->setObjectName(QLatin1String(name));
     return a;
   };
-  connect(add(Str::notification_btn, "OpenAction"), &QAction::triggered, this, [this]() {
-    // Without the icon's place (some panels do not tell it), where the
-    // person just clicked the icon.
-    const QRect icon = geometry();
-    showMenuAt(icon.isValid() ? icon.center() : QCursor::pos());
-  });
+  connect(add(Str::notification_btn, "OpenAction"), &QAction::triggered, this,
+          [this]() { showMenuAt(iconAnchor(QCursor::pos())); });
   backupNow_ = add(Str::tray_menu_backup_now, "BackupNowAction");
   connect(backupNow_, &QAction::triggered, this, &SystemTray::backupNow);
   backupReason_ = add(Str::tray_menu_backup_running, "BackupNowReason");
@@ -287,6 +283,12 @@ void SystemTray::showMenuAt(QPoint p) {
   container_->activateWindow();
 }
 
+QPoint SystemTray::iconAnchor(std::optional<QPoint> press) const {
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  const QRect whole = screen ? screen->geometry() : QRect(0, 0, 1024, 768);
+  return tray_placement::anchor(geometry(), press, whole, screen ? screen->availableGeometry() : whole);
+}
+
 bool SystemTray::trayAvailable() const {
   return trayAvailable_ ? trayAvailable_() : QSystemTrayIcon::isSystemTrayAvailable();
 }
@@ -299,7 +301,7 @@ void SystemTray::click() {
       container_->showAsWindow();
       return;
     }
-    container_->showAt(geometry().center());
+    container_->showAt(iconAnchor(QCursor::pos()));
     container_->raise();
     container_->activateWindow();
   }

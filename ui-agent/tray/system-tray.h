@@ -21,6 +21,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 
 #include "core/log-entry.h"
 #include "core/service-status.h"
@@ -94,6 +95,9 @@ class SystemTray : public QSystemTrayIcon {
   // In mode 1: places and shows the pop-up at `p`, raises and activates it;
   // as a window when there is no notification area.
   void showMenuAt(QPoint p);
+  // Where the pop-up goes for the icon: its centre, else `press` (where the
+  // person pressed it), else the work area's taskbar corner (tray-placement.h).
+  QPoint iconAnchor(std::optional<QPoint> press = std::nullopt) const;
   // One balloon per notification, each replacing the one before.
   void showNotifications(const Json::Value& notifications);
 

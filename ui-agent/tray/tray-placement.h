@@ -6,6 +6,8 @@
 #include <QRect>
 #include <QSize>
 
+#include <optional>
+
 namespace tray_placement {
 
 // Which rule placed the pop-up last. A side once taken is kept while the
@@ -34,5 +36,16 @@ constexpr bool pressInside(const QRect& geometry, const QPoint& p) {
   return geometry.x() <= p.x() && p.x() <= geometry.x() + geometry.width() && geometry.y() <= p.y() &&
          p.y() <= geometry.y() + geometry.height();
 }
+
+// The point the pop-up is placed at (`place`'s anchor), from what the system
+// tells: the centre of the icon's place `icon` when that is a real place on
+// the screen; else `press`, where the person just pressed the icon; else the
+// corner of the work area `available` on the side where a taskbar cuts it
+// from `screen` (bottom, top, right, left, in that order), in the taskbar's
+// middle, where the notification area sits; the bottom right when nothing
+// cuts it. Some shells (Wine's tray in
+// an XEmbed panel) tell no place for the icon at all.
+QPoint anchor(const QRect& icon, const std::optional<QPoint>& press, const QRect& screen,
+              const QRect& available);
 
 }  // namespace tray_placement

@@ -2,6 +2,7 @@
 // as on it.
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <ostream>
 #include <string>
 
@@ -69,6 +70,42 @@ TEST(PopupPlacement, ResizeKeepsTheSideAndTheBottomEdge) {
   EXPECT_EQ(grown.side, AboveAnchor);
   EXPECT_EQ(grown.pos.y() + 300, first.pos.y() + kPopup.height());
 }
+
+struct AnchorRow {
+  const char* name;
+  QRect icon;
+  std::optional<QPoint> press;
+  QRect available;
+  QPoint anchor;
+};
+void PrintTo(const AnchorRow& r, std::ostream* os) {
+  *os << r.name;
+}
+
+class PopupAnchor : public ::testing::TestWithParam<AnchorRow> {};
+
+TEST_P(PopupAnchor, IconThenPressThenTheTaskbarCorner) {
+  const AnchorRow& r = GetParam();
+  EXPECT_EQ(tray_placement::anchor(r.icon, r.press, kNoBar, r.available), r.anchor);
+}
+
+// The icon at 1213,774 (22 x 22) in a bottom panel; the person pressed 1220,780.
+const QRect kIcon(1213, 774, 22, 22);
+INSTANTIATE_TEST_SUITE_P(
+    Rows, PopupAnchor,
+    ::testing::Values(
+        AnchorRow{"IconCentre", kIcon, QPoint(1220, 780), kBottomBar, {1223, 784}},
+        // No place told (an invalid or empty rectangle, or one off the screen): the press.
+        AnchorRow{"NoPlaceThePress", QRect(), QPoint(1220, 780), kBottomBar, {1220, 780}},
+        AnchorRow{"EmptyPlaceThePress", QRect(0, 0, 0, 0), QPoint(1220, 780), kBottomBar, {1220, 780}},
+        AnchorRow{"OffScreenThePress", QRect(-40, -40, 22, 22), QPoint(1220, 780), kBottomBar, {1220, 780}},
+        // No place and no press ("open" from a second launch): the taskbar's corner.
+        AnchorRow{"BottomBar", QRect(), std::nullopt, kBottomBar, {1279, 779}},
+        AnchorRow{"TopBar", QRect(), std::nullopt, kTopBar, {1279, 20}},
+        AnchorRow{"RightBar", QRect(), std::nullopt, kRightBar, {1249, 799}},
+        AnchorRow{"LeftBar", QRect(), std::nullopt, kLeftBar, {30, 799}},
+        AnchorRow{"NoBarBottomRight", QRect(), std::nullopt, kNoBar, {1279, 799}}),
+    [](const auto& row) { return std::string(row.param.name); });
 
 struct PressRow {
   const char* name;
