@@ -46,4 +46,8 @@ void removePositionSource(QApplication& app) {
   filter = nullptr;
 }
 
+int endProcess(int code) {
+  return code;
+}
+
 }  // namespace agent_app::platform
