@@ -293,7 +293,7 @@ bool SystemTray::trayAvailable() const {
   return trayAvailable_ ? trayAvailable_() : QSystemTrayIcon::isSystemTrayAvailable();
 }
 
-void SystemTray::click() {
+void SystemTray::click(std::optional<QPoint> press) {
   if (mode_ == 2) {
     emit sigTrayClickedWithoutConnection();
   } else if (mode_ == 1) {
@@ -301,14 +301,15 @@ void SystemTray::click() {
       container_->showAsWindow();
       return;
     }
-    container_->showAt(iconAnchor(QCursor::pos()));
+    container_->showAt(iconAnchor(press));
     container_->raise();
     container_->activateWindow();
   }
 }
 
 void SystemTray::slotIconActivated(QSystemTrayIcon::ActivationReason reason) {
-  if (reason == QSystemTrayIcon::Trigger) click();
+  // The pointer is on the icon it just pressed.
+  if (reason == QSystemTrayIcon::Trigger) click(QCursor::pos());
 }
 
 void SystemTray::slotApplicationStateChanged(Qt::ApplicationState state) {

@@ -147,7 +147,8 @@ class SystemTray : public QSystemTrayIcon {
   void applyView();
   void buildRightMenu();
   void backupNow();
-  void click();
+  // `press`: where the icon was pressed, when it was.
+  void click(std::optional<QPoint> press = std::nullopt);
   // What the application turning active means, once the window system has
   // named the window that took the focus.
   void actOnActivation();
