@@ -219,7 +219,9 @@ TEST_F(AgentUnderWine, FirstRunByKeyboardBackupPopupSecondLaunchAndExit) {
       20000))
       << "no exit notice";
   shot("exit-notice");
-  keys({"Return"});
+  ASSERT_TRUE(activate(notice));
+  pressUntil(
+      "Return", [&] { return agent_->state() == QProcess::NotRunning; }, 15000);
   int code = -1;
   ASSERT_TRUE(waitForAgentExit(30000, &code)) << "the agent stays after Exit";
   EXPECT_EQ(code, 0);
