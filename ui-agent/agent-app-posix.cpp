@@ -46,8 +46,4 @@ void removePositionSource(QApplication& app) {
   filter = nullptr;
 }
 
-int endProcess(int code) {
-  return code;
-}
-
 }  // namespace agent_app::platform

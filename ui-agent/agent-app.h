@@ -71,9 +71,6 @@ void fontsNeeded();
 // PositionClickFilter on the application elsewhere.
 void installPositionSource(QApplication& app);
 void removePositionSource(QApplication& app);
-// After run() has returned in the program itself: ends the process with
-// `code` (Windows, see agent-app-windows.cpp), or returns it for main to return.
-int endProcess(int code);
 }  // namespace platform
 
 }  // namespace agent_app

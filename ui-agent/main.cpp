@@ -1,5 +1,5 @@
 #include "agent-app.h"
 
 int main(int argc, char** argv) {
-  return agent_app::platform::endProcess(agent_app::run(argc, argv));
+  return agent_app::run(argc, argv);
 }
