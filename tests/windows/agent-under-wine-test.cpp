@@ -120,10 +120,9 @@ class AgentUnderWine : public AgentDesktop {
   }
 
   // How many windows of the agent are shown, named or not.
-  int shownWindows() const {
+  QStringList shownWindows() const {
     return run("xdotool", {"search", "--onlyvisible", "--pid", QString::number(agent_->processId())})
-        .split('\n', Qt::SkipEmptyParts)
-        .size();
+        .split('\n', Qt::SkipEmptyParts);
   }
 
   // Escape into the pop-up, given the keyboard first (shown on a message
@@ -200,24 +199,35 @@ TEST_F(AgentUnderWine, FirstRunByKeyboardBackupPopupSecondLaunchAndExit) {
   shot("second-launch-open");
   ASSERT_TRUE(closePopup());
   EXPECT_EQ(launchAgain({"open_log"}), 0);
-  EXPECT_FALSE(waitForAgentWindow(20000, "^Activity$").isEmpty()) << "open_log shows no activity list";
+  const QString activity = waitForAgentWindow(20000, "^Activity$");
+  ASSERT_FALSE(activity.isEmpty()) << "open_log shows no activity list";
   shot("second-launch-open-log");
+  ASSERT_TRUE(activate(activity));
+  ASSERT_TRUE(pressUntil(
+      "Escape", [&] { return agentWindows("^Activity$").isEmpty(); }, 15000));
 
   // "Exit" from the icon's menu, the notice, and the agent ends with 0.
   run("xdotool", {"mousemove", "--sync", "300", "300"});
-  const int before = shownWindows();
-  clickTrayIcon(3);
-  ASSERT_TRUE(waitUntil([&] { return shownWindows() > before; }, 15000)) << "no menu on the icon";
+  const QStringList before = shownWindows();
+  QString menu;
+  // (Clicked again, as a person does, when the menu went at once.)
+  for (int i = 0; i < 4 && menu.isEmpty(); ++i) {
+    clickTrayIcon(3);
+    waitUntil(
+        [&] {
+          for (const QString& w : shownWindows())
+            if (!before.contains(w)) menu = w;
+          return !menu.isEmpty();
+        },
+        5000);
+  }
+  ASSERT_FALSE(menu.isEmpty()) << "no menu on the icon";
   shot("right-menu");
+  // The menu has the keyboard once given it (no window of the agent's is active).
+  run("xdotool", {"windowfocus", "--sync", menu});
   keys({"Up", "Return"});
-  QString notice;
-  ASSERT_TRUE(waitUntil(
-      [&] {
-        notice = activeWindow();
-        return agentWindows().contains(notice);
-      },
-      20000))
-      << "no exit notice";
+  const QString notice = waitForAgentWindow(20000);
+  ASSERT_FALSE(notice.isEmpty()) << "no exit notice";
   shot("exit-notice");
   ASSERT_TRUE(activate(notice));
   pressUntil(
