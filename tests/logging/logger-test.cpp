@@ -5,16 +5,19 @@
 #include <ostream>
 
 #include <algorithm>
+#include <atomic>
 #include <cstdio>
 #include <cstdlib>
 #include <regex>
 #include <string>
+#include <thread>
 #include <utility>
 #include <vector>
 
 #include "log-test-util.h"
 #include "logger-platform.h"
 #include "logger.h"
+#include "per-thread.h"
 
 using logtest::kStamp;
 using logtest::split_lines;
@@ -223,3 +226,22 @@ TEST_F(LoggerTest, LongLinesAreCutAt4KBWithTheCountOfBytesCut) {
 }
 
 }  // namespace
+
+namespace {
+std::atomic<int> intact_probes{0};
+struct Probe {
+  unsigned magic = 0x5EED;
+  std::vector<int> data = std::vector<int>(1024, 7);
+  ~Probe() {
+    if (magic == 0x5EED && data.size() == 1024 && data[1023] == 7) ++intact_probes;
+  }
+};
+}  // namespace
+
+// Each thread's object is made on its first use and deleted, whole, when the
+// thread ends.
+TEST(PerThread, EachThreadsObjectIsDeletedWholeAtTheThreadsEnd) {
+  static vlog::PerThread<Probe> probes(+[]() { return new Probe; });
+  for (int i = 0; i < 3; ++i) std::thread([] { probes.with([](Probe& p) { return p.data[0] = 1; }); }).join();
+  EXPECT_EQ(intact_probes.load(), 3);
+}
