@@ -62,6 +62,10 @@ struct CreateResult {
 struct ServerEnds {
   Native listener = kInvalid;
   Native client = kInvalid;
+  // Windows: the pipe's name and how many instances it may have, for the
+  // instance that takes over listening when a client is detached.
+  std::string name;
+  int instances = 1;
 };
 
 // The name in the form the system takes (see platform_pipe_name).
@@ -72,8 +76,9 @@ std::string native_name(const std::string& name);
 // actually spent comes back in waited_ms.
 Result connect_client(const std::string& name, int wait_ms, Native& out);
 
-// `backlog`: how many clients may wait while one is served (POSIX; Windows
-// has one client per pipe instance).
+// `backlog`: how many clients may wait while one is served (POSIX); on
+// Windows, where one pipe instance is one client, a backlog above 0 allows
+// that many instances besides the first, for detach_client.
 CreateResult create_server(const std::string& name, ServerEnds& ends, int backlog);
 
 // One accept attempt, waiting for a client for up to `wait_ms` (Windows
@@ -81,8 +86,8 @@ CreateResult create_server(const std::string& name, ServerEnds& ends, int backlo
 Result accept_client(ServerEnds& ends, int wait_ms);
 
 // Moves the connected client out of `ends` into `out`, so that the next
-// accept waits for another one; false where one pipe instance is one client
-// (Windows).
+// accept waits for another one (on Windows a new instance of the pipe
+// listens; false when the pipe allows one instance only, backlog 0).
 bool detach_client(ServerEnds& ends, Native& out);
 
 // Drops the connected client. kOk or kFailed.

@@ -1,5 +1,6 @@
 // System calls of the pipe transport on Windows: one non-blocking named-pipe
-// instance per server, open to Everyone on this machine and closed to remote
+// instance per server (and one more per client taken off it when the server
+// has a backlog), open to Everyone on this machine and closed to remote
 // clients, polled with fixed sleeps (100 ms at connect and accept, 10 ms at
 // read and write).
 //
@@ -13,6 +14,7 @@
 // after windows.h
 #include <aclapi.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstring>
 #include <vector>
@@ -68,10 +70,13 @@ Result connect_client(const std::string& name, int, Native& out) {
   return r;
 }
 
-CreateResult create_server(const std::string& name, ServerEnds& ends, int) {
-  CreateResult r;
-  close_server(ends);
+namespace {
 
+// One instance of the pipe `name`, open to Everyone on this machine; the
+// first one also claims the name (FILE_FLAG_FIRST_PIPE_INSTANCE).
+CreateResult create_instance(const std::string& name, bool first, int instances, HANDLE& out) {
+  CreateResult r;
+  out = INVALID_HANDLE_VALUE;
   PSID sid = ::LocalAlloc(LMEM_FIXED, kSidSize);
   if (sid == nullptr) {
     r.step = CreateStep::kAllocSid;
@@ -126,9 +131,10 @@ CreateResult create_server(const std::string& name, ServerEnds& ends, int) {
   attributes.bInheritHandle = FALSE;
 
   const HANDLE pipe =
-      ::CreateNamedPipeA(name.c_str(), PIPE_ACCESS_DUPLEX | FILE_FLAG_FIRST_PIPE_INSTANCE,
-                         PIPE_TYPE_BYTE | PIPE_READMODE_BYTE | PIPE_NOWAIT | PIPE_REJECT_REMOTE_CLIENTS, 1,
-                         static_cast<DWORD>(kBufferSize), static_cast<DWORD>(kBufferSize), 1000, &attributes);
+      ::CreateNamedPipeA(name.c_str(), PIPE_ACCESS_DUPLEX | (first ? FILE_FLAG_FIRST_PIPE_INSTANCE : 0),
+                         PIPE_TYPE_BYTE | PIPE_READMODE_BYTE | PIPE_NOWAIT | PIPE_REJECT_REMOTE_CLIENTS,
+                         static_cast<DWORD>(instances), static_cast<DWORD>(kBufferSize),
+                         static_cast<DWORD>(kBufferSize), 1000, &attributes);
   const DWORD pipe_error = ::GetLastError();
   ::LocalFree(sid);
   ::LocalFree(acl);
@@ -137,9 +143,24 @@ CreateResult create_server(const std::string& name, ServerEnds& ends, int) {
     r.error = pipe_error;
     return r;
   }
+  out = pipe;
+  r.step = CreateStep::kDone;
+  return r;
+}
+
+}  // namespace
+
+CreateResult create_server(const std::string& name, ServerEnds& ends, int backlog) {
+  close_server(ends);
+  // One instance per client: the listening one and `backlog` taken off it.
+  const int instances = backlog > 0 ? std::min(backlog + 1, PIPE_UNLIMITED_INSTANCES - 1) : 1;
+  HANDLE pipe = INVALID_HANDLE_VALUE;
+  const CreateResult r = create_instance(name, true, instances, pipe);
+  if (r.step != CreateStep::kDone) return r;
   ends.listener = to_native(pipe);
   ends.client = ends.listener;
-  r.step = CreateStep::kDone;
+  ends.name = name;
+  ends.instances = instances;
   return r;
 }
 
@@ -170,8 +191,15 @@ Result accept_client(ServerEnds& ends, int) {
   return r;
 }
 
-bool detach_client(ServerEnds&, Native&) {
-  return false;
+bool detach_client(ServerEnds& ends, Native& out) {
+  if (ends.instances < 2 || ends.listener == kInvalid) return false;
+  // A new instance listens first, so that the name never goes away.
+  HANDLE next = INVALID_HANDLE_VALUE;
+  if (create_instance(ends.name, false, ends.instances, next).step != CreateStep::kDone) return false;
+  out = ends.listener;
+  ends.listener = to_native(next);
+  ends.client = ends.listener;
+  return true;
 }
 
 Result disconnect_client(ServerEnds& ends) {

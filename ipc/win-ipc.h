@@ -153,11 +153,11 @@ class IpcServer {
   bool disconnect();
   // Moves the connected client into `into` (which drops any client it held),
   // so that accept() can wait for the next one while it is served; false
-  // when none is connected or the platform cannot (Windows).
+  // when none is connected or, on Windows, the backlog is 0.
   bool take_client(IpcConnection& into);
-  // How many clients may wait to be accepted (POSIX), 0 unless set before
-  // create(): one waits while another is served, the next one finds the pipe
-  // busy.
+  // How many clients may wait to be accepted (POSIX; on Windows how many
+  // may be taken off and served at once), 0 unless set before create(): one
+  // waits while another is served, the next one finds the pipe busy.
   void set_backlog(int backlog) { backlog_ = backlog; }
   int read(std::string& out, const CancelFlag* cancel = nullptr);
   int read(std::string& out, const Limits& limits, const CancelFlag* cancel = nullptr);

@@ -21,10 +21,17 @@ bool remove_file(const std::wstring& path);
 void write_text(FILE* stream, const std::string& utf8, bool is_file);
 unsigned pid();
 unsigned long tid();
-// Local time of `t` and the milliseconds of the current second.
-void local_now(std::tm& out, int& millis);
+// The local time now, the milliseconds of the current second and the local
+// time's offset from UTC in minutes (east positive).
+void local_now(std::tm& out, int& millis, int& utc_offset_minutes);
 std::string narrow(const std::wstring& w);  // to UTF-8
 // The value of an environment variable in UTF-8; false when it is not set.
 bool get_env(const char* name, std::string& value);
 
 }  // namespace vlog::platform
+
+namespace vlog {
+// An offset from UTC in minutes as the log header writes it: "+0000",
+// "-0530" (the same on every system, where strftime's %z is not).
+std::string utc_offset_text(int minutes);
+}  // namespace vlog

@@ -127,12 +127,13 @@ unsigned long tid() {
   return static_cast<unsigned long>(::syscall(SYS_gettid));
 }
 
-void local_now(std::tm& out, int& millis) {
+void local_now(std::tm& out, int& millis, int& utc_offset_minutes) {
   struct timeval tv {};
   ::gettimeofday(&tv, nullptr);
   const time_t t = tv.tv_sec;
   ::localtime_r(&t, &out);
   millis = static_cast<int>(tv.tv_usec / 1000);
+  utc_offset_minutes = static_cast<int>(out.tm_gmtoff / 60);
 }
 
 bool get_env(const char* name, std::string& value) {

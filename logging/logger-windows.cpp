@@ -35,7 +35,8 @@ std::string narrow(const std::wstring& w) {
 FILE* open_append(const std::wstring& path) {
   // Never through a symbolic link or junction put in the file's place.
   const DWORD attributes = ::GetFileAttributesW(path.c_str());
-  if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) return nullptr;
+  if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0)
+    return nullptr;
   FILE* f = ::_wfopen(path.c_str(), L"a,ccs=UTF-8");
   if (!f) return nullptr;
   auto handle = reinterpret_cast<HANDLE>(::_get_osfhandle(::_fileno(f)));
@@ -88,9 +89,24 @@ unsigned long tid() {
   return static_cast<unsigned long>(::GetCurrentThreadId());
 }
 
-void local_now(std::tm& out, int& millis) {
-  SYSTEMTIME st{};
-  ::GetLocalTime(&st);
+void local_now(std::tm& out, int& millis, int& utc_offset_minutes) {
+  // The local time made from one reading of UTC, so that their difference
+  // is the zone's offset now (the C runtime's %z gives the zone's name).
+  SYSTEMTIME utc{}, st{};
+  ::GetSystemTime(&utc);
+  FILETIME utc_ft{}, local_ft{};
+  if (!::SystemTimeToTzSpecificLocalTime(nullptr, &utc, &st) || !::SystemTimeToFileTime(&utc, &utc_ft) ||
+      !::SystemTimeToFileTime(&st, &local_ft)) {
+    ::GetLocalTime(&st);
+    utc_offset_minutes = 0;
+  } else {
+    const auto ticks = [](const FILETIME& f) {
+      return static_cast<long long>((static_cast<unsigned long long>(f.dwHighDateTime) << 32) |
+                                    f.dwLowDateTime);
+    };
+    // 100 ns ticks; both readings share their seconds, so the minutes are whole.
+    utc_offset_minutes = static_cast<int>((ticks(local_ft) - ticks(utc_ft)) / 600000000LL);
+  }
   out = std::tm{};
   out.tm_year = st.wYear - 1900;
   out.tm_mon = st.wMonth - 1;

@@ -156,11 +156,13 @@ std::string format_message(const char* format, va_list args, bool raw) {
 
 std::string time_stamp(int level) {
   std::tm tm{};
-  int millis = 0;
-  platform::local_now(tm, millis);
+  int millis = 0, offset = 0;
+  platform::local_now(tm, millis, offset);
   char buf[64];
-  const std::size_t n = std::strftime(buf, sizeof buf, "%Y/%m/%d %H:%M:%S %z ", &tm);
+  const std::size_t n = std::strftime(buf, sizeof buf, "%Y/%m/%d %H:%M:%S ", &tm);
   std::string stamp(buf, n);
+  stamp += utc_offset_text(offset);
+  stamp += ' ';
   if (level == kDebug) {
     char ms[32];
     std::snprintf(ms, sizeof ms, ":%d ", millis);
@@ -170,6 +172,13 @@ std::string time_stamp(int level) {
 }
 
 }  // namespace
+
+std::string utc_offset_text(int minutes) {
+  const int whole = minutes < 0 ? -minutes : minutes;
+  char buf[16];
+  std::snprintf(buf, sizeof buf, "%c%02d%02d", minutes < 0 ? '-' : '+', whole / 60 % 100, whole % 60);
+  return buf;
+}
 
 int init(int output, const std::wstring& path, const std::wstring& settings_path, const std::string& prefix,
          int keep, int sharers, const std::string& name) {

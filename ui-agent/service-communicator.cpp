@@ -17,6 +17,7 @@
 #include "env.h"
 #include "json-access.h"
 #include "logger.h"
+#include "per-thread.h"
 
 namespace {
 
@@ -199,25 +200,20 @@ int ServiceCommunicator::query(const Json::Value& request, Json::Value& response
 
 namespace {
 
-// One reader and one writer per thread, made on first use.
-Json::CharReader& threadReader() {
-  thread_local std::unique_ptr<Json::CharReader> reader(Json::CharReaderBuilder().newCharReader());
-  return *reader;
-}
+// One reader and one writer per thread, made on first use (not thread_local
+// objects: see per-thread.h).
+vlog::PerThread<Json::CharReader> threadReader(+[]() { return Json::CharReaderBuilder().newCharReader(); });
 
-Json::StreamWriter& threadWriter() {
-  thread_local std::unique_ptr<Json::StreamWriter> writer([] {
-    Json::StreamWriterBuilder builder;
-    builder["indentation"] = "";
-    builder["commentStyle"] = "None";
-    return builder.newStreamWriter();
-  }());
-  return *writer;
-}
+vlog::PerThread<Json::StreamWriter> threadWriter(+[]() {
+  Json::StreamWriterBuilder builder;
+  builder["indentation"] = "";
+  builder["commentStyle"] = "None";
+  return builder.newStreamWriter();
+});
 
 std::string writeCompact(const Json::Value& v) {
   std::ostringstream out;
-  threadWriter().write(v, &out);
+  threadWriter.with([&](Json::StreamWriter& writer) { return writer.write(v, &out); });
   return out.str();
 }
 
@@ -314,7 +310,9 @@ void ServiceIpcServer::handleConnection() {
     Json::Value request;
     std::string errors;
     try {
-      if (!threadReader().parse(text.data(), text.data() + text.size(), &request, &errors))
+      if (!threadReader.with([&](Json::CharReader& reader) {
+            return reader.parse(text.data(), text.data() + text.size(), &request, &errors);
+          }))
         request = Json::Value();
     } catch (const std::exception&) {  // pathological nesting
       request = Json::Value();

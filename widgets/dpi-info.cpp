@@ -1,4 +1,5 @@
 #include "dpi-info.h"
+#include "per-thread.h"
 
 #include <QGuiApplication>
 #include <QHash>
@@ -32,28 +33,34 @@ QString DPIinfo::getScaledStyleSheet(const QString& sheet) {
   static const QRegularExpression px(QStringLiteral("(?<![\\w.#-])(-?\\d+(?:\\.\\d+)?)px\\b"));
   const double scale = getDPI();
   // Widgets ask for the same few sheets again and again (every label of a
-  // kind, every page built): each is worked out once per scale.
-  thread_local QHash<QString, QString> done;
-  thread_local double doneScale = 0.0;
-  if (doneScale != scale) {
-    done.clear();
-    doneScale = scale;
-  }
-  const auto known = done.constFind(sheet);
-  if (known != done.constEnd()) return known.value();
-  QString out;
-  out.reserve(sheet.size());
-  int last = 0;
-  auto it = px.globalMatch(sheet);
-  while (it.hasNext()) {
-    const auto m = it.next();
-    out += sheet.midRef(last, m.capturedStart() - last);
-    const double value = m.captured(1).toDouble();
-    out += QString::number(static_cast<int>(std::trunc(value * scale))) + QStringLiteral("px");
-    last = m.capturedEnd();
-  }
-  out += sheet.midRef(last);
-  // Bounded: the sheets are the style sheet file's and a few literals.
-  if (done.size() < 512) done.insert(sheet, out);
-  return out;
+  // kind, every page built): each is worked out once per scale and thread
+  // (kept per thread, not in thread_local objects: see per-thread.h).
+  struct Cache {
+    QHash<QString, QString> done;
+    double scale = 0.0;
+  };
+  static vlog::PerThread<Cache> caches(+[]() { return new Cache; });
+  return caches.with([&](Cache& cache) {
+    if (cache.scale != scale) {
+      cache.done.clear();
+      cache.scale = scale;
+    }
+    const auto known = cache.done.constFind(sheet);
+    if (known != cache.done.constEnd()) return known.value();
+    QString out;
+    out.reserve(sheet.size());
+    int last = 0;
+    auto it = px.globalMatch(sheet);
+    while (it.hasNext()) {
+      const auto m = it.next();
+      out += sheet.midRef(last, m.capturedStart() - last);
+      const double value = m.captured(1).toDouble();
+      out += QString::number(static_cast<int>(std::trunc(value * scale))) + QStringLiteral("px");
+      last = m.capturedEnd();
+    }
+    out += sheet.midRef(last);
+    // Bounded: the sheets are the style sheet file's and a few literals.
+    if (cache.done.size() < 512) cache.done.insert(sheet, out);
+    return out;
+  });
 }

@@ -116,7 +116,7 @@ void AgentDesktop::SetUp() {
   why = desktop_->startWindowManager();
   ASSERT_TRUE(why.isEmpty()) << why.toStdString();
   if (withTray()) {
-    why = desktop_->startTray();
+    why = desktop_->startTray(trayConfig());
     ASSERT_TRUE(why.isEmpty()) << why.toStdString();
   }
   why = desktop_->startDunst();
@@ -196,7 +196,9 @@ bool AgentDesktop::waitUntil(const std::function<bool()>& done, int ms) {
                    "--state", simState_,    "--record",
                    record_};
   if (!resume) args << "--fresh";
-  sim_->start(build("/bin/nimbra-service-sim"), args);
+  QString program = build("/bin/nimbra-service-sim");
+  command(program, args);
+  sim_->start(program, args);
   if (!sim_->waitForStarted(10000)) return ::testing::AssertionFailure() << "the simulator does not start";
   QElapsedTimer clock;
   clock.start();
@@ -223,7 +225,10 @@ void AgentDesktop::stopSim(bool kill) {
   const QString dir = QString::fromStdString(scratch_->path());
   agent_->setStandardOutputFile(dir + "/agent.out", QIODevice::Append);
   agent_->setStandardErrorFile(dir + "/agent.err", QIODevice::Append);
-  agent_->start(agentProgram(), args);
+  QString program = agentProgram();
+  QStringList all = args;
+  command(program, all);
+  agent_->start(program, all);
   if (!agent_->waitForStarted(10000)) return ::testing::AssertionFailure() << "the agent does not start";
   return ::testing::AssertionSuccess();
 }
@@ -232,7 +237,10 @@ int AgentDesktop::launchAgain(const QStringList& args) {
   notifier_test::ChildProcess second;
   second.setProcessEnvironment(env_);
   second.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-  second.start(agentProgram(), args);
+  QString program = agentProgram();
+  QStringList all = args;
+  command(program, all);
+  second.start(program, all);
   if (!second.waitForFinished(20000)) {
     second.kill();
     second.waitForFinished(5000);
@@ -555,7 +563,8 @@ QPoint AgentDesktop::popupUserButton() {
       [&] {
         const QRect pop = windowRect(popup());
         if (!pop.isEmpty())
-          found = findColour(QColor(0x0A, 0x9C, 0xFF), QRect(pop.center().x(), pop.top(), pop.width() / 2, 50), 80);
+          found = findColour(QColor(0x0A, 0x9C, 0xFF),
+                             QRect(pop.center().x(), pop.top(), pop.width() / 2, 50), 80);
         return !found.isNull();
       },
       5000);

@@ -56,6 +56,10 @@ class AgentDesktop : public ::testing::Test {
 
   // Overridden by the no-tray tests.
   virtual bool withTray() const { return true; }
+  // How a program of the build is started (the Windows programs through
+  // Wine), and more lines of tint2's configuration.
+  virtual void command(QString& /*program*/, QStringList& /*args*/) const {}
+  virtual QString trayConfig() const { return {}; }
 
   // The simulator with service-sim/scenarios/<scenario>.json and a fresh
   // state; `resume` keeps the state of an earlier run (a restart).
@@ -91,7 +95,7 @@ class AgentDesktop : public ::testing::Test {
 
   // The tray icon's place on the screen (inside tint2's tray); empty when
   // the tray shows no icon of the agent.
-  QRect trayIcon() const;
+  virtual QRect trayIcon() const;
   TrayPicture trayPicture() const;
   bool waitForTrayPicture(TrayPicture want, int ms);
   void clickTrayIcon(int button = 1);

@@ -248,6 +248,32 @@ TEST_F(Transport, ManyClientsRacingAreServedOneAtATime) {
   EXPECT_EQ(served.get().size(), static_cast<std::size_t>(kClients));
 }
 
+// A client taken off the server is answered after the next one was
+// accepted and answered (a new pipe instance listens on Windows).
+TEST(TransportBacklog, TakenClientIsServedWhileTheNextIsAccepted) {
+  ipc_test::LogCapture log;
+  const std::string name = ipc_test::unique_pipe("taken");
+  IpcServer server;
+  server.set_backlog(2);
+  ASSERT_EQ(server.create(name), 0) << log.text();
+  auto first = std::async(std::launch::async, ask, name, "a", 10000);
+  ASSERT_TRUE(server.accept());
+  WinIpc::IpcConnection taken;
+  ASSERT_TRUE(server.take_client(taken)) << log.text();
+  auto second = std::async(std::launch::async, ask, name, "b", 10000);
+  std::string request;
+  ASSERT_TRUE(server.accept());
+  ASSERT_EQ(server.read(request), 0);
+  EXPECT_EQ(request, "b");
+  ASSERT_EQ(server.write("re:b"), 0);
+  EXPECT_EQ(second.get(), "re:b");
+  server.disconnect();
+  ASSERT_EQ(taken.read(request, WinIpc::Limits()), 0);
+  EXPECT_EQ(request, "a");
+  ASSERT_EQ(taken.write("re:a", WinIpc::Limits()), 0);
+  EXPECT_EQ(first.get(), "re:a");
+}
+
 }  // namespace
 
 namespace {
@@ -305,7 +331,8 @@ TEST_F(Transport, EndsWaitingOnAHungServerSeeTheirCancelFlag) {
     std::string got;
     return client.read(got, &quit);
   });
-  auto writing = std::async(std::launch::async, [&] { return client.write(std::string(8 << 20, 'w'), &quit); });
+  auto writing =
+      std::async(std::launch::async, [&] { return client.write(std::string(8 << 20, 'w'), &quit); });
   auto connecting = std::async(std::launch::async, [&] { return IpcClient().connect(name_, 60000, &quit); });
   std::this_thread::sleep_for(std::chrono::milliseconds(300));
   quit = true;

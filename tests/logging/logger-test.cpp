@@ -5,13 +5,19 @@
 #include <ostream>
 
 #include <algorithm>
+#include <atomic>
 #include <cstdio>
 #include <cstdlib>
 #include <regex>
 #include <string>
+#include <thread>
+#include <utility>
+#include <vector>
 
 #include "log-test-util.h"
+#include "logger-platform.h"
 #include "logger.h"
+#include "per-thread.h"
 
 using logtest::kStamp;
 using logtest::split_lines;
@@ -79,6 +85,17 @@ TEST_F(LoggerTest, LinesHaveTheFixedForm) {
       lines[2], m, std::regex("(" + kStamp + R"():(\d{1,3}) svc\| \[DEBUG\]\[.*\{run-7\} fine detail)")))
       << lines[2];
   EXPECT_LT(std::stoi(m[2].str()), 1000);
+  // The offset from UTC, east positive, whole and part hours.
+  for (const auto& [minutes, text] : std::vector<std::pair<int, const char*>>{{0, "+0000"},
+                                                                              {60, "+0100"},
+                                                                              {-300, "-0500"},
+                                                                              {330, "+0530"},
+                                                                              {-570, "-0930"},
+                                                                              {345, "+0545"},
+                                                                              {840, "+1400"},
+                                                                              {-720, "-1200"},
+                                                                              {-1, "-0001"}})
+    EXPECT_EQ(text, vlog::utc_offset_text(minutes)) << minutes;
   // Windows paths in __FILE__ use backslashes.
   EXPECT_STREQ("win-ipc.cpp", vlog::base_name("C:\\src\\ipc/win-ipc.cpp"));
   EXPECT_STREQ("", vlog::base_name("folder/"));
@@ -209,3 +226,22 @@ TEST_F(LoggerTest, LongLinesAreCutAt4KBWithTheCountOfBytesCut) {
 }
 
 }  // namespace
+
+namespace {
+std::atomic<int> intact_probes{0};
+struct Probe {
+  unsigned magic = 0x5EED;
+  std::vector<int> data = std::vector<int>(1024, 7);
+  ~Probe() {
+    if (magic == 0x5EED && data.size() == 1024 && data[1023] == 7) ++intact_probes;
+  }
+};
+}  // namespace
+
+// Each thread's object is made on its first use and deleted, whole, when the
+// thread ends.
+TEST(PerThread, EachThreadsObjectIsDeletedWholeAtTheThreadsEnd) {
+  static vlog::PerThread<Probe> probes(+[]() { return new Probe; });
+  for (int i = 0; i < 3; ++i) std::thread([] { probes.with([](Probe& p) { return p.data[0] = 1; }); }).join();
+  EXPECT_EQ(intact_probes.load(), 3);
+}

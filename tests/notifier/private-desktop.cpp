@@ -179,12 +179,13 @@ QString PrivateDesktop::startWindowManager() {
            code == 0 ? "can" : "cannot", QString::fromUtf8(log.readAll()));
 }
 
-QString PrivateDesktop::startTray() {
+QString PrivateDesktop::startTray(const QString& extra) {
   const QString config = scratch_ + "/tint2rc";
   // A panel along the bottom with the task bar, the tray and a clock.
   write_text(config, QStringLiteral("panel_items = TSC\npanel_position = bottom center horizontal\n"
                                     "panel_size = 100% 30\nsystray_padding = 4 2 4\nsystray_icon_size = 22\n"
-                                    "time1_format = %H:%M\n"));
+                                    "time1_format = %H:%M\n") +
+                         extra);
   tint2_ = std::make_unique<ChildProcess>();
   tint2_->setProcessEnvironment(environment());
   tint2_->setStandardOutputFile(scratch_ + "/tint2.log");

@@ -33,8 +33,9 @@ class PrivateDesktop {
   QString startDisplay(const QString& screen = QStringLiteral("800x600x24"));
   // openbox; returns once it manages the screen.
   QString startWindowManager();
-  // tint2 with its system tray; returns once the panel is shown.
-  QString startTray();
+  // tint2 with its system tray; returns once the panel is shown. `extra`:
+  // more lines of its configuration.
+  QString startTray(const QString& extra = QString());
   QString startDunst();
   void stopDunst();
 

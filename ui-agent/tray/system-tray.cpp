@@ -273,22 +273,30 @@ QRect SystemTray::geometry() const {
   return xembed_ && xembed_->isVisible() ? xembed_->geometry() : QRect();
 }
 
-QPoint SystemTray::clickAnchor() const {
+tray_anchor::Facts SystemTray::anchorFacts() const {
   tray_anchor::Facts facts;
   facts.icon = geometry();
   facts.activation = lastActivation_;
-  // Wayland does not tell where the pointer is (nor does the offscreen
-  // platform of the tests).
+  facts.screens = screenGeometries();
+  const QScreen* primary = QGuiApplication::primaryScreen();
+  if (primary) facts.workArea = primary->availableGeometry();
+  return facts;
+}
+
+QPoint SystemTray::clickAnchor() const {
+  tray_anchor::Facts facts = anchorFacts();
+  // The pointer is on the icon just pressed. Wayland does not tell where the
+  // pointer is (nor does the offscreen platform of the tests).
   const QString platform = QGuiApplication::platformName();
   if (platform == QLatin1String("xcb") || platform == QLatin1String("windows"))
     facts.pointer = QCursor::pos();
-  facts.screens = screenGeometries();
   return tray_anchor::anchorFor(facts);
 }
 
 QPoint SystemTray::openAnchor() const {
-  const QRect icon = geometry();
-  return icon.isValid() ? icon.topLeft() : clickAnchor();
+  // Not the pointer: "open" from a second launch has nothing to do with it.
+  const tray_anchor::Facts facts = anchorFacts();
+  return tray_anchor::iconOnScreen(facts) ? facts.icon.topLeft() : tray_anchor::anchorFor(facts);
 }
 
 void SystemTray::setContextMenu(QMenu* menu) {

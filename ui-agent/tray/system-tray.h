@@ -32,6 +32,7 @@
 #include "core/log-entry.h"
 #include "core/service-status.h"
 #include "core/tray-status.h"
+#include "tray/tray-anchor.h"
 #include "tray/tray-icon-model.h"
 
 class PanelThemeWatcher;
@@ -106,10 +107,12 @@ class SystemTray : public QObject {
   // The icon's place on an XEmbed tray; empty elsewhere.
   QRect geometry() const;
   // Where a click on the icon anchors the pop-up now: the icon's centre, the
-  // point of the last click a panel reported, or the pointer (tray-anchor.h).
+  // point of the last click a panel reported, the pointer, or the taskbar's
+  // corner of the work area (tray-anchor.h).
   QPoint clickAnchor() const;
   // Where "open" from a second launch anchors it: the icon's top-left
-  // corner where the tray tells its place, else clickAnchor().
+  // corner where the tray tells its place, else as clickAnchor() without
+  // the pointer.
   QPoint openAnchor() const;
   StatusNotifierItem* statusNotifierItem() const { return sni_; }
   // Qt's tray icon, once there was no StatusNotifierItem panel to use.
@@ -178,6 +181,8 @@ class SystemTray : public QObject {
   void applyView();
   void buildRightMenu();
   void backupNow();
+  // What anchoring knows: the icon, the last panel point, the screens.
+  tray_anchor::Facts anchorFacts() const;
   void click();
   // What the application turning active means, once the window system has
   // named the window that took the focus.

@@ -4,16 +4,35 @@
 
 namespace tray_anchor {
 
+namespace {
+
+QPoint taskbarCorner(const QRect& s, const QRect& area) {
+  const QRect& a = area.isEmpty() ? s : area;
+  if (a.bottom() < s.bottom()) return {a.right(), (a.bottom() + 1 + s.bottom()) / 2};
+  if (a.top() > s.top()) return {a.right(), (s.top() + a.top()) / 2};
+  if (a.right() < s.right()) return {(a.right() + 1 + s.right()) / 2, a.bottom()};
+  if (a.left() > s.left()) return {(s.left() + a.left()) / 2, a.bottom()};
+  return {a.right(), a.bottom()};
+}
+
+}  // namespace
+
+bool iconOnScreen(const Facts& f) {
+  return !f.icon.isEmpty() &&
+         (f.screens.isEmpty() || std::any_of(f.screens.begin(), f.screens.end(),
+                                             [&f](const QRect& s) { return s.intersects(f.icon); }));
+}
+
 QPoint anchorFor(const Facts& f) {
-  if (!f.icon.isEmpty()) return f.icon.center();
   const auto onScreen = [&f](const QPoint& p) {
     return std::any_of(f.screens.begin(), f.screens.end(), [&p](const QRect& s) { return s.contains(p); });
   };
+  if (iconOnScreen(f)) return f.icon.center();
   if (f.activation && !f.activation->isNull() && onScreen(*f.activation)) return *f.activation;
   if (f.pointer) return *f.pointer;
   if (f.screens.isEmpty()) return f.activation.value_or(QPoint());
   const QRect& primary = f.screens.first();
-  if (!f.activation) return primary.center();
+  if (!f.activation) return taskbarCorner(primary, f.workArea);
   // Kept on the primary screen: a peer's (-2^31, 2^31 - 1) is a point too.
   return QPoint(std::clamp(f.activation->x(), primary.left(), primary.right()),
                 std::clamp(f.activation->y(), primary.top(), primary.bottom()));

@@ -20,11 +20,18 @@ struct Facts {
   std::optional<QPoint> activation;  // the point a panel sent with the click
   std::optional<QPoint> pointer;     // the pointer, where the window system tells it
   QVector<QRect> screens;            // the screens' geometries; the first is the primary
+  QRect workArea;                    // the primary screen's work area; empty: the whole screen
 };
 
-// The icon's centre; else the panel's point when it lies on a screen and is
-// not (0, 0); else the pointer; else the panel's point moved onto the
-// primary screen; else the primary screen's centre.
+// The icon's centre when its place is on a screen; else the panel's point
+// when it lies on a screen and is not (0, 0); else the pointer; else the
+// panel's point moved onto the primary screen; else, where the notification
+// area sits, the middle of the taskbar at the end of the work area: the side
+// where a taskbar cuts the work area from the screen (bottom, top, right,
+// left, in that order), the bottom-right corner when none does. Some shells
+// (Wine's tray in an XEmbed panel) tell no place for the icon at all.
 QPoint anchorFor(const Facts& facts);
+// Whether the tray told a place for the icon that lies on a screen.
+bool iconOnScreen(const Facts& facts);
 
 }  // namespace tray_anchor

@@ -1,5 +1,7 @@
 #include "json-access.h"
 
+#include "per-thread.h"
+
 #include <json/reader.h>
 #include <json/writer.h>
 
@@ -135,33 +137,32 @@ bool is_object(const Json::Value& v) {
 namespace {
 
 // Made once per thread and kind: making a reader costs more than reading a
-// small answer, and a reader starts afresh with every document.
-Json::CharReader& reader_for(bool collect_comments) {
-  thread_local std::unique_ptr<Json::CharReader> readers[2];
-  std::unique_ptr<Json::CharReader>& reader = readers[collect_comments ? 1 : 0];
-  if (!reader) {
-    Json::CharReaderBuilder builder;
-    builder["collectComments"] = collect_comments;
-    // Anything but blanks after the document means a broken message.
-    builder["failIfExtra"] = true;
-    reader.reset(builder.newCharReader());
-  }
-  return *reader;
+// small answer, and a reader starts afresh with every document. (Not
+// thread_local objects: see per-thread.h.)
+template <bool kComments>
+Json::CharReader* make_reader() {
+  Json::CharReaderBuilder builder;
+  builder["collectComments"] = kComments;
+  // Anything but blanks after the document means a broken message.
+  builder["failIfExtra"] = true;
+  return builder.newCharReader();
 }
+vlog::PerThread<Json::CharReader> readers[2] = {vlog::PerThread<Json::CharReader>(make_reader<false>),
+                                                vlog::PerThread<Json::CharReader>(make_reader<true>)};
 
 }  // namespace
 
 bool parse(const std::string& text, Json::Value& out, std::string* error, bool collect_comments) {
-  Json::CharReader* reader = &reader_for(collect_comments);
   std::string errs;
   Json::Value parsed;
-  bool ok = false;
-  try {
-    ok = reader->parse(text.data(), text.data() + text.size(), &parsed, &errs);
-  } catch (const std::exception& e) {  // jsoncpp throws on pathological nesting
-    ok = false;
-    errs = e.what();
-  }
+  const bool ok = readers[collect_comments ? 1 : 0].with([&](Json::CharReader& reader) {
+    try {
+      return reader.parse(text.data(), text.data() + text.size(), &parsed, &errs);
+    } catch (const std::exception& e) {  // jsoncpp throws on pathological nesting
+      errs = e.what();
+      return false;
+    }
+  });
   if (ok) {
     out = std::move(parsed);
   } else {

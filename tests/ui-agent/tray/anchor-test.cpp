@@ -43,7 +43,19 @@ INSTANTIATE_TEST_SUITE_P(
         // No pointer either (Wayland): the panel's point, kept on the primary screen.
         AnchorRow{"ZeroWithoutPointer", {{}, QPoint(0, 0), std::nullopt, kScreens}, {0, 0}},
         AnchorRow{"HostilePointClamped", {{}, QPoint(INT_MIN, INT_MAX), std::nullopt, kScreens}, {0, 799}},
-        AnchorRow{"NothingKnownPrimaryCentre", {{}, std::nullopt, std::nullopt, kScreens}, {639, 399}},
+        // An icon place off every screen (Wine's tray) is no place: the pointer.
+        AnchorRow{"IconOffScreenPointer",
+                  {QRect(-40, -40, 22, 22), std::nullopt, QPoint(640, 790), kScreens},
+                  {640, 790}},
+        // Nothing known ("open" from a second launch without a tray place): the
+        // middle of the taskbar at the end of the work area.
+        AnchorRow{
+            "BottomBar", {{}, std::nullopt, std::nullopt, kScreens, QRect(0, 0, 1280, 760)}, {1279, 779}},
+        AnchorRow{"TopBar", {{}, std::nullopt, std::nullopt, kScreens, QRect(0, 40, 1280, 760)}, {1279, 20}},
+        AnchorRow{
+            "RightBar", {{}, std::nullopt, std::nullopt, kScreens, QRect(0, 0, 1220, 800)}, {1249, 799}},
+        AnchorRow{"LeftBar", {{}, std::nullopt, std::nullopt, kScreens, QRect(60, 0, 1220, 800)}, {30, 799}},
+        AnchorRow{"NoBarBottomRight", {{}, std::nullopt, std::nullopt, kScreens}, {1279, 799}},
         AnchorRow{"NoScreens", {{}, QPoint(7, 8), std::nullopt, {}}, {7, 8}}),
     [](const auto& row) { return std::string(row.param.name); });
 
