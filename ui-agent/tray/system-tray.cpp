@@ -181,7 +181,7 @@ SystemTray::SystemTray(QObject* parent) : QObject(parent) {
   connect(sni_, &StatusNotifierItem::contextMenuRequested, this, [this](QPoint p) {
     // The panel's point, kept on a screen (any peer on the bus may call).
     if (contextMenu_)
-      contextMenu_->popup(tray_anchor::anchorFor({QRect(), p, std::nullopt, screenGeometries()}));
+      contextMenu_->popup(tray_anchor::anchorFor({QRect(), p, std::nullopt, screenGeometries(), QRect()}));
   });
   connect(sni_, &StatusNotifierItem::hostChanged, this, &SystemTray::applyHost);
   connect(&bus, &GlobalConnecter::sigShowMessage, this, &SystemTray::slotShowMessage);

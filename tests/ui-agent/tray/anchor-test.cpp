@@ -31,21 +31,23 @@ INSTANTIATE_TEST_SUITE_P(
     Rows, PopupAnchor,
     ::testing::Values(
         // XEmbed: the icon's centre, whatever else is known.
-        AnchorRow{"XEmbedIconCentre", {kIcon, QPoint(5, 5), QPoint(6, 6), kScreens}, kIcon.center()},
+        AnchorRow{"XEmbedIconCentre", {kIcon, QPoint(5, 5), QPoint(6, 6), kScreens, {}}, kIcon.center()},
         // A StatusNotifierItem panel's point, on either screen.
-        AnchorRow{"PanelPoint", {{}, QPoint(900, 700), QPoint(6, 6), kScreens}, {900, 700}},
-        AnchorRow{"PanelPointOnTheSecondScreen", {{}, QPoint(3000, 20), QPoint(6, 6), kScreens}, {3000, 20}},
-        // No usable point from the panel: the pointer (X11).
-        AnchorRow{"PanelSentZeroPointer", {{}, QPoint(0, 0), QPoint(640, 790), kScreens}, {640, 790}},
+        AnchorRow{"PanelPoint", {{}, QPoint(900, 700), QPoint(6, 6), kScreens, {}}, {900, 700}},
         AnchorRow{
-            "PanelPointOffScreenPointer", {{}, QPoint(-5, 9000), QPoint(640, 790), kScreens}, {640, 790}},
-        AnchorRow{"NoPanelPointPointer", {{}, std::nullopt, QPoint(640, 790), kScreens}, {640, 790}},
+            "PanelPointOnTheSecondScreen", {{}, QPoint(3000, 20), QPoint(6, 6), kScreens, {}}, {3000, 20}},
+        // No usable point from the panel: the pointer (X11).
+        AnchorRow{"PanelSentZeroPointer", {{}, QPoint(0, 0), QPoint(640, 790), kScreens, {}}, {640, 790}},
+        AnchorRow{
+            "PanelPointOffScreenPointer", {{}, QPoint(-5, 9000), QPoint(640, 790), kScreens, {}}, {640, 790}},
+        AnchorRow{"NoPanelPointPointer", {{}, std::nullopt, QPoint(640, 790), kScreens, {}}, {640, 790}},
         // No pointer either (Wayland): the panel's point, kept on the primary screen.
-        AnchorRow{"ZeroWithoutPointer", {{}, QPoint(0, 0), std::nullopt, kScreens}, {0, 0}},
-        AnchorRow{"HostilePointClamped", {{}, QPoint(INT_MIN, INT_MAX), std::nullopt, kScreens}, {0, 799}},
+        AnchorRow{"ZeroWithoutPointer", {{}, QPoint(0, 0), std::nullopt, kScreens, {}}, {0, 0}},
+        AnchorRow{
+            "HostilePointClamped", {{}, QPoint(INT_MIN, INT_MAX), std::nullopt, kScreens, {}}, {0, 799}},
         // An icon place off every screen (Wine's tray) is no place: the pointer.
         AnchorRow{"IconOffScreenPointer",
-                  {QRect(-40, -40, 22, 22), std::nullopt, QPoint(640, 790), kScreens},
+                  {QRect(-40, -40, 22, 22), std::nullopt, QPoint(640, 790), kScreens, {}},
                   {640, 790}},
         // Nothing known ("open" from a second launch without a tray place): the
         // middle of the taskbar at the end of the work area.
@@ -55,8 +57,8 @@ INSTANTIATE_TEST_SUITE_P(
         AnchorRow{
             "RightBar", {{}, std::nullopt, std::nullopt, kScreens, QRect(0, 0, 1220, 800)}, {1249, 799}},
         AnchorRow{"LeftBar", {{}, std::nullopt, std::nullopt, kScreens, QRect(60, 0, 1220, 800)}, {30, 799}},
-        AnchorRow{"NoBarBottomRight", {{}, std::nullopt, std::nullopt, kScreens}, {1279, 799}},
-        AnchorRow{"NoScreens", {{}, QPoint(7, 8), std::nullopt, {}}, {7, 8}}),
+        AnchorRow{"NoBarBottomRight", {{}, std::nullopt, std::nullopt, kScreens, {}}, {1279, 799}},
+        AnchorRow{"NoScreens", {{}, QPoint(7, 8), std::nullopt, {}, {}}, {7, 8}}),
     [](const auto& row) { return std::string(row.param.name); });
 
 }  // namespace
