@@ -36,11 +36,14 @@ WinIpc::Limits replyLimits() {
 
 // A request as the service reads it: the bytes of Json::Value::toStyledString()
 // (requests carry no comments), from one writer kept per thread instead of a
-// writer built for every request.
+// writer built for every request (not a thread_local object: see per-thread.h).
+vlog::PerThread<Json::StreamWriter> requestWriter(+[]() {
+  return Json::StreamWriterBuilder().newStreamWriter();
+});
+
 std::string requestText(const Json::Value& request) {
-  thread_local std::unique_ptr<Json::StreamWriter> writer(Json::StreamWriterBuilder().newStreamWriter());
   std::ostringstream out;
-  writer->write(request, &out);
+  requestWriter.with([&](Json::StreamWriter& writer) { return writer.write(request, &out); });
   out << '\n';
   return out.str();
 }

@@ -5,6 +5,7 @@
 #include <array>
 #include <chrono>
 
+#include "per-thread.h"
 #include "string-display.h"
 
 namespace tray_text {
@@ -41,21 +42,27 @@ QString minute_time(qint64 secs) {
   // /etc/localtime each), and the pop-up and the tool tip ask for the same
   // few times at every status, once a second. A text is kept for a minute,
   // so a change of time zone shows within one.
+  // (Kept per thread, not in thread_local objects: see per-thread.h.)
   struct Kept {
     qint64 secs = 0;
     qint64 until = -1;
     QString text;
   };
-  static thread_local std::array<Kept, 4> kept;
-  static thread_local std::size_t next = 0;
+  struct Cache {
+    std::array<Kept, 4> kept;
+    std::size_t next = 0;
+  };
+  static vlog::PerThread<Cache> cache(+[]() { return new Cache; });
   const qint64 now = std::chrono::duration_cast<std::chrono::milliseconds>(
                          std::chrono::steady_clock::now().time_since_epoch())
                          .count();
-  for (const Kept& k : kept)
-    if (k.secs == secs && now < k.until) return k.text;
-  Kept& k = kept[next++ % kept.size()];
-  k = {secs, now + 60000, QDateTime::fromSecsSinceEpoch(secs).toString(QStringLiteral("yyyy/MM/dd HH:mm"))};
-  return k.text;
+  return cache.with([&](Cache& c) {
+    for (const Kept& k : c.kept)
+      if (k.secs == secs && now < k.until) return k.text;
+    Kept& k = c.kept[c.next++ % c.kept.size()];
+    k = {secs, now + 60000, QDateTime::fromSecsSinceEpoch(secs).toString(QStringLiteral("yyyy/MM/dd HH:mm"))};
+    return k.text;
+  });
 }
 
 QString second_time(qint64 secs) {
