@@ -283,12 +283,12 @@ tray_anchor::Facts SystemTray::anchorFacts() const {
   return facts;
 }
 
-QPoint SystemTray::clickAnchor() const {
+QPoint SystemTray::clickAnchor(bool pointerCounts) const {
   tray_anchor::Facts facts = anchorFacts();
   // The pointer is on the icon just pressed. Wayland does not tell where the
   // pointer is (nor does the offscreen platform of the tests).
   const QString platform = QGuiApplication::platformName();
-  if (platform == QLatin1String("xcb") || platform == QLatin1String("windows"))
+  if (pointerCounts && (platform == QLatin1String("xcb") || platform == QLatin1String("windows")))
     facts.pointer = QCursor::pos();
   return tray_anchor::anchorFor(facts);
 }
@@ -427,7 +427,7 @@ bool SystemTray::trayAvailable() const {
   return false;
 }
 
-void SystemTray::click() {
+void SystemTray::click(bool pointerCounts) {
   if (mode_ == 2) {
     emit sigTrayClickedWithoutConnection();
   } else if (mode_ == 1) {
@@ -435,18 +435,18 @@ void SystemTray::click() {
       container()->showAsWindow();
       return;
     }
-    container()->showAt(clickAnchor());
+    container()->showAt(clickAnchor(pointerCounts));
     window_placement::activate(container_);
   }
 }
 
 void SystemTray::slotIconActivated(QSystemTrayIcon::ActivationReason reason) {
-  if (reason == QSystemTrayIcon::Trigger) click();
+  if (reason == QSystemTrayIcon::Trigger) click(true);
 }
 
 void SystemTray::slotActivatedAt(QPoint p) {
   lastActivation_ = p;
-  click();
+  click(true);
 }
 
 void SystemTray::slotApplicationStateChanged(Qt::ApplicationState state) {
@@ -467,7 +467,8 @@ void SystemTray::actOnActivation() {
   if (rightMenu_ && rightMenu_->isVisible()) return;
   QWidget* popup = QApplication::activePopupWidget();
   if (popup && popup != container_) return;
-  click();
+  // No press told where: the pointer may be anywhere.
+  click(false);
 }
 
 void SystemTray::slotPositionClicked(QPoint p) {

@@ -109,7 +109,8 @@ class SystemTray : public QObject {
   // Where a click on the icon anchors the pop-up now: the icon's centre, the
   // point of the last click a panel reported, the pointer, or the taskbar's
   // corner of the work area (tray-anchor.h).
-  QPoint clickAnchor() const;
+  // `pointerCounts`: the pointer is where the icon was just pressed.
+  QPoint clickAnchor(bool pointerCounts = true) const;
   // Where "open" from a second launch anchors it: the icon's top-left
   // corner where the tray tells its place, else as clickAnchor() without
   // the pointer.
@@ -183,7 +184,7 @@ class SystemTray : public QObject {
   void backupNow();
   // What anchoring knows: the icon, the last panel point, the screens.
   tray_anchor::Facts anchorFacts() const;
-  void click();
+  void click(bool pointerCounts);
   // What the application turning active means, once the window system has
   // named the window that took the focus.
   void actOnActivation();
