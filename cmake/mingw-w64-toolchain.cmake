@@ -23,4 +23,16 @@ set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-static")
+# No interprocedural register allocation. With it, GCC lets a caller keep
+# values in call-clobbered registers across a call to an inline function or
+# template whose own copy it has just compiled and seen leave them alone. On
+# Windows such functions are COMDATs, and the linker keeps one copy of each,
+# often another object's, compiled elsewhere, which may clobber them. Qt's
+# static libraries and our objects both carry copies of Qt's templates
+# (QList<QObject*>::indexOf, ...), so this broke Qt's own code at random,
+# depending on what a program linked. Qt for Windows is built with it too
+# (scripts/lib/build-qt-windows.sh).
+set(NIMBRA_MINGW_CODEGEN_FLAGS "-fno-ipa-ra")
+set(CMAKE_C_FLAGS_INIT "${NIMBRA_MINGW_CODEGEN_FLAGS}")
+set(CMAKE_CXX_FLAGS_INIT "${NIMBRA_MINGW_CODEGEN_FLAGS}")
 set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/wine-run)

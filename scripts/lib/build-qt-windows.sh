@@ -30,6 +30,9 @@ configure_options=(
   -nomake examples -nomake tests -no-opengl -no-direct2d -no-feature-tabletevent -no-dbus
   -no-icu -no-sql-sqlite -no-sql-odbc -qt-zlib -qt-libpng -qt-libjpeg -qt-freetype
   -qt-harfbuzz -qt-pcre -platform linux-g++
+  # As cmake/mingw-w64-toolchain.cmake says: interprocedural register
+  # allocation is unsafe where programs link copies of Qt's templates.
+  'QMAKE_CFLAGS+=-fno-ipa-ra' 'QMAKE_CXXFLAGS+=-fno-ipa-ra'
 )
 
 nimbra_deb_src_ready qtbase-opensource-src
