@@ -13,7 +13,6 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QProgressBar>
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QStackedWidget>
 #include <QTableWidget>

@@ -5,7 +5,6 @@
 // application.
 
 #include <QComboBox>
-#include <QKeyEvent>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QStackedWidget>
