@@ -7,11 +7,8 @@
 #include <functional>
 #include <vector>
 
-#include <QApplication>
 #include <QLabel>
-#include <QTranslator>
 
-#include "core/language-font.h"
 #include "string-display.h"
 #include "support/temp-dir.h"
 #include "tray-fixture.h"
@@ -115,27 +112,10 @@ INSTANTIATE_TEST_SUITE_P(Cases, FastFitMatchesWalk,
 // Every event type, with an empty body, in every language the agent offers:
 // the pop-up's latest-event label holds its text within its two lines.
 class EveryEventFitsThePopUp : public tray_test::TrayTest,
-                               public ::testing::WithParamInterface<std::tuple<const char*, const char*>> {
- protected:
-  void SetUp() override {
-    language_font::install_font_substitutions();
-    saved_ = QApplication::font();
-    const QString language = QString::fromLatin1(std::get<0>(GetParam()));
-    QApplication::setFont(language_font::application_font(language));
-    if (language != QLatin1String("enu")) {
-      ASSERT_TRUE(string_display::load_translation(translator_, language));
-      QCoreApplication::installTranslator(&translator_);
-    }
-  }
-  void TearDown() override {
-    QCoreApplication::removeTranslator(&translator_);
-    QApplication::setFont(saved_);
-  }
-  QFont saved_;
-  QTranslator translator_;
-};
+                               public ::testing::WithParamInterface<std::tuple<const char*, const char*>> {};
 
 TEST_P(EveryEventFitsThePopUp, LabelHeightStaysWithinItsTwoLines) {
+  tray_test::ScopedLanguage language(std::get<0>(GetParam()));
   nimbra_test::ScopedEnv scale("NIMBRA_UI_SCALE", std::get<1>(GetParam()));
   QWidget page;
   LatestEventLine line(&page, QStringLiteral("fit"));

@@ -19,11 +19,9 @@
 #include <QTest>
 #include <QTextDocument>
 #include <QToolButton>
-#include <QTranslator>
 #include <memory>
 
 #include "core/global-connecter.h"
-#include "core/language-font.h"
 #include "core/service-error-text.h"
 #include "dialogs/settings-widget.h"
 #include "dpi-info.h"
@@ -178,43 +176,33 @@ TEST_F(TrayWidgets, LayoutAtEveryScale) {
 class TrayPagesInLanguage : public tray_test::TrayTest, public ::testing::WithParamInterface<const char*> {};
 
 TEST_P(TrayPagesInLanguage, OneLineTextsFitOrAreElided) {
-  const QString language = QString::fromLatin1(GetParam());
-  language_font::install_font_substitutions();
-  const QFont saved = QApplication::font();
-  QApplication::setFont(language_font::application_font(language));
-  QTranslator translator;
-  if (language != QLatin1String("enu") && string_display::load_translation(translator, language))
-    QCoreApplication::installTranslator(&translator);
-  {
-    TrayMenu menu;
-    menu.setFixedSize(DPIinfo::scaled(400), DPIinfo::scaled(232));
-    menu.show();
-    const std::pair<int, const char*> states[] = {
-        {0x2000, R"({"connected":true,"last_backup_result":{"last_backup_status":2,"backed_up":false}})"},
-        {0x2000, R"({"connected":true,"last_backup_result":{"last_backup_status":2,"backed_up":true,
+  tray_test::ScopedLanguage language(GetParam());
+  TrayMenu menu;
+  menu.setFixedSize(DPIinfo::scaled(400), DPIinfo::scaled(232));
+  menu.show();
+  const std::pair<int, const char*> states[] = {
+      {0x2000, R"({"connected":true,"last_backup_result":{"last_backup_status":2,"backed_up":false}})"},
+      {0x2000, R"({"connected":true,"last_backup_result":{"last_backup_status":2,"backed_up":true,
                      "last_backup_time":1706745000},"next_backup_time":0})"},
-        {0x2000,
-         R"({"connected":true,"last_backup_result":{"last_backup_status":4},"next_backup_time":1706800000})"},
-        {0x3001, R"({"connected":true})"},
-        {0x3003, R"({"connected":true,"transfer":{"transfer":400,"total":1600,"speed":0}})"}};
-    for (const auto& [status, content] : states) {
-      menu.updateServiceStatus(static_cast<ServiceStatus>(status), parse(content));
-      QApplication::processEvents();
-      QWidget* page = child<QStackedWidget>(&menu, "trayPages")->currentWidget();
-      for (QLabel* label : page->findChildren<QLabel*>()) {
-        if (label->wordWrap() || label->text().isEmpty() || Qt::mightBeRichText(label->text())) continue;
-        EXPECT_LE(label->fontMetrics().horizontalAdvance(label->text()), label->contentsRect().width())
-            << label->objectName().toStdString() << ": " << label->text().toStdString();
-        EXPECT_TRUE(!label->text().endsWith(QChar(0x2026)) || !label->toolTip().isEmpty())
-            << label->objectName().toStdString();
-      }
-      auto* title = child<VellLabel>(page, status == 0x2000 ? "statusResult" : "progressPhase");
-      EXPECT_EQ(title->text(), title->fullText()) << title->objectName().toStdString();
-      EXPECT_GE(title->width(), title->fontMetrics().horizontalAdvance(title->fullText()));
+      {0x2000,
+       R"({"connected":true,"last_backup_result":{"last_backup_status":4},"next_backup_time":1706800000})"},
+      {0x3001, R"({"connected":true})"},
+      {0x3003, R"({"connected":true,"transfer":{"transfer":400,"total":1600,"speed":0}})"}};
+  for (const auto& [status, content] : states) {
+    menu.updateServiceStatus(static_cast<ServiceStatus>(status), parse(content));
+    QApplication::processEvents();
+    QWidget* page = child<QStackedWidget>(&menu, "trayPages")->currentWidget();
+    for (QLabel* label : page->findChildren<QLabel*>()) {
+      if (label->wordWrap() || label->text().isEmpty() || Qt::mightBeRichText(label->text())) continue;
+      EXPECT_LE(label->fontMetrics().horizontalAdvance(label->text()), label->contentsRect().width())
+          << label->objectName().toStdString() << ": " << label->text().toStdString();
+      EXPECT_TRUE(!label->text().endsWith(QChar(0x2026)) || !label->toolTip().isEmpty())
+          << label->objectName().toStdString();
     }
+    auto* title = child<VellLabel>(page, status == 0x2000 ? "statusResult" : "progressPhase");
+    EXPECT_EQ(title->text(), title->fullText()) << title->objectName().toStdString();
+    EXPECT_GE(title->width(), title->fontMetrics().horizontalAdvance(title->fullText()));
   }
-  QCoreApplication::removeTranslator(&translator);
-  QApplication::setFont(saved);
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, TrayPagesInLanguage,
