@@ -163,6 +163,18 @@ TEST_F(WizardTest, TheBrowsersReturnHidesTheSignInSheetAndKeysStayInTheConnectin
   wizard_.closeSignInSheet();  // nothing runs: harmless
 }
 
+// Over the welcome page, with Let's Start focused, the frame takes the keys.
+TEST_F(WizardTest, KeysDuringTheConnectingFrameReachNothingUnderIt) {
+  QSignalSpy asks(&GlobalConnecter::instance(), &GlobalConnecter::sigGetAuthURL);
+  later([&] {
+    for (Qt::Key k : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Tab, Qt::Key_Space})
+      QTest::keyClick(focused(), k);
+    wizard_.hideConnecting();
+  });
+  wizard_.showConnecting();
+  EXPECT_EQ(asks.count(), 0);
+}
+
 TEST_F(WizardTest, ShowErrorEndsTheConnectingFrameFirst) {
   bool frameDownUnderError = false;
   QString shown;
