@@ -137,7 +137,7 @@ TEST_F(TrayWidgets, ProgressPageKeepsItsEstimateWhileStalled) {
 
 // Inside the card's border the pages get 360 x 160, nothing on them is
 // clipped, the schedule box stands 16 under the event line, and the
-// activity titles stand over their columns.
+// activity titles stand over their columns, in one colour.
 TEST_F(TrayWidgets, LayoutAtEveryScale) {
   for (const char* scale : {"1", "2"}) {
     nimbra_test::ScopedEnv env("NIMBRA_UI_SCALE", scale);
@@ -167,6 +167,8 @@ TEST_F(TrayWidgets, LayoutAtEveryScale) {
     for (int column : {0, 1})
       EXPECT_EQ(header->cellWidget(0, column)->mapTo(&log, QPoint()).x(),
                 table->cellWidget(0, column)->mapTo(&log, QPoint()).x());
+    EXPECT_EQ(header->cellWidget(0, 0)->palette().color(QPalette::WindowText),
+              header->cellWidget(0, 1)->palette().color(QPalette::WindowText));
   }
 }
 
