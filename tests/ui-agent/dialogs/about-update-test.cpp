@@ -155,6 +155,7 @@ TEST_F(AboutWindowTest, VersionLooksLinksAndNames) {
   EXPECT_EQ(frame->findChild<QLabel*>("AboutVersion")->text(), "Version: 3.6.0-0701");
   EXPECT_TRUE(frame->findChild<QLabel*>("AboutCopyright")->text().contains("2024"));
   EXPECT_EQ(frame->size(), QSize(480, 243));
+  EXPECT_EQ(frame->objectName(), "AboutWindow");
   EXPECT_TRUE(container_.testAttribute(Qt::WA_TranslucentBackground));
   EXPECT_TRUE(container_.windowFlags() & Qt::FramelessWindowHint);
   for (QWidget* w : container_.findChildren<QWidget*>())

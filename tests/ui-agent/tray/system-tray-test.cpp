@@ -128,6 +128,7 @@ TEST_F(TrayIcon, RightMenuExistsExactlyInModeOne) {
   QMenu* menu = tray_->rightMenu();
   ASSERT_NE(menu, nullptr);
   EXPECT_EQ(tray_->contextMenu(), menu);
+  EXPECT_EQ(menu->objectName(), QStringLiteral("RightMenu"));
   QStringList names;
   for (QAction* a : menu->actions()) names << (a->isSeparator() ? QStringLiteral("-") : a->objectName());
   EXPECT_EQ(names, QStringList({"OpenAction", "BackupNowAction", "BackupNowReason", "-", "ActivityAction",
