@@ -169,12 +169,6 @@ TEST_F(AgentPipe, AnotherUserHoldingTheNameDoesNotStopTheStart) {
   EXPECT_EQ(notify(notification()), kOk);
 }
 
-TEST_F(AgentPipe, AnotherAgentOfThisUserStillMakesInitThrow) {
-  start();
-  ServiceIpcServer second;
-  EXPECT_THROW(second.init(), std::runtime_error);
-}
-
 // Clients that never finish: the pipe still answers a real notification
 // within 6 s, and the peak memory stays under 64 MiB above the start.
 enum class Attack { Silent, GigabyteStream, HugeRequest };
@@ -328,55 +322,20 @@ TEST_F(Client, QuittingEndsAnExchangeWithAHungServiceAndNothingSecretIsLogged) {
   EXPECT_THAT(log(), HasSubstr("not sent: the agent is quitting"));
 }
 
-// An answer of 8 MiB of small elements (jsoncpp would need 400 MB for it)
-// is refused before it is parsed: the memory stays near where it was.
-TEST_F(Client, AHugeAnswerOfSmallElementsCostsLittleMemory) {
-  std::string huge = R"({"status":1,"content":{"logs":[0)";
-  while (huge.size() < (8u << 20)) huge += ",0";
-  huge += "]}}";
+// A service that hangs up on a request too big to go through before it
+// does: the failure logs the request masked and cut.
+TEST_F(Client, AFailedWriteLogsTheRequestMasked) {
   WinIpc::IpcServer service;
   ASSERT_EQ(service.create(WinIpc::kServicePipe), 0);
   auto serving = std::async(std::launch::async, [&] {
     for (int tries = 0; tries < 10 && !service.accept(); ++tries) {
     }
-    std::string request;
-    if (service.read(request) == 0) service.write(huge);
     service.disconnect();
   });
-  ASSERT_TRUE(hostile::resetPeakResident());
-  const long before = hostile::peakResidentKiB();
-  ask(agent_test::parse(R"({"action":"get_status","log_id":0})"));
-  ASSERT_TRUE(failed_.count() == 1 || failed_.wait(20000));
-  serving.get();
-  const long peak = hostile::peakResidentKiB() - before;
-  std::printf("8 MiB answer of small elements: peak %ld KiB above the start (goal: under 400 MB in all)\n",
-              peak);
-  EXPECT_LT(peak, 64 * 1024);
-  EXPECT_EQ(done_.count(), 0);
-}
-
-TEST_F(Client, FailuresOnTheWayLogTheRequestMasked) {
-  // Garbage for an answer, then a service that hangs up on a request too big
-  // to go through before it does: both failures log the request.
-  std::atomic<int> round{0};
-  WinIpc::IpcServer service;
-  ASSERT_EQ(service.create(WinIpc::kServicePipe), 0);
-  auto serving = std::async(std::launch::async, [&] {
-    for (int served = 0; served < 2;) {
-      if (!service.accept()) continue;
-      std::string request;
-      if (served == 0 && service.read(request) == 0) service.write(std::string("not json ") + kSecrets[0]);
-      service.disconnect();
-      ++served;
-      round = served;
-    }
-  });
-  ask(tokenRequest());
-  ASSERT_TRUE(failed_.count() == 1 || failed_.wait(5000));
   Json::Value big = tokenRequest();
   big["content"]["padding"] = std::string(8 << 20, 'p');
   ask(big);
-  ASSERT_TRUE(failed_.count() == 2 || failed_.wait(10000));
+  ASSERT_TRUE(failed_.count() == 1 || failed_.wait(10000));
   serving.get();
   EXPECT_THAT(log(), HasSubstr("Failed to query service"));
   EXPECT_THAT(log(), HasSubstr("bytes cut]"));

@@ -75,26 +75,6 @@ QString describe(const QMap<QString, int>& m) {
   return parts.join(QStringLiteral(", "));
 }
 
-TEST(TranslationMarkers, CountEveryKindAndTellMultisetsApart) {
-  const QString src =
-      QStringLiteral("Error code {error_code}: <a href=\"%1\">more</a>\\n...") + QChar(0x00a0);
-  const QMap<QString, int> m = markers(src);
-  EXPECT_EQ(m.value(QStringLiteral("{error_code}")), 1);
-  EXPECT_EQ(m.value(QStringLiteral("<a href=\"%1\">")), 1);
-  EXPECT_EQ(m.value(QStringLiteral("</a>")), 1);
-  EXPECT_EQ(m.value(QStringLiteral("\\n")), 1);
-  EXPECT_EQ(m.value(QStringLiteral("...")), 1);
-  EXPECT_EQ(m.value(QString(QChar(0x00a0))), 1);
-  // Reordered: same multiset. A dropped tag, a changed attribute, a lost
-  // escape or a doubled marker: different.
-  EXPECT_EQ(markers(QStringLiteral("%2 und %1")), markers(QStringLiteral("%1 and %2")));
-  EXPECT_NE(markers(QStringLiteral("<a href=\"%1\">x")), markers(QStringLiteral("<a href=\"%1\">x</a>")));
-  EXPECT_NE(markers(QStringLiteral("<a href=\"x\">")), markers(QStringLiteral("<a href=\"%1\">")));
-  EXPECT_NE(markers(QStringLiteral("a b")), markers(QStringLiteral("a\\nb")));
-  EXPECT_NE(markers(QStringLiteral("%1 %1")), markers(QStringLiteral("%1")));
-  EXPECT_NE(markers(QStringLiteral("Warte…")), markers(QStringLiteral("Wait...")));
-}
-
 class TranslationFile : public ::testing::TestWithParam<QString> {};
 
 TEST_P(TranslationFile, HoldsEveryCatalogueTextOnceAndNothingElse) {
