@@ -80,6 +80,10 @@ TEST_F(StatusWorkerTest, AnswerIsStoredAndAnnounced) {
   EXPECT_EQ(info.port, 443);
   EXPECT_FALSE(info.ssl_allow_untrust);  // never read from a status answer
   EXPECT_EQ(info.proxy.proxy_port, 8080);
+  // The same answer again is announced again, the previous status now equal.
+  answer(worker_, R"({"status": 12289})");
+  EXPECT_EQ(notice(1).at(0).value<ServiceStatus>(), StatusBackupPreparing);
+  EXPECT_EQ(notice(1).at(1).value<ServiceStatus>(), StatusBackupPreparing);
 }
 
 TEST_F(StatusWorkerTest, AnswersForOtherSendersChangeNothing) {
@@ -103,14 +107,6 @@ TEST_F(StatusWorkerTest, AnswersForOtherSendersChangeNothing) {
   notice(1);
   drain();
   EXPECT_EQ(notices_.size(), 2);
-}
-
-TEST_F(StatusWorkerTest, IdenticalAnswersAnnounceTwiceTheSecondWithPreviousEqualCurrent) {
-  answer(worker_, R"({"status": 8192})");
-  answer(worker_, R"({"status": 8192})");
-  EXPECT_EQ(notice(0).at(0).value<ServiceStatus>(), StatusUnknown);
-  EXPECT_EQ(notice(1).at(0).value<ServiceStatus>(), StatusIdle);
-  EXPECT_EQ(notice(1).at(1).value<ServiceStatus>(), StatusIdle);
 }
 
 TEST_F(StatusWorkerTest, RequestCarriesTheLastLogIdAndZeroAfterClearing) {

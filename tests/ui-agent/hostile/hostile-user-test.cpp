@@ -149,19 +149,13 @@ TEST_F(AgentPipe, AFloodOfAnotherUsersConnectionsCostsOneLogLine) {
 }
 
 TEST_F(AgentPipe, AnotherUserHoldingTheNameDoesNotStopTheStart) {
-  const char* name = name_.c_str();
-  hostile::ForeignProcess squatter(hostile::kForeignUid, [&](int out, int in) {
-    if (hostile::rawBind(name, 4) < 0) return 2;
-    hostile::rawTell(out, 'r');
-    hostile::rawAwait(in);
-    return 0;
-  });
-  ASSERT_EQ(squatter.hear(), 'r');
+  const auto squatter = hostile::holdName(hostile::kForeignUid, name_);
+  ASSERT_EQ(squatter->hear(), 'r');
   EXPECT_NO_THROW(start());
   EXPECT_FALSE(server_->isServing());
   EXPECT_THAT(log(), HasSubstr("agent pipe held by uid 65534"));
-  squatter.tell('q');
-  EXPECT_EQ(squatter.wait(), 0);
+  squatter->tell('q');
+  EXPECT_EQ(squatter->wait(), 0);
   QElapsedTimer clock;
   clock.start();
   while (!server_->isServing() && clock.elapsed() < 10000) QThread::msleep(20);
@@ -419,15 +413,8 @@ TEST_F(Hostile, OnlyAPeerOfTheSameUserCountsAsSameUser) {
   nimbra_test::TempDir root;
   ASSERT_EQ(::chmod(root.path().c_str(), 0777), 0);
   const std::string path = root.file("their.sock");
-  hostile::ForeignProcess other(hostile::kForeignUid, [&](int out, int in) {
-    const int fd = hostile::rawBindPath(path.c_str(), 4);
-    if (fd < 0) return 2;
-    ::chmod(path.c_str(), 0777);
-    hostile::rawTell(out, 'r');
-    hostile::rawAwait(in);
-    return 0;
-  });
-  ASSERT_EQ(other.hear(), 'r');
+  const auto other = hostile::holdName(hostile::kForeignUid, path, true);
+  ASSERT_EQ(other->hear(), 'r');
   QLocalSocket toThem;
   toThem.connectToServer(QString::fromStdString(path));
   ASSERT_TRUE(toThem.waitForConnected(3000));
@@ -438,7 +425,7 @@ TEST_F(Hostile, OnlyAPeerOfTheSameUserCountsAsSameUser) {
   toMe.connectToServer(mine.fullServerName());
   ASSERT_TRUE(toMe.waitForConnected(3000));
   EXPECT_TRUE(user_identity::peerIsSameUser(toMe.socketDescriptor()));
-  other.tell('q');
+  other->tell('q');
 }
 
 // ---- the machine-wide lock -------------------------------------------------
@@ -482,15 +469,10 @@ TEST_P(MachineLockHolder, AnotherUsersHolderOfAnyKindRefusesTheStart) {
 TEST_F(Hostile, ThePrimaryHoldsTheMachineLockOnceThisUsersHolderLetsGo) {
   MachineLock lock("hostile-life-lock");
   const std::string name = lock.systemName();
-  hostile::ForeignProcess exiting(::geteuid(), [&](int out, int in) {
-    if (hostile::rawBind(name.c_str(), 8) < 0) return 2;
-    hostile::rawTell(out, 'r');
-    hostile::rawAwait(in);
-    return 0;
-  });
-  ASSERT_EQ(exiting.hear(), 'r');
+  const auto exiting = hostile::holdName(::geteuid(), name);
+  ASSERT_EQ(exiting->hear(), 'r');
   ASSERT_EQ(lock.acquire(), MachineLock::HeldBySameUser);
-  exiting.tell('q');
+  exiting->tell('q');
   EXPECT_EQ(lock.acquireForLife(5000), MachineLock::Acquired);
   EXPECT_TRUE(lock.held());
   hostile::ForeignProcess other(hostile::kForeignUid, [&](int out, int) {
