@@ -5,6 +5,7 @@
 
 #include <sys/stat.h>
 
+#include <QAction>
 #include <QDesktopServices>
 #include <QElapsedTimer>
 #include <QMessageBox>
@@ -314,6 +315,20 @@ TEST_F(Manager, OldLogIdsDroppedNewOnesSortedAndKept) {
   EXPECT_EQ(StatusStore::instance().getLastLogId(), 0u);
   EXPECT_TRUE(QGuiApplication::quitOnLastWindowClosed());
   EXPECT_TRUE(manager_->wizardWindow()->isVisible());
+}
+
+// Every status shows the menu entries of the connection the poller stored.
+TEST_F(Manager, EveryStatusShowsTheMenuEntriesOfTheStoredConnection) {
+  connect();
+  auto* console = agent_test::child<QAction>(manager_->systemTray()->trayMenu(), "actionWebConsole");
+  ASSERT_NE(console, nullptr);
+  EXPECT_TRUE(console->isVisible());
+  ConnectionInfo forked;
+  forked.is_auth_fork = true;
+  StatusStore::instance().setConnectionInfo(forked);
+  emit GlobalConnecter::instance().sigNotifyStatusChange(ServiceStatus(0), ServiceStatus(0x2000),
+                                                         Json::Value());
+  EXPECT_FALSE(console->isVisible());
 }
 
 TEST_F(Manager, FailuresWhilePollingResetByStatusFatalAtThirtyOne) {
