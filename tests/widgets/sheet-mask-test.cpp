@@ -181,8 +181,9 @@ TEST_P(WidgetsSheetCard, DrawsItsWhiteCardOverTheWindow) {
   sheet.exec();
   ASSERT_FALSE(shot.isNull());
   // Inside the card, left of the picture and below the buttons: the card's own background.
-  for (const QPoint p : {QPoint(card.left() + 10, card.center().y()), QPoint(card.center().x(), card.bottom() - 6),
-                         QPoint(card.right() - 10, card.top() + 10)})
+  for (const QPoint p :
+       {QPoint(card.left() + 10, card.center().y()), QPoint(card.center().x(), card.bottom() - 6),
+        QPoint(card.right() - 10, card.top() + 10)})
     EXPECT_EQ(QColor(shot.pixel(p)).name().toStdString(), "#ffffff") << "at " << p.x() << "," << p.y();
   // Outside it, the window as it was.
   EXPECT_EQ(QColor(shot.pixel(2, 2)).name().toStdString(), "#3c3c3c");
