@@ -148,6 +148,10 @@ TEST_P(WebLink, OnlyHttpAndHttpsAddressesWithAHostOpen) {
   const QUrl url = web_link::parse(QString::fromUtf8(GetParam().address));
   EXPECT_EQ(url.isValid() ? url.toString(QUrl::FullyEncoded).toStdString() : std::string(),
             GetParam().opened);
+  if (*GetParam().opened) return;
+  widgets_test::LogCapture log;
+  EXPECT_FALSE(web_link::open(QString::fromUtf8(GetParam().address), "test link"));
+  EXPECT_EQ(log.count("test link: not a web address, not opened"), 1) << log.text();
 }
 
 INSTANTIATE_TEST_SUITE_P(
