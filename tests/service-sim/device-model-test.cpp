@@ -64,62 +64,21 @@ class SimModelTest : public ::testing::Test {
   nimbra_test::TempDir dir_;
 };
 
-TEST_F(SimModelTest, WholeStoryFromSignInToLogout) {
-  auto m = make(quick_scenario(false));
-  EXPECT_EQ(num(get_status(*m), "status"), st::kNotLinked);
-  EXPECT_FALSE(jsonx::has(m->handle(request("get_connection_info")), "connection"));
-  // No site list and no device before a token was accepted.
-  EXPECT_EQ(num(m->handle(request("get_site_info")), "error/code"), 15);
-  m->set_signin_url("http://127.0.0.1:1/signin");
-  EXPECT_EQ(str(m->handle(request("get_auth")), "redirect_to"), "http://127.0.0.1:1/signin");
-
-  link(*m);
-  EXPECT_TRUE(m->linked());
-  const Json::Value info = m->handle(request("get_connection_info"));
-  EXPECT_EQ(str(info, "connection/account_type"), "vell");
-  EXPECT_TRUE(jsonx::is_object(at(info, "proxy")));
-  const Json::Value idle = get_status(*m);
-  EXPECT_EQ(num(idle, "status"), st::kIdle);
-  EXPECT_THAT(log_types(idle), ElementsAre(5001));
-  EXPECT_TRUE(jsonx::get_bool(at(idle, "content"), "connected"));
-  EXPECT_EQ(num(idle, "content/billing/quota"), 100000);
-  EXPECT_FALSE(jsonx::has(at(idle, "content"), "transfer"));
-  EXPECT_EQ(num(m->handle(request("update_tray_menu")), "billing/quota"), 100000);
+// (The story from sign-in to a backup's result and logout is played whole by
+// the desktop tests.) What the agent's screens do not reach: the portal links
+// and a second backup_now while one runs, refused with event 1137.
+TEST_F(SimModelTest, PortalLinksAndASecondBackupWhileOneRuns) {
+  auto m = make(quick_scenario(true));
   for (const char* sub : {"help", "restore_portal", "web_console"})
     EXPECT_EQ(str(m->handle(request("get_portal_link", {{"subaction", sub}})), "url").rfind("https://", 0),
               0u);
-
   EXPECT_TRUE(ok(m->handle(request("backup_now"))));
-  EXPECT_EQ(num(get_status(*m), "status"), st::kPreparingDevice);
-  run_for(*m, 600);
-  EXPECT_EQ(num(get_status(*m), "status"), st::kPreparingSnapshot);
-  run_for(*m, 1400);  // 1 s into the transfer: 250 of 1000 bytes
-  const Json::Value running = get_status(*m);
-  EXPECT_EQ(num(running, "status"), st::kBackingUp);
-  EXPECT_EQ(jsonx::compact(at(running, "content/transfer")),
+  run_for(*m, 2000);  // 1 s into the transfer: 250 of 1000 bytes
+  EXPECT_EQ(jsonx::compact(at(get_status(*m), "content/transfer")),
             R"({"delta_upload":125,"speed":250,"total":1000,"transfer":250})");
-  // A second backup_now while one runs is refused with event 1137.
   const Json::UInt64 seen = m->last_log_id();
   m->handle(request("backup_now"));
   EXPECT_THAT(log_types(get_status(*m, seen)), ElementsAre(1137));
-
-  run_for(*m, 3500);
-  const Json::Value done = get_status(*m);
-  EXPECT_EQ(num(done, "status"), st::kIdle);
-  EXPECT_EQ(last_result(done), 2);
-  EXPECT_TRUE(jsonx::get_bool(at(done, "content/last_backup_result"), "backed_up"));
-  EXPECT_GT(num(done, "content/last_backup_result/last_backup_time"), 0);
-  EXPECT_EQ(m->used_bytes(), 500u);
-  const auto pushed = m->take_notifications();
-  ASSERT_EQ(pushed.size(), 1u);
-  EXPECT_EQ(str(pushed[0], "site_path"), "https://eu.console.nimbrabackup.example");
-  const Json::Value& n = jsonx::get_array(pushed[0], "notifications")[0];
-  EXPECT_EQ(num(n, "type"), 7);
-  EXPECT_EQ(num(n, "data/status"), 2);
-
-  EXPECT_TRUE(ok(m->handle(request("logout"))));
-  EXPECT_EQ(num(get_status(*m), "status"), st::kNotLinked);
-  EXPECT_FALSE(jsonx::has(m->handle(request("get_connection_info")), "connection"));
 }
 
 TEST_F(SimModelTest, TokensAreAcceptedOnlyWhenIssuedAndOnlyOnce) {
