@@ -24,7 +24,7 @@ class StatusNotifierPanel : public AgentDesktop {
   ::testing::AssertionResult startWatcher() {
     if (!QFile::exists("/usr/bin/busctl"))
       return ::testing::AssertionFailure() << "busctl is missing: scripts/setup installs it";
-    watcher_ = std::make_unique<notifier_test::ChildProcess>();
+    watcher_ = std::make_unique<nimbra_test::ChildProcess>();
     watcher_->setProcessEnvironment(env_);
     watcher_->setStandardErrorFile(QString::fromStdString(scratch_->path()) + "/sni-watcher.err",
                                    QIODevice::Append);
@@ -236,7 +236,7 @@ class LxqtPanel : public AgentDesktop {
                    "width-percent=true\n\n[statusnotifier]\ntype=statusnotifier\n") < 0)
       return ::testing::AssertionFailure() << "cannot write " << conf.fileName().toStdString();
     conf.close();
-    panel_ = std::make_unique<notifier_test::ChildProcess>();
+    panel_ = std::make_unique<nimbra_test::ChildProcess>();
     panel_->setProcessEnvironment(env_);
     panel_->setStandardOutputFile(QString::fromStdString(scratch_->path()) + "/lxqt-panel.log");
     panel_->setStandardErrorFile(QString::fromStdString(scratch_->path()) + "/lxqt-panel.log",

@@ -24,7 +24,7 @@
 
 #include "desktop/agent-desktop.h"
 #include "desktop/atspi-tree.h"
-#include "notifier/private-desktop.h"
+#include "support/desktop.h"
 
 namespace desktop_test {
 namespace {
@@ -59,7 +59,7 @@ class Sway : public AgentDesktop {
                                 "<allow eavesdrop=\"true\"/><allow own=\"*\"/>"
                                 "</policy></busconfig>\n");
 
-    bus_ = std::make_unique<notifier_test::ChildProcess>();
+    bus_ = std::make_unique<nimbra_test::ChildProcess>();
     bus_->start("dbus-daemon", {"--config-file=" + rt + "/bus.conf", "--nofork", "--print-address"});
     ASSERT_TRUE(bus_->waitForReadyRead(10000)) << "no session bus";
     busAddress_ = QString::fromUtf8(bus_->readLine()).trimmed();
@@ -67,7 +67,7 @@ class Sway : public AgentDesktop {
 
     // timeout: sway and waybar run as another user, out of reach of the
     // death signal that ends the test's other helpers with the test.
-    sway_ = std::make_unique<notifier_test::ChildProcess>();
+    sway_ = std::make_unique<nimbra_test::ChildProcess>();
     sway_->setStandardErrorFile(rt + "/sway.log");
     sway_->start("setpriv",
                  {"--reuid=65534", "--regid=65534", "--clear-groups", "env", "-i", "PATH=/usr/bin:/bin",
@@ -76,7 +76,7 @@ class Sway : public AgentDesktop {
                   "WLR_HEADLESS_OUTPUTS=1", "timeout", "170", "sway", "-c", rt + "/sway.conf"});
     ASSERT_TRUE(waitUntil([&] { return QFile::exists(rt + "/wayland-1") && !swaySocket().isEmpty(); }, 10000))
         << "sway did not come up";
-    waybar_ = std::make_unique<notifier_test::ChildProcess>();
+    waybar_ = std::make_unique<nimbra_test::ChildProcess>();
     waybar_->setStandardOutputFile(rt + "/waybar.log");
     waybar_->setStandardErrorFile(rt + "/waybar.log", QIODevice::Append);
     waybar_->start("setpriv", {"--reuid=65534", "--regid=65534", "--clear-groups", "env", "-i",
@@ -96,7 +96,7 @@ class Sway : public AgentDesktop {
     env_.insert("DBUS_SESSION_BUS_ADDRESS", busAddress_);
     // A keyboard on the seat for as long as the test runs (without one
     // the first keys are lost).
-    keyboard_ = std::make_unique<notifier_test::ChildProcess>();
+    keyboard_ = std::make_unique<nimbra_test::ChildProcess>();
     keyboard_->setProcessEnvironment(env_);
     keyboard_->start("wtype", {"-s", "3600000"});
   }
@@ -128,7 +128,7 @@ class Sway : public AgentDesktop {
     return s.isEmpty() ? QString() : runtime_->path() + "/" + s.first();
   }
   QString busRun(const QStringList& args) const {
-    notifier_test::ChildProcess p;
+    nimbra_test::ChildProcess p;
     QProcessEnvironment e = env_;
     e.insert("DBUS_SESSION_BUS_ADDRESS", busAddress_);
     p.setProcessEnvironment(e);
@@ -158,14 +158,14 @@ class Sway : public AgentDesktop {
     const QString path =
         QStringLiteral("%1/%2-%3.png").arg(shotDir_).arg(++shots_, 2, 10, QChar('0')).arg(step);
     QProcessEnvironment e = env_;
-    notifier_test::ChildProcess p;
+    nimbra_test::ChildProcess p;
     p.setProcessEnvironment(e);
     p.start("grim", {path});
     p.waitForFinished(10000);
     return QImage(path);
   }
   void type(const QString& key) {
-    notifier_test::ChildProcess p;
+    nimbra_test::ChildProcess p;
     p.setProcessEnvironment(env_);
     p.start("wtype", {"-k", key});
     p.waitForFinished(5000);
@@ -191,7 +191,7 @@ class Sway : public AgentDesktop {
   }
 
   std::unique_ptr<QTemporaryDir> runtime_;
-  std::unique_ptr<notifier_test::ChildProcess> bus_, sway_, waybar_, keyboard_;
+  std::unique_ptr<nimbra_test::ChildProcess> bus_, sway_, waybar_, keyboard_;
   QString busAddress_;
 };
 

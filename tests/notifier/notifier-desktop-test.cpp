@@ -5,8 +5,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <signal.h>
+#include <algorithm>
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -16,12 +16,12 @@
 
 #include <cstdio>
 
-#include "private-desktop.h"
+#include "support/desktop.h"
 #include "support/qt-print.h"
 #include "support/temp-dir.h"
 
-using notifier_test::PrivateDesktop;
-using notifier_test::wait_until;
+using nimbra_test::VirtualDesktop;
+using nimbra_test::wait_until;
 using ::testing::HasSubstr;
 
 namespace {
@@ -129,7 +129,7 @@ class NotifierOnDesktop : public ::testing::Test {
   nimbra_test::TempDir tmp_;
   QString scratch_ = QString::fromStdString(tmp_.path());
   NotifierApp app_{scratch_};
-  PrivateDesktop desktop_{scratch_};
+  VirtualDesktop desktop_{scratch_};
 };
 
 struct ButtonRow {
@@ -216,7 +216,8 @@ TEST_F(NotifierOnDesktop, ARepeatedEventReplacesItsEarlierNotificationOthersStay
 TEST_F(NotifierOnDesktop, ARunWhoseNotificationWasReplacedLeavesItOnScreen) {
   QProcessEnvironment brief = desktop_.environment();
   brief.insert("NIMBRA_NOTIFIER_LINGER_MS", "1500");
-  ASSERT_EQ(app_.run(notifier_args({element("Backup failed", "one", "Open Nimbra Backup", 1)}), brief).code, 0);
+  ASSERT_EQ(app_.run(notifier_args({element("Backup failed", "one", "Open Nimbra Backup", 1)}), brief).code,
+            0);
   const std::vector<int> first = app_.processes();
   show({element("Backup failed", "two", "Open Nimbra Backup", 1)});
   // The first run's time is over: it ends without closing what the second shows.
@@ -266,7 +267,7 @@ TEST(NotifierWithoutService, NoServiceOnTheBusExits3) {
   const QString scratch = QString::fromStdString(tmp.path());
   NotifierApp app(scratch);
   ASSERT_TRUE(app.ready());
-  PrivateDesktop desktop(scratch);
+  VirtualDesktop desktop(scratch);
   ASSERT_EQ(desktop.startBus(), "");
   const RunResult r = app.run(notifier_args({element("Backup successful", "x", "Open Nimbra Backup", 1)}),
                               desktop.environment());
