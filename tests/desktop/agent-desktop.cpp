@@ -170,7 +170,7 @@ void AgentDesktop::TearDown() {
   QElapsedTimer clock;
   clock.start();
   while (!sim_->canReadLine()) {
-    if (clock.elapsed() > 20000 || sim_->state() == QProcess::NotRunning)
+    if (clock.elapsed() > 30000 || sim_->state() == QProcess::NotRunning)
       return ::testing::AssertionFailure() << "the simulator never said ready";
     sim_->waitForReadyRead(200);
   }
@@ -200,8 +200,8 @@ void AgentDesktop::stopSim(bool kill) {
 ::testing::AssertionResult AgentDesktop::startLinked(const QString& scenario, const QStringList& args) {
   if (auto r = startSim(scenario); !r) return r;
   if (auto r = startAgent(args); !r) return r;
-  if (!waitForAction("get_status", 30000)) return ::testing::AssertionFailure() << "the agent never polls";
-  if (withTray() && !waitUntil([&] { return !trayIcon().isEmpty(); }, 20000))
+  if (!waitForAction("get_status", 60000)) return ::testing::AssertionFailure() << "the agent never polls";
+  if (withTray() && !waitUntil([&] { return !trayIcon().isEmpty(); }, 60000))
     return ::testing::AssertionFailure() << "no icon in the tray";
   return ::testing::AssertionSuccess();
 }
@@ -313,7 +313,7 @@ bool AgentDesktop::agentHasFocus() const {
             run("xdotool", {"windowactivate", "--sync", window}, &code);
             return code == 0 && run("xdotool", {"getactivewindow"}).trimmed() == window;
           },
-          10000))
+          30000))
     return ::testing::AssertionFailure() << "window " << window.toStdString() << " never became active";
   return ::testing::AssertionSuccess();
 }
@@ -327,7 +327,7 @@ bool AgentDesktop::pressUntil(const QString& key, const std::function<bool()>& d
   clock.start();
   while (clock.elapsed() < ms) {
     keys({key});
-    if (waitUntil(done, 3000)) return true;
+    if (waitUntil(done, 5000)) return true;
   }
   return done();
 }

@@ -96,8 +96,8 @@ class AgentDesktop : public ::testing::Test {
   // Activates `window` the way a click on it would; keys (xdotool key
   // names) go to whatever has the focus, as a keyboard's do.
   ::testing::AssertionResult activate(const QString& window);
-  void keys(const QStringList& keys);
-  // Presses `key` until `done` holds (waiting 3 s after each press), as a
+  virtual void keys(const QStringList& keys);
+  // Presses `key` until `done` holds (waiting 5 s after each press), as a
   // person presses again when a window that just came up missed the key.
   bool pressUntil(const QString& key, const std::function<bool()>& done, int ms);
 

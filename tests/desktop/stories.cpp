@@ -1,6 +1,32 @@
-// The whole-process stories of stories.txt, one test case each: the driver
-// reads a story's steps and plays them against the real agent and simulator
-// on a desktop of the case's own (see the file's head for the steps).
+// Whole-process stories: the real agent against the simulator's scenarios on
+// a desktop of its own, played here, one test case each. "== Suite.Name [notray]" starts
+// a story (notray: no tint2). Each line after it is one step; a screenshot
+// follows every step (build/tests/desktop-shots/<story>/).
+//
+// Expectations are waited for, 60 s or the seconds written before the step:
+//   request ACTION [N]     the simulator's record holds N (1) of ACTION
+//   count N ACTION         exactly N;  more N ACTION: N more than at the mark
+//   field ACTION KEY VALUE the first ACTION's KEY is VALUE (? : not empty)
+//   picture NAME           the tray icon shows connect/running/success/error/warning
+//   popup, no-popup        the tray pop-up is up / gone
+//   windows N [REGEX]      N visible windows of the agent named REGEX ("^Nimbra Backup$")
+//   dialog, no-dialog      an agent window that is neither pop-up nor icon
+//   icon, first-actions ACTION...  the icon is in the tray / the record starts so
+//   focus, running         the agent has the keyboard / still runs
+//   log TEXT; log-count N TEXT; log-more N TEXT; log-same TEXT (as at the mark)
+//   page TEXT              the pop-up's page (as the agent logs it) starts with TEXT
+//   pixels >|< N RRGGBB [TOLERANCE]  screen pixels of that colour
+//   shown N                dunst shows N notifications
+//   status-file TEXT       the first line of the working space's service-status
+// Actions: start SCENARIO (sim, agent, window), sim SCENARIO, sim-again SCENARIO (its state kept), kill-sim,
+// agent [ARGS], linked SCENARIO [ARGS], launch [ARGS] (a second launch ending 0), keys KEY..., press KEY
+// EXPECTATION (again every 5 s until it holds), not-within MS EXPECTATION, window [REGEX] (waited for and
+// activated), dialog-window, click-icon [BUTTON], click-away, click-user, click-list, click-colour RRGGBB (in
+// the dialog), menu (the icon's right-click menu), activity (the list up, Escape closes it), exits CODE (with
+// no thread left running), notifications N TITLE | TITLE (each with the agent's button; then closed),
+// popup-above-icon, popup-framed, clean-pages, log-order A | B, mark, after-ms MS (since the mark),
+// failed-before MIN MAX TEXT, polls-follow.
+//
 #include <QElapsedTimer>
 #include <QFile>
 #include <QRegularExpression>
@@ -135,6 +161,12 @@ class AgentStory : public AgentDesktop, public ::testing::WithParamInterface<Sto
       auto done = expectation(w.mid(2));
       if (!done) return ::testing::AssertionFailure() << "no expectation";
       return ok(verb == "press" ? pressUntil(w[1], done, ms) : !waitUntil(done, w[1].toInt()));
+    }
+    if (verb == "start") {  // the simulator, the agent and its first window, activated
+      if (auto r = startSim(w[1]); !r) return r;
+      if (auto r = startAgent(); !r) return r;
+      const QString window = waitForAgentWindow(ms);
+      return window.isEmpty() ? ok(false) << "no window" : activate(window);
     }
     if (verb == "sim") return startSim(w[1]);
     if (verb == "sim-again") return startSim(w[1], true);

@@ -46,11 +46,11 @@ QString VirtualDesktop::startReading(QProcess& p, const QString& program, const 
                                      QString& first_line) {
   p.setStandardErrorFile(scratch_ + "/" + QFileInfo(program).fileName() + ".log");
   p.start(program, args);
-  if (!p.waitForStarted(5000)) return program + " does not start: " + p.errorString();
+  if (!p.waitForStarted(30000)) return program + " does not start: " + p.errorString();
   QElapsedTimer t;
   t.start();
   while (!p.canReadLine()) {
-    if (t.elapsed() > 10000 || p.state() == QProcess::NotRunning) return program + " printed nothing";
+    if (t.elapsed() > 30000 || p.state() == QProcess::NotRunning) return program + " printed nothing";
     p.waitForReadyRead(200);
   }
   first_line = QString::fromUtf8(p.readLine()).trimmed();
@@ -96,7 +96,7 @@ QString VirtualDesktop::startDisplay(const QString& screen) {
             run("xprop", {"-root", "-len", "1", "_XKB_RULES_NAMES"}, &code);
             return code == 0;
           },
-          10000))
+          30000))
     return "no client can open display " + display_;
   return {};
 }
@@ -117,14 +117,14 @@ QString VirtualDesktop::startDunst() {
                              "[urgency_critical]\n    timeout = 0\n")
                          .arg(menu));
   dunst_ = startLogged("dunst", {"-config", config});
-  if (!dunst_->waitForStarted(5000)) return "dunst does not start: " + dunst_->errorString();
+  if (!dunst_->waitForStarted(30000)) return "dunst does not start: " + dunst_->errorString();
   int code = -1;
   if (!wait_until(
           [&] {
             run("dunstctl", {"is-paused"}, &code);
             return code == 0;
           },
-          10000))
+          30000))
     return "dunst does not answer on the bus";
   return {};
 }
@@ -143,7 +143,7 @@ QString VirtualDesktop::startWindowManager() {
   clock.start();
   while (clock.elapsed() < kBudgetMs) {
     openbox_ = startLogged("openbox", {"--sm-disable"});
-    if (!openbox_->waitForStarted(5000)) return "openbox does not start: " + openbox_->errorString();
+    if (!openbox_->waitForStarted(30000)) return "openbox does not start: " + openbox_->errorString();
     wait_until([&] { return openbox_->state() == QProcess::NotRunning || announced(); },
                static_cast<double>(std::min<qint64>(kTryMs, kBudgetMs - clock.elapsed())));
     if (openbox_->state() == QProcess::Running && announced()) return {};
@@ -162,7 +162,7 @@ QString VirtualDesktop::startTray(const QString& extra) {
                                     "time1_format = %H:%M\n") +
                          extra);
   tint2_ = startLogged("tint2", {"-c", config});
-  if (!tint2_->waitForStarted(5000)) return "tint2 does not start: " + tint2_->errorString();
+  if (!tint2_->waitForStarted(30000)) return "tint2 does not start: " + tint2_->errorString();
   if (!wait_until(
           [&] {
             return !run("xdotool", {"search", "--onlyvisible", "--class", "tint2"}).isEmpty();
