@@ -1,11 +1,10 @@
-// The agent on StatusNotifierItem panels (X11). StatusNotifierPanel: a bare
-// org.kde.StatusNotifierWatcher (sni-watcher.py) stands for the panel, and
-// busctl does what the panel does: reads the item, clicks it (Activate with
-// the point of the click) and clicks its menu's entries (dbusmenu Event).
-// BothTrays: the watcher beside tint2, coming and going. LateXEmbedTray:
-// tint2 starting after the agent. LxqtPanel: a real panel, clicked with the
-// pointer. Where the pop-up goes for a point is placement-test's table; here
-// only that the click's point reaches it.
+// The agent on StatusNotifierItem panels (X11): lxqt-panel with its
+// statusnotifier plugin along the bottom, and busctl doing what any panel
+// does: reads the item, clicks it (Activate with the point of the click) and
+// clicks its menu's entries (dbusmenu Event). BothTrays: the panel beside
+// tint2, coming and going; and tint2 or the panel starting after the agent.
+// Where the pop-up goes for a point is placement-test's table; here only that
+// the click's point reaches it.
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -24,32 +23,29 @@ class StatusNotifierPanel : public AgentDesktop {
     AgentDesktop::TearDown();
   }
 
-  // sni-watcher.py, or lxqt-panel with its statusnotifier plugin, once it owns the watcher's name.
-  ::testing::AssertionResult startPanel(bool lxqt = false) {
-    if (QStandardPaths::findExecutable(lxqt ? "lxqt-panel" : "busctl").isEmpty())
+  // lxqt-panel, once it owns the watcher's name.
+  ::testing::AssertionResult startPanel() {
+    if (QStandardPaths::findExecutable("lxqt-panel").isEmpty() ||
+        QStandardPaths::findExecutable("busctl").isEmpty())
       return ::testing::AssertionFailure() << "scripts/setup installs lxqt-panel and busctl";
-    if (lxqt && (!QDir().mkpath(env_.value("XDG_CONFIG_HOME") + "/lxqt") ||
-                 !nimbra_test::write_text(
-                     env_.value("XDG_CONFIG_HOME") + "/lxqt/panel.conf",
-                     "[General]\n__userfile__=true\npanels=panel1\n\n[panel1]\nalignment=-1\n"
-                     "panelSize=32\niconSize=22\nplugins=statusnotifier\nposition=Bottom\nwidth=100\n"
-                     "width-percent=true\n\n[statusnotifier]\ntype=statusnotifier\n")))
+    if (!QDir().mkpath(env_.value("XDG_CONFIG_HOME") + "/lxqt") ||
+        !nimbra_test::write_text(
+            env_.value("XDG_CONFIG_HOME") + "/lxqt/panel.conf",
+            "[General]\n__userfile__=true\npanels=panel1\n\n[panel1]\nalignment=-1\n"
+            "panelSize=32\niconSize=22\nplugins=statusnotifier\nposition=Bottom\nwidth=100\n"
+            "width-percent=true\n\n[statusnotifier]\ntype=statusnotifier\n"))
       return ::testing::AssertionFailure() << "cannot write lxqt's panel.conf";
     panel_ = std::make_unique<nimbra_test::ChildProcess>();
     panel_->setProcessEnvironment(env_);
     panel_->setStandardOutputFile(scratch() + "/panel.log", QIODevice::Append);
     panel_->setStandardErrorFile(scratch() + "/panel.log", QIODevice::Append);
-    if (lxqt) {
-      panel_->start("lxqt-panel", QStringList());
-    } else {
-      panel_->start("/usr/bin/python3", {source("/tests/desktop/sni-watcher.py")});
-    }
+    panel_->start("lxqt-panel", QStringList());
     if (!waitUntil(
             [&] {
               return run("busctl", {"--user", "list"}).contains("org.kde.StatusNotifierWatcher");
             },
             30000))
-      return ::testing::AssertionFailure() << "no StatusNotifierWatcher came up";
+      return ::testing::AssertionFailure() << "lxqt-panel's watcher did not come up";
     return ::testing::AssertionSuccess();
   }
   // The "data" of a busctl call in JSON (its options ended before the
@@ -60,17 +56,23 @@ class StatusNotifierPanel : public AgentDesktop {
         .object()
         .value("data");
   }
-  // The agent's item as the watcher lists it; empty until it registered.
-  QString item() const {
-    return busctl({"get-property", "org.kde.StatusNotifierWatcher", "/StatusNotifierWatcher",
-                   "org.kde.StatusNotifierWatcher", "RegisteredStatusNotifierItems"})
-        .toArray()
-        .first()
-        .toString();
+  // The agent's item as the watcher lists it ("service/path" or just the
+  // service): its service, empty until it registered, and its path.
+  QString item(QString* path = nullptr) const {
+    const QString listed = busctl({"get-property", "org.kde.StatusNotifierWatcher", "/StatusNotifierWatcher",
+                                   "org.kde.StatusNotifierWatcher", "RegisteredStatusNotifierItems"})
+                               .toArray()
+                               .first()
+                               .toString();
+    if (path) *path = listed.contains('/') ? listed.mid(listed.indexOf('/')) : "/StatusNotifierItem";
+    return listed.section('/', 0, 0);
   }
-  QJsonValue itemProperty(const QString& name) const {
-    return busctl({"get-property", item(), "/StatusNotifierItem", "org.kde.StatusNotifierItem", name});
+  QJsonValue itemCall(const QString& verb, const QStringList& args) const {
+    QString path;
+    const QString service = item(&path);
+    return busctl(QStringList{verb, service, path, "org.kde.StatusNotifierItem"} + args);
   }
+  QJsonValue itemProperty(const QString& name) const { return itemCall("get-property", {name}); }
   // The largest of the item's pictures, as the panel would draw it.
   TrayPicture itemPicture() const {
     QImage best;
@@ -89,8 +91,7 @@ class StatusNotifierPanel : public AgentDesktop {
   }
   // A click on the item at (x, y); the pop-up's place once it is up.
   QRect popupAfterClickAt(int x, int y) {
-    busctl({"call", item(), "/StatusNotifierItem", "org.kde.StatusNotifierItem", "Activate", "ii",
-            QString::number(x), QString::number(y)});
+    itemCall("call", {"Activate", "ii", QString::number(x), QString::number(y)});
     QRect r;
     waitUntil([&] { return !(r = windowRect(popup())).isEmpty(); }, 30000);
     return r;
@@ -156,7 +157,7 @@ TEST_F(StatusNotifierPanel, IconRegistersWhenThePanelStartsLate) {
   EXPECT_TRUE(isPopup());
 }
 
-// A panel that has both kinds of tray (tint2 here, and the watcher).
+// A desktop with both kinds of tray (tint2 and the panel).
 class BothTrays : public StatusNotifierPanel {
  protected:
   bool withTray() const override { return true; }
@@ -186,9 +187,9 @@ TEST_F(StatusNotifierPanel, IconAppearsWhenAnXEmbedTrayStartsLate) {
   EXPECT_TRUE(waitUntil([&] { return !popup().isEmpty(); }, 30000)) << "a click on the icon shows no pop-up";
 }
 
-// A real StatusNotifierItem panel, clicked as a person clicks it.
+// The panel's icon clicked as a person clicks it.
 TEST_F(StatusNotifierPanel, OnLxqtPanelAClickOpensThePopupAboveTheIconAndTheMenuWorks) {
-  ASSERT_TRUE(startPanel(true));
+  ASSERT_TRUE(startPanel());
   ASSERT_TRUE(startLinked("idle"));
   // The green picture in the panel along the bottom (768 to 799).
   const QRect panel(0, 768, 1280, 32);
