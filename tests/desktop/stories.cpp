@@ -18,6 +18,9 @@
 //   pixels >|< N RRGGBB [TOLERANCE]  screen pixels of that colour
 //   shown N                dunst shows N notifications
 //   status-file TEXT       the first line of the working space's service-status
+//   a11y-node ROLE | NAME  a showing node of the accessibility tree (NAME *: any, ?: not empty)
+//   a11y-value ROLE | CAPTION  a value read whole, with its caption as description
+//   a11y-windows           every window is a frame or a dialog;  a11y-press NAME: pressed
 // Actions: start SCENARIO (sim, agent, window), sim SCENARIO, sim-again SCENARIO (its state kept), kill-sim,
 // agent [ARGS], linked SCENARIO [ARGS], launch [ARGS] (a second launch ending 0), keys KEY..., press KEY
 // EXPECTATION (again every 5 s until it holds), not-within MS EXPECTATION, window [REGEX] (waited for and
@@ -34,6 +37,7 @@
 #include <algorithm>
 
 #include "desktop/agent-desktop.h"
+#include "desktop/atspi-tree.h"
 
 namespace desktop_test {
 namespace {
@@ -138,6 +142,24 @@ class AgentStory : public AgentDesktop, public ::testing::WithParamInterface<Sto
         const QString v = firstRequest(w[1]).value(w[2]).toString();
         return w[3] == "?" ? !v.isEmpty() : v == w[3];
       };
+    if (verb.startsWith("a11y-")) {  // what a screen reader reads: "ROLE | NAME" (* any) or "ROLE | CAPTION"
+      const QStringList rn = w.mid(1).join(' ').split(" | ");
+      if (verb == "a11y-press") return [=] { return a11y_->press(rn[0]); };
+      if (verb == "a11y-windows")
+        return [=] {
+          const QVector<A11yNode> nodes = a11y_->nodes();
+          return !nodes.isEmpty() && std::all_of(nodes.begin(), nodes.end(), [](const A11yNode& node) {
+            return node.depth != 1 || node.role == "frame" || node.role == "dialog";
+          });
+        };
+      const auto match = [=](const A11yNode& node) {
+        return node.role == rn[0] &&
+               (verb == "a11y-node"
+                    ? rn[1] == "*" || (rn[1] == "?" ? !node.name.isEmpty() : node.name == rn[1])
+                    : node.description == rn[1] && !node.name.isEmpty() && node.name != node.description);
+      };
+      return [=] { return !a11y_->waitFor(match, 0).role.isEmpty(); };
+    }
     if (verb == "shown") return [=] { return desktop_->displayed() >= n; };
     if (verb == "status-file")
       return [=] {
@@ -167,6 +189,11 @@ class AgentStory : public AgentDesktop, public ::testing::WithParamInterface<Sto
       if (auto r = startAgent(); !r) return r;
       const QString window = waitForAgentWindow(ms);
       return window.isEmpty() ? ok(false) << "no window" : activate(window);
+    }
+    if (verb == "a11y") {  // the accessibility bus comes up after the agent, as a screen reader started later
+      a11y_ =
+          std::make_unique<AtspiTree>(env_, source("/tests/desktop/atspi-driver.py"), agent_->processId());
+      return a11y_->startBus(scratch() + "/at-spi.err");
     }
     if (verb == "sim") return startSim(w[1]);
     if (verb == "sim-again") return startSim(w[1], true);
@@ -290,6 +317,12 @@ class AgentStory : public AgentDesktop, public ::testing::WithParamInterface<Sto
     return ::testing::AssertionFailure() << "unknown step";
   }
 
+  void TearDown() override {
+    AgentDesktop::TearDown();
+    a11y_.reset();
+  }
+
+  std::unique_ptr<AtspiTree> a11y_;
   QStringList markActions_;
   QString markLog_;
   QElapsedTimer markClock_;
