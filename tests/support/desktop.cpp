@@ -129,29 +129,33 @@ QString VirtualDesktop::startDunst() {
   return {};
 }
 
-QString VirtualDesktop::startWindowManager() {
-  // A window manager that supports _NET_ACTIVE_WINDOW announces itself on
-  // the root window. openbox sometimes fails to open a display that other
-  // clients open fine, and the one started after it then hangs without a
-  // word: each try gets 20 s (a loaded machine needs seconds) before it is
-  // stopped and another starts, within 60 s in all.
+QString VirtualDesktop::startUntil(std::unique_ptr<QProcess>& p, const QString& program,
+                                   const QStringList& args, const std::function<bool()>& ready) {
+  // openbox sometimes fails to open a display that other clients open fine
+  // and hangs without a word, and tint2 now and then never shows its panel
+  // on a loaded machine: each try gets 20 s before it is stopped and another
+  // starts, within 60 s in all.
   constexpr int kBudgetMs = 60000, kTryMs = 20000;
-  const auto announced = [this] {
-    return run("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"}).contains("window id");
-  };
   QElapsedTimer clock;
   clock.start();
   while (clock.elapsed() < kBudgetMs) {
-    openbox_ = startLogged("openbox", {"--sm-disable"});
-    if (!openbox_->waitForStarted(30000)) return "openbox does not start: " + openbox_->errorString();
-    wait_until([&] { return openbox_->state() == QProcess::NotRunning || announced(); },
+    p = startLogged(program, args);
+    if (!p->waitForStarted(30000)) return program + " does not start: " + p->errorString();
+    wait_until([&] { return p->state() == QProcess::NotRunning || ready(); },
                static_cast<double>(std::min<qint64>(kTryMs, kBudgetMs - clock.elapsed())));
-    if (openbox_->state() == QProcess::Running && announced()) return {};
-    stop_process(openbox_);
+    if (p->state() == QProcess::Running && ready()) return {};
+    stop_process(p);
   }
-  QFile log(scratch_ + "/openbox.log");
+  QFile log(scratch_ + "/" + program + ".log");
   log.open(QIODevice::ReadOnly);
-  return "openbox does not manage the screen within 60 s; its log: " + QString::fromUtf8(log.readAll());
+  return program + " is not ready within 60 s; its log: " + QString::fromUtf8(log.readAll());
+}
+
+QString VirtualDesktop::startWindowManager() {
+  // A window manager that supports _NET_ACTIVE_WINDOW announces itself on the root window.
+  return startUntil(openbox_, "openbox", {"--sm-disable"}, [this] {
+    return run("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"}).contains("window id");
+  });
 }
 
 QString VirtualDesktop::startTray(const QString& extra) {
@@ -161,15 +165,9 @@ QString VirtualDesktop::startTray(const QString& extra) {
                                     "panel_size = 100% 30\nsystray_padding = 4 2 4\nsystray_icon_size = 22\n"
                                     "time1_format = %H:%M\n") +
                          extra);
-  tint2_ = startLogged("tint2", {"-c", config});
-  if (!tint2_->waitForStarted(30000)) return "tint2 does not start: " + tint2_->errorString();
-  if (!wait_until(
-          [&] {
-            return !run("xdotool", {"search", "--onlyvisible", "--class", "tint2"}).isEmpty();
-          },
-          20000))
-    return "tint2 shows no panel";
-  return {};
+  return startUntil(tint2_, "tint2", {"-c", config}, [this] {
+    return !run("xdotool", {"search", "--onlyvisible", "--class", "tint2"}).isEmpty();
+  });
 }
 
 QString VirtualDesktop::screenshot(const QString& png) const {

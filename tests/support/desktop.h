@@ -13,6 +13,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 #include "support/wait.h"
@@ -72,6 +73,9 @@ class VirtualDesktop {
  private:
   QString startReading(QProcess& p, const QString& program, const QStringList& args, QString& first_line);
   std::unique_ptr<QProcess> startLogged(const QString& program, const QStringList& args);
+  // Starts `program` again until `ready` holds; empty on success.
+  QString startUntil(std::unique_ptr<QProcess>& p, const QString& program, const QStringList& args,
+                     const std::function<bool()>& ready);
 
   QString scratch_;
   QString bus_address_;
