@@ -27,15 +27,6 @@ double now_ms() {
   return duration<double, std::milli>(steady_clock::now().time_since_epoch()).count();
 }
 
-bool wait_until(const std::function<bool()>& done, double ms) {
-  const double end = now_ms() + ms;
-  while (!done()) {
-    if (now_ms() > end) return false;
-    std::this_thread::sleep_for(std::chrono::milliseconds(1));
-  }
-  return true;
-}
-
 pid_t spawn(const std::vector<std::string>& argv, const std::map<std::string, std::string>& env,
             const std::string& log, int* stdout_pipe) {
   std::map<std::string, std::string> all;

@@ -12,13 +12,17 @@
 #include <string>
 #include <vector>
 
+#include "support/wait.h"
+
 namespace agent_bench {
 
 // Milliseconds on the monotonic clock.
 double now_ms();
 
-// Polls `done` every millisecond for up to `ms`; true once it holds.
-bool wait_until(const std::function<bool()>& done, double ms);
+// The tests' wait, polling every millisecond: the figures are measured with it.
+inline bool wait_until(const std::function<bool()>& done, double ms) {
+  return nimbra_test::wait_until(done, ms, 1);
+}
 
 // Starts `argv` with the environment of this process plus `env`, standard
 // output and error appended to `log` (or /dev/null when empty). With

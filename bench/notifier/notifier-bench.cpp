@@ -13,11 +13,11 @@
 #include <vector>
 
 #include "bench-report.h"
-#include "private-desktop.h"
+#include "support/desktop.h"
 
 namespace {
 
-notifier_test::PrivateDesktop* desktop = nullptr;
+nimbra_test::VirtualDesktop* desktop = nullptr;
 std::vector<double> samples_ms;
 
 void BM_NotifierRoundTrip(benchmark::State& state) {
@@ -51,7 +51,7 @@ double percentile(std::vector<double> v, double p) {
 int main(int argc, char** argv) {
   QCoreApplication app(argc, argv);
   QTemporaryDir scratch;
-  notifier_test::PrivateDesktop d(scratch.path());
+  nimbra_test::VirtualDesktop d(scratch.path());
   for (const QString& why : {d.startBus(), d.startDisplay(), d.startDunst()}) {
     if (!why.isEmpty()) {
       std::fprintf(stderr, "notifier-bench: %s\n", why.toLocal8Bit().constData());

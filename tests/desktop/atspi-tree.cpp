@@ -3,7 +3,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include "notifier/private-desktop.h"
+#include "support/desktop.h"
 
 namespace desktop_test {
 
@@ -18,7 +18,7 @@ AtspiTree::~AtspiTree() {
 }
 
 ::testing::AssertionResult AtspiTree::startBus(const QString& errors) {
-  bus_ = std::make_unique<notifier_test::ChildProcess>();
+  bus_ = std::make_unique<nimbra_test::ChildProcess>();
   bus_->setProcessEnvironment(env_);
   bus_->setStandardErrorFile(errors);
   bus_->start("/usr/libexec/at-spi-bus-launcher", {"--launch-immediately"});
@@ -27,7 +27,7 @@ AtspiTree::~AtspiTree() {
 }
 
 QString AtspiTree::driver(const QStringList& args, int* code) const {
-  notifier_test::ChildProcess p;
+  nimbra_test::ChildProcess p;
   p.setProcessEnvironment(env_);
   p.start("/usr/bin/python3", QStringList{driver_, QString::number(pid_)} + args);
   if (!p.waitForFinished(20000)) {
@@ -55,7 +55,7 @@ QVector<A11yNode> AtspiTree::nodes() const {
 
 A11yNode AtspiTree::waitFor(const std::function<bool(const A11yNode&)>& match, int ms) const {
   A11yNode found;
-  notifier_test::wait_until(
+  nimbra_test::wait_until(
       [&] {
         for (const A11yNode& n : nodes())
           if (n.showing && match(n)) {

@@ -12,7 +12,7 @@
 
 #include <gtest/gtest.h>
 
-namespace notifier_test {
+namespace nimbra_test {
 class ChildProcess;
 }
 
@@ -46,7 +46,7 @@ class AtspiTree {
   QProcessEnvironment env_;
   QString driver_;
   qint64 pid_;
-  std::unique_ptr<notifier_test::ChildProcess> bus_;
+  std::unique_ptr<nimbra_test::ChildProcess> bus_;
 };
 
 }  // namespace desktop_test

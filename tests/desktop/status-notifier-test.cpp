@@ -1,15 +1,13 @@
-// The agent on StatusNotifierItem panels (X11). StatusNotifierPanel: a bare
-// org.kde.StatusNotifierWatcher (sni-watcher.py) stands for the panel, and
-// busctl does what the panel does: reads the item, clicks it (Activate with
-// the point of the click) and clicks its menu's entries (dbusmenu Event).
-// BothTrays: the watcher beside tint2, coming and going. LateXEmbedTray:
-// tint2 starting after the agent. LxqtPanel: a real panel, clicked with the
-// pointer.
+// The agent on StatusNotifierItem panels (X11): lxqt-panel with its
+// statusnotifier plugin along the bottom, and busctl doing what any panel
+// does: reads the item, clicks it (Activate with the point of the click) and
+// clicks its menu's entries (dbusmenu Event). BothTrays: the panel beside
+// tint2, coming and going; and tint2 or the panel starting after the agent.
+// Where the pop-up goes for a point is placement-test's table; here only that
+// the click's point reaches it.
 #include <QDir>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 #include <QStandardPaths>
 
 #include "desktop/agent-desktop.h"
@@ -20,50 +18,61 @@ namespace {
 class StatusNotifierPanel : public AgentDesktop {
  protected:
   bool withTray() const override { return false; }
+  void TearDown() override {
+    nimbra_test::stop_process(panel_, true);
+    AgentDesktop::TearDown();
+  }
 
-  ::testing::AssertionResult startWatcher() {
-    if (!QFile::exists("/usr/bin/busctl"))
-      return ::testing::AssertionFailure() << "busctl is missing: scripts/setup installs it";
-    watcher_ = std::make_unique<notifier_test::ChildProcess>();
-    watcher_->setProcessEnvironment(env_);
-    watcher_->setStandardErrorFile(QString::fromStdString(scratch_->path()) + "/sni-watcher.err",
-                                   QIODevice::Append);
-    watcher_->start("/usr/bin/python3", {source("/tests/desktop/sni-watcher.py")});
+  // lxqt-panel, once it owns the watcher's name.
+  ::testing::AssertionResult startPanel() {
+    if (QStandardPaths::findExecutable("lxqt-panel").isEmpty() ||
+        QStandardPaths::findExecutable("busctl").isEmpty())
+      return ::testing::AssertionFailure() << "scripts/setup installs lxqt-panel and busctl";
+    if (!QDir().mkpath(env_.value("XDG_CONFIG_HOME") + "/lxqt") ||
+        !nimbra_test::write_text(
+            env_.value("XDG_CONFIG_HOME") + "/lxqt/panel.conf",
+            "[General]\n__userfile__=true\npanels=panel1\n\n[panel1]\nalignment=-1\n"
+            "panelSize=32\niconSize=22\nplugins=statusnotifier\nposition=Bottom\nwidth=100\n"
+            "width-percent=true\n\n[statusnotifier]\ntype=statusnotifier\n"))
+      return ::testing::AssertionFailure() << "cannot write lxqt's panel.conf";
+    panel_ = std::make_unique<nimbra_test::ChildProcess>();
+    panel_->setProcessEnvironment(env_);
+    panel_->setStandardOutputFile(scratch() + "/panel.log", QIODevice::Append);
+    panel_->setStandardErrorFile(scratch() + "/panel.log", QIODevice::Append);
+    panel_->start("lxqt-panel", QStringList());
     if (!waitUntil(
             [&] {
-              watcher_->waitForReadyRead(100);
-              return watcher_->readAll().contains("ready") || watcher_->state() == QProcess::NotRunning;
+              return run("busctl", {"--user", "list"}).contains("org.kde.StatusNotifierWatcher");
             },
-            15000) ||
-        watcher_->state() != QProcess::Running)
-      return ::testing::AssertionFailure() << "the StatusNotifierWatcher did not come up";
+            30000))
+      return ::testing::AssertionFailure() << "lxqt-panel's watcher did not come up";
     return ::testing::AssertionSuccess();
   }
-  void stopWatcher() {
-    watcher_->terminate();
-    watcher_->waitForFinished(5000);
-  }
-
-  // busctl VERB ARGS..., its options ended before ARGS (which may be negative numbers).
-  QString busctl(QStringList args) const {
+  // The "data" of a busctl call in JSON (its options ended before the
+  // arguments, which may be negative numbers).
+  QJsonValue busctl(QStringList args) const {
     args.insert(1, "--");
-    return run("busctl", QStringList{"--user", "--json=short"} + args);
+    return QJsonDocument::fromJson(run("busctl", QStringList{"--user", "--json=short"} + args).toUtf8())
+        .object()
+        .value("data");
   }
-  // The "data" of a busctl reply in JSON.
-  QJsonValue reply(const QStringList& args) const {
-    const QJsonObject o = QJsonDocument::fromJson(busctl(args).toUtf8()).object();
-    return o.value("data");
+  // The agent's item as the watcher lists it ("service/path" or just the
+  // service): its service, empty until it registered, and its path.
+  QString item(QString* path = nullptr) const {
+    const QString listed = busctl({"get-property", "org.kde.StatusNotifierWatcher", "/StatusNotifierWatcher",
+                                   "org.kde.StatusNotifierWatcher", "RegisteredStatusNotifierItems"})
+                               .toArray()
+                               .first()
+                               .toString();
+    if (path) *path = listed.contains('/') ? listed.mid(listed.indexOf('/')) : "/StatusNotifierItem";
+    return listed.section('/', 0, 0);
   }
-  // The agent's item as the watcher lists it; empty until it registered.
-  QString item() const {
-    const QJsonArray items = reply({"get-property", "org.kde.StatusNotifierWatcher", "/StatusNotifierWatcher",
-                                    "org.kde.StatusNotifierWatcher", "RegisteredStatusNotifierItems"})
-                                 .toArray();
-    return items.isEmpty() ? QString() : items.first().toString();
+  QJsonValue itemCall(const QString& verb, const QStringList& args) const {
+    QString path;
+    const QString service = item(&path);
+    return busctl(QStringList{verb, service, path, "org.kde.StatusNotifierItem"} + args);
   }
-  QJsonValue itemProperty(const QString& name) const {
-    return reply({"get-property", item(), "/StatusNotifierItem", "org.kde.StatusNotifierItem", name});
-  }
+  QJsonValue itemProperty(const QString& name) const { return itemCall("get-property", {name}); }
   // The largest of the item's pictures, as the panel would draw it.
   TrayPicture itemPicture() const {
     QImage best;
@@ -80,103 +89,75 @@ class StatusNotifierPanel : public AgentDesktop {
     }
     return classifyTrayPicture(best);
   }
-  void clickItem(int x, int y) {
-    busctl({"call", item(), "/StatusNotifierItem", "org.kde.StatusNotifierItem", "Activate", "ii",
-            QString::number(x), QString::number(y)});
-  }
-  // The pop-up's place once it is up.
+  // A click on the item at (x, y); the pop-up's place once it is up.
   QRect popupAfterClickAt(int x, int y) {
-    clickItem(x, y);
-    if (!waitUntil([&] { return !popup().isEmpty(); }, 10000)) return {};
+    itemCall("call", {"Activate", "ii", QString::number(x), QString::number(y)});
     QRect r;
-    waitUntil(
-        [&] {
-          r = windowRect(popup());
-          return !r.isEmpty();
-        },
-        5000);
+    waitUntil([&] { return !(r = windowRect(popup())).isEmpty(); }, 30000);
     return r;
   }
+  bool isPopup() const { return run("xwininfo", {"-id", popup()}).contains("Override Redirect State: yes"); }
   bool closePopup() {
     return pressUntil(
-        "Escape", [&] { return popup().isEmpty(); }, 10000);
+        "Escape", [&] { return popup().isEmpty(); }, 30000);
   }
 
-  void TearDown() override {
-    if (watcher_) stopWatcher();
-    AgentDesktop::TearDown();
-  }
-
-  std::unique_ptr<QProcess> watcher_;
+  std::unique_ptr<QProcess> panel_;
 };
 
 TEST_F(StatusNotifierPanel, PopupOpensAtTheClickAndTheItemDescribesItself) {
-  ASSERT_TRUE(startWatcher());
+  ASSERT_TRUE(startPanel());
   ASSERT_TRUE(startLinked("idle"));
-  ASSERT_TRUE(waitUntil([&] { return !item().isEmpty(); }, 15000)) << "the item never registered";
+  ASSERT_TRUE(waitUntil([&] { return !item().isEmpty(); }, 30000)) << "the item never registered";
   EXPECT_EQ(itemProperty("Title").toString().toStdString(), "Nimbra Backup");
   EXPECT_EQ(itemProperty("Id").toString().toStdString(), "nimbra-backup");
-  EXPECT_TRUE(waitUntil([&] { return itemPicture() == TrayPicture::Success; }, 20000))
+  EXPECT_TRUE(waitUntil([&] { return itemPicture() == TrayPicture::Success; }, 30000))
       << pictureName(itemPicture());
-  const QJsonArray tip = itemProperty("ToolTip").toArray();
-  ASSERT_EQ(tip.size(), 4);
-  EXPECT_EQ(tip[2].toString().toStdString(), "Nimbra Backup");
-  EXPECT_TRUE(tip[3].toString().contains("Successful")) << tip[3].toString().toStdString();
+  EXPECT_TRUE(itemProperty("ToolTip").toArray().at(3).toString().contains("Successful"));
 
-  // Near the bottom: centred on the click, just above it.
-  QRect pop = popupAfterClickAt(900, 700);
-  ASSERT_FALSE(pop.isEmpty()) << "a click on the item shows no pop-up";
+  const QRect pop = popupAfterClickAt(900, 700);
   EXPECT_NEAR(pop.center().x(), 900, 2) << pop.x();
-  EXPECT_GE(pop.bottom(), 690);
-  EXPECT_LT(pop.bottom(), 700);
-  EXPECT_TRUE(run("xwininfo", {"-id", popup()}).contains("Override Redirect State: yes")) << "not a pop-up";
+  EXPECT_TRUE(pop.bottom() >= 690 && pop.bottom() < 700) << pop.bottom();
+  EXPECT_TRUE(isPopup());
   shot("popup-on-sni");
-  ASSERT_TRUE(closePopup());
-  // At the top-right corner: below the click, inside the screen.
-  pop = popupAfterClickAt(1275, 12);
-  ASSERT_FALSE(pop.isEmpty());
-  EXPECT_EQ(pop.top(), 12);
-  EXPECT_LE(pop.right(), 1279);
-  EXPECT_GE(pop.right(), 1270);
   ASSERT_TRUE(closePopup());
 
   // The right-click menu over dbusmenu: its "Activity" entry opens the list.
-  const QStringList getLayout{"call", item(), "/MenuBar", "com.canonical.dbusmenu", "GetLayout", "iias",
-                              "0",    "-1",   "0"};
-  const QJsonArray layout = reply(getLayout).toArray();
-  ASSERT_EQ(layout.size(), 2) << busctl(getLayout).toStdString();
   QStringList labels;
   int activity = -1;
-  for (const QJsonValue& child : layout[1].toArray().at(2).toArray()) {
+  for (const QJsonValue& child :
+       busctl({"call", item(), "/MenuBar", "com.canonical.dbusmenu", "GetLayout", "iias", "0", "-1", "0"})
+           .toArray()
+           .at(1)
+           .toArray()
+           .at(2)
+           .toArray()) {
     const QJsonArray entry = child.toObject().value("data").toArray();
-    const QString label = entry.at(1).toObject().value("label").toObject().value("data").toString();
-    labels << label;
-    if (label == "Activity") activity = entry.at(0).toInt();
+    labels << entry.at(1).toObject().value("label").toObject().value("data").toString();
+    if (labels.last() == "Activity") activity = entry.at(0).toInt();
   }
-  ASSERT_GE(activity, 0) << labels.join('|').toStdString();
-  EXPECT_TRUE(labels.contains("Back up now")) << labels.join('|').toStdString();
+  ASSERT_TRUE(activity >= 0 && labels.contains("Back up now")) << labels.join('|').toStdString();
   busctl({"call", item(), "/MenuBar", "com.canonical.dbusmenu", "Event", "isvu", QString::number(activity),
           "clicked", "s", "", "0"});
-  EXPECT_FALSE(waitForAgentWindow(15000, "^Activity$").isEmpty()) << "the menu's Activity opens nothing";
+  EXPECT_FALSE(waitForAgentWindow(30000, "^Activity$").isEmpty()) << "the menu's Activity opens nothing";
 }
 
 TEST_F(StatusNotifierPanel, IconRegistersWhenThePanelStartsLate) {
   ASSERT_TRUE(startLinked("idle"));
-  ASSERT_TRUE(waitForLog("StatusNotifierItem host absent", 15000));
+  ASSERT_TRUE(waitForLog("StatusNotifierItem host absent", 30000));
   // Until there is a tray, "open" shows the pop-up as a window of its own.
   EXPECT_EQ(launchAgain({}), 0);
-  ASSERT_TRUE(waitUntil([&] { return !popup().isEmpty(); }, 15000)) << "\"open\" shows nothing";
-  EXPECT_TRUE(run("xwininfo", {"-id", popup()}).contains("Override Redirect State: no"));
+  ASSERT_TRUE(waitUntil([&] { return !popup().isEmpty(); }, 30000)) << "\"open\" shows nothing";
+  EXPECT_FALSE(isPopup());
   ASSERT_TRUE(activate(popup()));
   ASSERT_TRUE(closePopup());
-
-  ASSERT_TRUE(startWatcher());
-  ASSERT_TRUE(waitUntil([&] { return !item().isEmpty(); }, 10000)) << "the item never registered";
+  ASSERT_TRUE(startPanel());
+  ASSERT_TRUE(waitUntil([&] { return !item().isEmpty(); }, 30000)) << "the item never registered";
   EXPECT_FALSE(popupAfterClickAt(640, 400).isEmpty()) << "a click on the item shows no pop-up";
-  EXPECT_TRUE(run("xwininfo", {"-id", popup()}).contains("Override Redirect State: yes")) << "not a pop-up";
+  EXPECT_TRUE(isPopup());
 }
 
-// A panel that has both kinds of tray (tint2 here, and the watcher).
+// A desktop with both kinds of tray (tint2 and the panel).
 class BothTrays : public StatusNotifierPanel {
  protected:
   bool withTray() const override { return true; }
@@ -184,107 +165,52 @@ class BothTrays : public StatusNotifierPanel {
 
 TEST_F(BothTrays, IconMovesToTheItemPanelWhileItRunsAndBack) {
   ASSERT_TRUE(startLinked("idle"));  // the icon in tint2
-  ASSERT_TRUE(startWatcher());
-  ASSERT_TRUE(waitUntil([&] { return !item().isEmpty(); }, 10000)) << "the item never registered";
-  EXPECT_TRUE(waitUntil([&] { return trayIcon().isEmpty(); }, 10000)) << "the icon shows twice";
-  stopWatcher();
-  EXPECT_TRUE(waitUntil([&] { return !trayIcon().isEmpty(); }, 10000)) << "the icon is not back in tint2";
+  ASSERT_TRUE(startPanel());
+  ASSERT_TRUE(waitUntil([&] { return !item().isEmpty(); }, 30000)) << "the item never registered";
+  EXPECT_TRUE(waitUntil([&] { return trayIcon().isEmpty(); }, 30000)) << "the icon shows twice";
+  nimbra_test::stop_process(panel_);
+  EXPECT_TRUE(waitUntil([&] { return !trayIcon().isEmpty(); }, 30000)) << "the icon is not back in tint2";
   clickTrayIcon();
-  EXPECT_TRUE(waitUntil([&] { return !popup().isEmpty(); }, 10000)) << "a click on the icon shows no pop-up";
+  EXPECT_TRUE(waitUntil([&] { return !popup().isEmpty(); }, 30000)) << "a click on the icon shows no pop-up";
   ASSERT_TRUE(closePopup());
-  // The panel starts again.
-  ASSERT_TRUE(startWatcher());
-  EXPECT_TRUE(waitUntil([&] { return !item().isEmpty(); }, 10000)) << "the item never registered again";
+  ASSERT_TRUE(startPanel());  // the panel starts again
+  EXPECT_TRUE(waitUntil([&] { return !item().isEmpty(); }, 30000)) << "the item never registered again";
 }
 
-class LateXEmbedTray : public AgentDesktop {
- protected:
-  bool withTray() const override { return false; }
-};
-
-TEST_F(LateXEmbedTray, IconAppearsWhenThePanelStarts) {
+TEST_F(StatusNotifierPanel, IconAppearsWhenAnXEmbedTrayStartsLate) {
   ASSERT_TRUE(startLinked("idle"));
-  ASSERT_TRUE(waitForLog("StatusNotifierItem host absent", 15000));
+  ASSERT_TRUE(waitForLog("StatusNotifierItem host absent", 30000));
   const QString why = desktop_->startTray();
   ASSERT_TRUE(why.isEmpty()) << why.toStdString();
-  ASSERT_TRUE(waitUntil([&] { return !trayIcon().isEmpty(); }, 15000)) << "no icon in the late tray";
-  EXPECT_TRUE(waitForTrayPicture(TrayPicture::Success, 10000)) << pictureName(trayPicture());
+  EXPECT_TRUE(waitForTrayPicture(TrayPicture::Success, 30000)) << pictureName(trayPicture());
   clickTrayIcon();
-  EXPECT_TRUE(waitUntil([&] { return !popup().isEmpty(); }, 10000)) << "a click on the icon shows no pop-up";
+  EXPECT_TRUE(waitUntil([&] { return !popup().isEmpty(); }, 30000)) << "a click on the icon shows no pop-up";
 }
 
-// A real StatusNotifierItem panel, clicked as a person clicks it.
-class LxqtPanel : public AgentDesktop {
- protected:
-  bool withTray() const override { return false; }
-  void TearDown() override {
-    if (panel_) {
-      panel_->kill();
-      panel_->waitForFinished(5000);
-    }
-    AgentDesktop::TearDown();
-  }
-  ::testing::AssertionResult startPanel() {
-    if (QStandardPaths::findExecutable("lxqt-panel").isEmpty())
-      return ::testing::AssertionFailure() << "lxqt-panel is missing: scripts/setup installs it";
-    const QString config = env_.value("XDG_CONFIG_HOME") + "/lxqt";
-    QDir().mkpath(config);
-    QFile conf(config + "/panel.conf");
-    if (!conf.open(QIODevice::WriteOnly) ||
-        conf.write("[General]\n__userfile__=true\npanels=panel1\n\n[panel1]\nalignment=-1\n"
-                   "panelSize=32\niconSize=22\nplugins=statusnotifier\nposition=Bottom\nwidth=100\n"
-                   "width-percent=true\n\n[statusnotifier]\ntype=statusnotifier\n") < 0)
-      return ::testing::AssertionFailure() << "cannot write " << conf.fileName().toStdString();
-    conf.close();
-    panel_ = std::make_unique<notifier_test::ChildProcess>();
-    panel_->setProcessEnvironment(env_);
-    panel_->setStandardOutputFile(QString::fromStdString(scratch_->path()) + "/lxqt-panel.log");
-    panel_->setStandardErrorFile(QString::fromStdString(scratch_->path()) + "/lxqt-panel.log",
-                                 QIODevice::Append);
-    panel_->start("lxqt-panel", QStringList());
-    if (!waitUntil(
-            [&] {
-              return run("busctl", {"--user", "list"}).contains("org.kde.StatusNotifierWatcher");
-            },
-            15000))
-      return ::testing::AssertionFailure() << "lxqt-panel's watcher did not come up";
-    return ::testing::AssertionSuccess();
-  }
-  std::unique_ptr<QProcess> panel_;
-};
-
-TEST_F(LxqtPanel, ClickOnTheIconOpensThePopupAboveItAndTheMenuWorks) {
+// The panel's icon clicked as a person clicks it.
+TEST_F(StatusNotifierPanel, OnLxqtPanelAClickOpensThePopupAboveTheIconAndTheMenuWorks) {
   ASSERT_TRUE(startPanel());
   ASSERT_TRUE(startLinked("idle"));
   // The green picture in the panel along the bottom (768 to 799).
   const QRect panel(0, 768, 1280, 32);
   QPoint icon;
-  ASSERT_TRUE(waitUntil(
-      [&] {
-        icon = findColour(QColor(0x00, 0xA2, 0x82), panel, 60);
-        return !icon.isNull();
-      },
-      20000))
+  ASSERT_TRUE(
+      waitUntil([&] { return !(icon = findColour(QColor(0x00, 0xA2, 0x82), panel, 60)).isNull(); }, 30000))
       << "no green icon in the panel";
   clickAt(icon);
-  ASSERT_TRUE(waitUntil([&] { return !popup().isEmpty(); }, 10000)) << "a click on the icon shows no pop-up";
+  ASSERT_TRUE(waitUntil([&] { return !popup().isEmpty(); }, 30000)) << "a click on the icon shows no pop-up";
   const QRect pop = windowRect(popup());
-  EXPECT_LT(pop.bottom(), panel.top()) << "the pop-up covers the panel";
-  EXPECT_GT(pop.bottom(), panel.top() - 40) << "the pop-up is far from the icon";
+  EXPECT_TRUE(pop.bottom() < panel.top() && pop.bottom() > panel.top() - 40) << pop.bottom();
   EXPECT_TRUE(pop.left() <= icon.x() && icon.x() <= pop.right()) << pop.x() << " icon " << icon.x();
   shot("popup-on-lxqt-panel");
-  ASSERT_TRUE(pressUntil(
-      "Escape", [&] { return popup().isEmpty(); }, 10000));
-
+  ASSERT_TRUE(closePopup());
   // The right-click menu, drawn by the panel: Open, Back up now, Activity.
   // One pixel off the last click: --sync waits for the pointer to move.
-  run("xdotool",
-      {"mousemove", "--sync", QString::number(icon.x() + 1), QString::number(icon.y()), "click", "3"});
-  ASSERT_TRUE(waitUntil([&] { return screenPixels(QColor(0xFF, 0xFF, 0xFF), 0) > 5000; }, 10000))
+  clickAt(icon + QPoint(1, 0), 3);
+  ASSERT_TRUE(waitUntil([&] { return screenPixels(QColor(0xFF, 0xFF, 0xFF), 0) > 5000; }, 30000))
       << "no menu";
-  shot("menu-on-lxqt-panel");
   keys({"Down", "Down", "Down", "Return"});
-  EXPECT_FALSE(waitForAgentWindow(15000, "^Activity$").isEmpty()) << "the menu's Activity opens nothing";
+  EXPECT_FALSE(waitForAgentWindow(30000, "^Activity$").isEmpty()) << "the menu's Activity opens nothing";
 }
 
 }  // namespace

@@ -56,12 +56,15 @@ class Source : public WinIpc::framing::ChunkSource {
   std::int64_t now_ = 1000;
 };
 
+// One read of a scripted source: its steps, the limits (none by default),
+// the result, the text on success and the one expected log line ("" for none).
 struct ReadCase {
   std::string name;
   std::vector<Step> steps;
   int result;
-  std::string out;  // expected on success
-  std::string log;  // the one expected log line; "" for none
+  std::string out;
+  std::string log;
+  WinIpc::Limits limits{};
 };
 
 void PrintTo(const ReadCase& c, std::ostream* os) {
@@ -74,8 +77,23 @@ std::vector<Step> one_by_one(const std::string& s) {
   return steps;
 }
 
+std::vector<Step> retries(int n) {
+  return std::vector<Step>(static_cast<std::size_t>(n), Step(Status::kRetry));
+}
+
+std::vector<Step> join(std::vector<Step> a, const std::vector<Step>& b) {
+  a.insert(a.end(), b.begin(), b.end());
+  return a;
+}
+
 std::vector<ReadCase> read_cases() {
   const std::string nul(1, '\0');
+  const WinIpc::Limits cap10{10, 0, 0};
+  const WinIpc::Limits idle{1000, 500, 0};  // each retry waits 100 ms on the scripted clock
+  const WinIpc::Limits deadline{1000, 500, 2000};
+  const std::string over10 = "read pipe: message over 10 bytes, dropped";
+  std::vector<Step> trickle = retries(4);  // a byte every 500 ms: 2000 ms are up after the 20th wait
+  for (int i = 0; i < 4; ++i) trickle = join(join(trickle, {"x"}), retries(4));
   std::vector<ReadCase> cases{
       {"EmptyText", {m}, 0, "", ""},
       {"MarkerInsideTextCutsAtFirst", {"a" + m + "b" + m}, 0, "a", ""},
@@ -95,6 +113,27 @@ std::vector<ReadCase> read_cases() {
        0,
        std::string(4090, 'c'),
        ""},
+      {"TextAtTheCap", {std::string(10, 'a') + m}, 0, std::string(10, 'a'), "", cap10},
+      {"TextOneOverTheCap", {std::string(11, 'a') + m}, -1, "", over10, cap10},
+      {"MarkerPrefixBeyondTheCapStillCompletes",
+       {std::string(10, 'a') + "^^2552*1814", "^^"},
+       0,
+       std::string(10, 'a'),
+       "",
+       cap10},
+      {"StreamWithoutMarkerStopsOnceOverTheCap",
+       {std::string(22, 'a'), std::string(4000, 'b')},
+       -1,
+       "",
+       over10,
+       cap10},
+      {"QuietJustUnderTheIdleLimit", join(retries(4), {"ok" + m}), 0, "ok", "", idle},
+      {"SilentPeerDroppedAtTheIdleLimit", retries(5), -1, "",
+       "read pipe: nothing received for 500 ms, dropped", idle},
+      {"DataRestartsTheIdleClock", join(join(retries(4), {"a"}), join(retries(4), {"b" + m})), 0, "ab", "",
+       idle},
+      {"TricklingPeerDroppedAtTheDeadline", trickle, -1, "",
+       "read pipe: message not complete after 2000 ms, dropped", deadline},
   };
   // Every split point of the marker between two reads.
   const std::string text(30, 't');
@@ -108,16 +147,19 @@ std::vector<ReadCase> read_cases() {
 
 class ReadFraming : public ::testing::TestWithParam<ReadCase> {};
 
-TEST_P(ReadFraming, ReadsTheFirstMessage) {
+TEST_P(ReadFraming, ReadsTheFirstMessageOrDropsItWithOneLine) {
   const ReadCase& c = GetParam();
   ipc_test::LogCapture log;
   Source source(c.steps);
   std::string out = "stale";
-  EXPECT_EQ(WinIpc::framing::read_message(source, out, nullptr), c.result);
+  EXPECT_EQ(WinIpc::framing::read_message(source, out, c.limits, nullptr), c.result);
+  EXPECT_EQ(source.left(), 0u) << "the reader stops at the first marker and not before";
   if (c.result == 0) {
     EXPECT_EQ(out, c.out);
+  } else {
+    EXPECT_TRUE(out.empty());
+    EXPECT_EQ(out.capacity(), std::string().capacity()) << "the memory is given back";
   }
-  EXPECT_EQ(source.left(), 0u) << "the reader stops at the first marker and not before";
   if (c.log.empty()) {
     EXPECT_EQ(log.text(), "");
   } else {
@@ -158,75 +200,6 @@ TEST(ReadFraming, AgreesWithWholeTextSearchOnRandomChunks) {
     }
   }
 }
-
-// The limits of one read, on the scripted clock (each retry waits 100 ms).
-struct LimitCase {
-  std::string name;
-  std::vector<Step> steps;
-  WinIpc::Limits limits;
-  int result;
-  std::string log;  // the one expected line, "" for none
-};
-
-void PrintTo(const LimitCase& c, std::ostream* os) {
-  *os << c.name;
-}
-
-std::vector<Step> retries(int n) {
-  return std::vector<Step>(static_cast<std::size_t>(n), Step(Status::kRetry));
-}
-
-std::vector<Step> join(std::vector<Step> a, const std::vector<Step>& b) {
-  a.insert(a.end(), b.begin(), b.end());
-  return a;
-}
-
-std::vector<LimitCase> limit_cases() {
-  const WinIpc::Limits cap10{10, 0, 0};
-  const WinIpc::Limits idle{1000, 500, 0};
-  const WinIpc::Limits deadline{1000, 500, 2000};
-  std::vector<Step> trickle;
-  for (int i = 0; i < 30; ++i) trickle = join(trickle, join(retries(4), {"x"}));
-  return {
-      {"TextAtTheCap", {std::string(10, 'a') + m}, cap10, 0, ""},
-      {"TextOneOverTheCap", {std::string(11, 'a') + m}, cap10, -1, "read pipe: message over 10 bytes, dropped"},
-      {"MarkerPrefixBeyondTheCapStillCompletes", {std::string(10, 'a') + "^^2552*1814", "^^"}, cap10, 0, ""},
-      {"StreamWithoutMarkerStopsOnceOverTheCap",
-       {std::string(22, 'a'), std::string(4000, 'b')},
-       cap10,
-       -1,
-       "read pipe: message over 10 bytes, dropped"},
-      {"QuietJustUnderTheIdleLimit", join(retries(4), {"ok" + m}), idle, 0, ""},
-      {"SilentPeerDroppedAtTheIdleLimit", retries(5), idle, -1,
-       "read pipe: nothing received for 500 ms, dropped"},
-      {"DataRestartsTheIdleClock", join(join(retries(4), {"a"}), join(retries(4), {"b" + m})), idle, 0, ""},
-      {"TricklingPeerDroppedAtTheDeadline", trickle, deadline, -1,
-       "read pipe: message not complete after 2000 ms, dropped"},
-  };
-}
-
-class ReadLimits : public ::testing::TestWithParam<LimitCase> {};
-
-TEST_P(ReadLimits, HoldOrDropWithOneLine) {
-  const LimitCase& c = GetParam();
-  ipc_test::LogCapture log;
-  Source source(c.steps);
-  std::string out;
-  EXPECT_EQ(WinIpc::framing::read_message(source, out, c.limits, nullptr), c.result);
-  if (c.result != 0) {
-    EXPECT_TRUE(out.empty());
-    EXPECT_EQ(out.capacity(), std::string().capacity()) << "the memory is given back";
-  }
-  if (c.log.empty()) {
-    EXPECT_EQ(log.text(), "");
-  } else {
-    EXPECT_EQ(log.count(c.log), 1) << log.text();
-    EXPECT_EQ(log.count("[ERROR]"), 1) << log.text();
-  }
-}
-
-INSTANTIATE_TEST_SUITE_P(Cases, ReadLimits, ::testing::ValuesIn(limit_cases()),
-                         [](const ::testing::TestParamInfo<LimitCase>& i) { return i.param.name; });
 
 TEST(ReadLimits, MemoryStaysNearTheCapWhateverThePeerStreams) {
   // Endless full chunks without a marker: the reader stops one chunk past the

@@ -13,8 +13,10 @@
 
 TEST(LoggerPlatform, LogFileIsNotInheritedByChildren) {
   nimbra_test::TempDir dir;
-  FILE* f = vlog::platform::open_append(logtest::wide(dir.file("ui.txt")));
+  // Its name in UTF-8 on disk, whatever the characters (two, three and four bytes).
+  FILE* f = vlog::platform::open_append(logtest::wide(dir.path()) + L"/\u00F6\u6F22\U0001F600.txt");
   ASSERT_NE(nullptr, f);
+  EXPECT_TRUE(nimbra_test::file_exists(dir.file("\xC3\xB6\xE6\xBC\xA2\xF0\x9F\x98\x80.txt")));
   const int flags = ::fcntl(::fileno(f), F_GETFD);
   std::fclose(f);
   ASSERT_NE(-1, flags);

@@ -35,8 +35,8 @@ TEST(LogPath, FollowsTheUsersStateFolder) {
   }
   for (const char* unset : {"", static_cast<const char*>(nullptr)}) {
     ScopedEnv state("XDG_STATE_HOME", unset);
-    ScopedEnv home("HOME", "/home/someone");
-    EXPECT_EQ(L"/home/someone/.local/state/NimbraBackupAgent/log", vlog::log_path());
+    ScopedEnv home("HOME", "/home/s\xC3\xB6\xE6\xBC\xA2\xF0\x9F\x98\x80");  // two, three and four UTF-8 bytes
+    EXPECT_EQ(L"/home/s\u00F6\u6F22\U0001F600/.local/state/NimbraBackupAgent/log", vlog::log_path());
   }
 }
 #else

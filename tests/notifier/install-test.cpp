@@ -12,11 +12,12 @@
 #include <QThread>
 
 #include "install-check.h"
-#include "private-desktop.h"
 #include "support/qt-print.h"
 #include "support/temp-dir.h"
+#include "support/wait.h"
 
 using namespace notifier_test;
+using nimbra_test::wait_until;
 using ::testing::HasSubstr;
 
 namespace {

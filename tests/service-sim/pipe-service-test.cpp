@@ -2,15 +2,11 @@
 // faults, bad input, and many clients at once. (The actions themselves are
 // played against the model in device-model-test.cpp.)
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <sstream>
-#include <thread>
-#include <vector>
-
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include <sstream>
+#include <thread>
 
 #include "../ui-agent/hostile/foreign-process.h"
 #include "agent-client.h"
@@ -21,16 +17,15 @@
 #include "support/temp-dir.h"
 #include "win-ipc.h"
 
-using simtest::parse;
-using simtest::request;
+using namespace simtest;
 
 namespace {
 
 class SimPipeTest : public ::testing::Test {
  protected:
   void start(sim::PipeService::Options o = {}) {
-    model_ = std::make_unique<sim::DeviceModel>(simtest::quick_scenario(true), dir_.file("state"),
-                                                dir_.file("ws"), [this] { return clock_.now.load(); });
+    model_ = std::make_unique<sim::DeviceModel>(quick_scenario(true), dir_.file("state"), dir_.file("ws"),
+                                                [this] { return clock_.now.load(); });
     model_->load_state();
     o.record_path = dir_.file("record.jsonl");
     o.accept_timeout_ms = 50;
@@ -46,8 +41,8 @@ class SimPipeTest : public ::testing::Test {
   }
 
   nimbra_test::TempDir dir_;
-  nimbra_test::ScopedEnv ns_{"NIMBRA_PIPE_NAMESPACE", simtest::unique_namespace("pipe").c_str()};
-  simtest::ManualClock clock_;
+  nimbra_test::ScopedEnv ns_{"NIMBRA_PIPE_NAMESPACE", unique_namespace("pipe").c_str()};
+  ManualClock clock_;
   std::unique_ptr<sim::DeviceModel> model_;
   std::unique_ptr<sim::PipeService> service_;
 };
@@ -61,14 +56,14 @@ TEST_F(SimPipeTest, GarbageAndUnknownActionsGetErrorsAndServingGoesOn) {
         R"({"action":"get_portal_link","subaction":["help"]})"}) {
     const sim::Exchange ex = send(bad);
     ASSERT_TRUE(ex.ok) << bad << ": " << ex.error;
-    EXPECT_EQ(simtest::num(parse(ex.answer), "error/code"), 4) << bad << " -> " << ex.answer;
+    EXPECT_EQ(num(parse(ex.answer), "error/code"), 4) << bad << " -> " << ex.answer;
   }
   // A client that connects and leaves without a word.
   {
     WinIpc::IpcClient quiet;
     ASSERT_EQ(quiet.connect(WinIpc::kServicePipe, 1000), 0);
   }
-  EXPECT_EQ(simtest::num(parse(send().answer), "status"), sim::status::kIdle);
+  EXPECT_EQ(num(parse(send().answer), "status"), sim::status::kIdle);
 }
 
 // A request over the cap and a client that never finishes are dropped;
@@ -82,7 +77,7 @@ TEST_F(SimPipeTest, OversizedAndSilentClientsAreDroppedAndServingGoesOn) {
   // Served once the silent one is dropped (5 s without a byte).
   const sim::Exchange next = send(R"({"action":"get_status"})", 8000);
   ASSERT_TRUE(next.ok) << next.error;
-  EXPECT_EQ(simtest::num(parse(next.answer), "status"), sim::status::kIdle);
+  EXPECT_EQ(num(parse(next.answer), "status"), sim::status::kIdle);
 }
 
 TEST_F(SimPipeTest, RecordFileHasOneTimedLinePerRequest) {
@@ -94,16 +89,16 @@ TEST_F(SimPipeTest, RecordFileHasOneTimedLinePerRequest) {
   std::istringstream in(nimbra_test::read_file(dir_.file("record.jsonl")));
   for (std::string line; std::getline(in, line);) lines.push_back(parse(line));
   ASSERT_EQ(lines.size(), 3u);
-  EXPECT_EQ(simtest::str(lines[0], "request/action"), "get_status");
-  EXPECT_EQ(simtest::num(lines[0], "request/log_id"), 7);
-  EXPECT_EQ(simtest::str(lines[1], "raw"), "garbage!");
+  EXPECT_EQ(str(lines[0], "request/action"), "get_status");
+  EXPECT_EQ(num(lines[0], "request/log_id"), 7);
+  EXPECT_EQ(str(lines[1], "raw"), "garbage!");
   EXPECT_FALSE(jsonx::has(lines[1], "request"));
-  EXPECT_EQ(simtest::str(lines[2], "request/action"), "get_bandwidth_control");
+  EXPECT_EQ(str(lines[2], "request/action"), "get_bandwidth_control");
   for (const auto& l : lines) {
-    EXPECT_GT(simtest::num(l, "time_ms"), 1600000000000);
-    EXPECT_THAT(simtest::str(l, "time"), ::testing::EndsWith("Z"));
+    EXPECT_GT(num(l, "time_ms"), 1600000000000);
+    EXPECT_THAT(str(l, "time"), ::testing::EndsWith("Z"));
   }
-  EXPECT_LE(simtest::num(lines[0], "time_ms"), simtest::num(lines[2], "time_ms"));
+  EXPECT_LE(num(lines[0], "time_ms"), num(lines[2], "time_ms"));
 }
 
 TEST_F(SimPipeTest, FaultsRefuseDropGarbleAndRetypeOnSchedule) {
@@ -196,7 +191,7 @@ TEST_F(SimPipeTest, AnotherUserIsRefusedSilentClientsStarveNobodyAndTheRecordSta
   EXPECT_EQ(other.hear(), 'n') << "the other user got an answer";
   EXPECT_EQ(other.hear(15000), 'd');
   EXPECT_EQ(log.count("refused a client of uid 65534"), 1) << "one line for the whole flood";
-  EXPECT_NE(simtest::num(parse(send().answer), "status") & 0xF000, 0x1000) << "the device was unlinked";
+  EXPECT_NE(num(parse(send().answer), "status") & 0xF000, 0x1000) << "the device was unlinked";
 
   std::vector<std::unique_ptr<WinIpc::IpcClient>> silent;
   for (int i = 0; i < 4; ++i) {

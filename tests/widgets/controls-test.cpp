@@ -1,12 +1,12 @@
 // The Vell controls: time combo box, buttons, labels, links, scroll area.
 
 #include <QApplication>
+#include <QHBoxLayout>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QSignalSpy>
-#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 #include "dpi-info.h"

@@ -39,9 +39,15 @@ class WidgetsSingleApp : public ::testing::Test {
 };
 using WidgetsLock = WidgetsSingleApp;
 
-std::future<bool> sendFromThread(const QString& appId, const QString& message) {
-  return std::async(std::launch::async,
-                    [appId, message] { return SingleInstance(appId).sendMessage(message, 5000); });
+// Another instance of `appId` sends `message`: it arrives, alone, at `primary`.
+void expectReceives(SingleInstance& primary, const QString& appId, const QString& message) {
+  QSignalSpy received(&primary, &SingleInstance::messageReceived);
+  auto sent = std::async(std::launch::async,
+                         [appId, message] { return SingleInstance(appId).sendMessage(message, 5000); });
+  ASSERT_TRUE(received.wait(10000));
+  EXPECT_TRUE(sent.get());
+  ASSERT_EQ(received.size(), 1);
+  EXPECT_EQ(received.first().first().toString(), message);
 }
 
 TEST_F(WidgetsSingleApp, SecondProcessFindsTheFirstAndItsArgumentArrives) {
@@ -70,11 +76,7 @@ TEST_F(WidgetsSingleApp, InstanceThatIsExitingIsNotRunning) {
   first.release();
   EXPECT_FALSE(second.isRunning());
   EXPECT_TRUE(second.isPrimary());
-  // And the new primary receives messages.
-  QSignalSpy received(&second, &SingleInstance::messageReceived);
-  auto sent = sendFromThread(appId_, "open");
-  ASSERT_TRUE(received.wait(10000));
-  EXPECT_TRUE(sent.get());
+  expectReceives(second, appId_, "open");  // the new primary receives messages
 }
 
 TEST_F(WidgetsSingleApp, CrashedPrimaryLeavesNothingBehind) {
@@ -85,11 +87,7 @@ TEST_F(WidgetsSingleApp, CrashedPrimaryLeavesNothingBehind) {
   primary.kill();
   ASSERT_TRUE(primary.waitForFinished(10000));
   EXPECT_FALSE(me.isRunning());
-  QSignalSpy received(&me, &SingleInstance::messageReceived);
-  auto sent = sendFromThread(appId_, "after crash");
-  ASSERT_TRUE(received.wait(10000));
-  EXPECT_EQ(received.first().first().toString(), "after crash");
-  EXPECT_TRUE(sent.get());
+  expectReceives(me, appId_, "after crash");
 }
 
 TEST_F(WidgetsSingleApp, MessagesToAPrimaryProcessArriveWhole) {
@@ -124,11 +122,8 @@ TEST_F(WidgetsSingleApp, HostilePeersAreDroppedAndLaterMessagesStillArrive) {
   QCoreApplication::processEvents();
   half.disconnectFromServer();
 
-  auto sent = sendFromThread(appId_, "open");
-  ASSERT_TRUE(received.wait(10000));
-  EXPECT_TRUE(sent.get());
-  EXPECT_EQ(received.size(), 1);
-  EXPECT_EQ(received.first().first().toString(), "open");
+  expectReceives(primary, appId_, "open");
+  EXPECT_EQ(received.size(), 1) << "a hostile peer's bytes arrived as a message";
   EXPECT_NE(log.text().find("refused a message announcing"), std::string::npos);
 }
 

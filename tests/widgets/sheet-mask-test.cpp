@@ -140,6 +140,11 @@ TEST_F(WidgetsSheets, DefaultButtonsByTypeUseInstalledWordsAndCanBeReplaced) {
   notice.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
   whileUp([&] { notice.button(QMessageBox::Cancel)->click(); });
   EXPECT_EQ(notice.exec(), QMessageBox::Cancel);
+  widgets_test::LogCapture log;
+  odd.setStandardButtons(QMessageBox::Help);
+  EXPECT_EQ(log.count("message sheet given no button it knows (0x1000000)"), 1) << log.text();
+  odd.setInformativeText("More");
+  EXPECT_EQ(odd.informativeText(), "More");
 }
 
 TEST_F(WidgetsSheets, WarningBoxIsAWindowOfItsOwnAndReturnsTheButton) {
@@ -173,17 +178,21 @@ TEST_P(WidgetsSheetCard, DrawsItsWhiteCardOverTheWindow) {
   sheet.setText("You're all set for backup. Do you want to back up this device right now?");
   QImage shot;
   QRect card;
+  int buttonTop = 0;
   whileUp([&] {
     card = sheet.geometry();
+    buttonTop = sheet.button(QMessageBox::Apply)->geometry().top();
     shot = window_.grab().toImage();
     sheet.quit();
   });
   sheet.exec();
   ASSERT_FALSE(shot.isNull());
   // Inside the card, left of the picture and below the buttons: the card's own background.
-  for (const QPoint p : {QPoint(card.left() + 10, card.center().y()), QPoint(card.center().x(), card.bottom() - 6),
-                         QPoint(card.right() - 10, card.top() + 10)})
+  for (const QPoint p :
+       {QPoint(card.left() + 10, card.center().y()), QPoint(card.center().x(), card.bottom() - 6),
+        QPoint(card.right() - 10, card.top() + 10)})
     EXPECT_EQ(QColor(shot.pixel(p)).name().toStdString(), "#ffffff") << "at " << p.x() << "," << p.y();
+  EXPECT_GT(buttonTop, card.height() / 2) << "the buttons are laid out along the card's bottom";
   // Outside it, the window as it was.
   EXPECT_EQ(QColor(shot.pixel(2, 2)).name().toStdString(), "#3c3c3c");
 }

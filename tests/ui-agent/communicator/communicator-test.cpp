@@ -207,8 +207,7 @@ TEST_P(BadAnswerTest, IsAFailedExchangeWithParseLineAndTheClientServesOn) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Answers, BadAnswerTest,
-                         ::testing::Values("hello", "", R"({"status": 1)", "{status: 1}", "[1,2,3]", "12288",
-                                           "\"updating\"", "null", std::string(100000, '[')));
+                         ::testing::Values("hello", "", std::string(100000, '['), "[1,2,3]", "null"));
 
 // What a status may hold: a longer text is not read whole, more elements
 // are not parsed; an ordinary status goes through.

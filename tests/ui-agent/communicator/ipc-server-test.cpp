@@ -86,12 +86,10 @@ INSTANTIATE_TEST_SUITE_P(
     Requests, RefusedTest,
     ::testing::Values(Refused{R"({"action": "open"})", "not support action: {\"action\":\"open\"}\n"},
                       Refused{R"({"action": 5})", "not support action: {\"action\":5}\n"},
-                      Refused{R"({"action": null})", "not support action: {\"action\":null}\n"},
                       Refused{R"({"action": "Notifications"})", "not support action: "},
                       Refused{R"({"notifications": []})", "format invalid: {\"notifications\":[]}\n"},
-                      Refused{"hello", "format invalid: null\n"}, Refused{"", "format invalid: null\n"},
+                      Refused{"hello", "format invalid: null\n"},
                       Refused{R"(["action"])", "format invalid: [\"action\"]\n"},
-                      Refused{R"("notifications")", "format invalid: \"notifications\"\n"},
                       Refused{std::string(50000, '['), "format invalid: null\n"}));
 
 TEST_F(IpcServerTest, ClientsAreServedOneRequestEachInTurnAlsoAfterOneHangsUp) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QSignalSpy>
+#include <QTest>
 #include <QThread>
 
 #include "agent-test.h"
@@ -79,6 +80,10 @@ TEST_F(StatusWorkerTest, AnswerIsStoredAndAnnounced) {
   EXPECT_EQ(info.port, 443);
   EXPECT_FALSE(info.ssl_allow_untrust);  // never read from a status answer
   EXPECT_EQ(info.proxy.proxy_port, 8080);
+  // The same answer again is announced again, the previous status now equal.
+  answer(worker_, R"({"status": 12289})");
+  EXPECT_EQ(notice(1).at(0).value<ServiceStatus>(), StatusBackupPreparing);
+  EXPECT_EQ(notice(1).at(1).value<ServiceStatus>(), StatusBackupPreparing);
 }
 
 TEST_F(StatusWorkerTest, AnswersForOtherSendersChangeNothing) {
@@ -100,17 +105,6 @@ TEST_F(StatusWorkerTest, AnswersForOtherSendersChangeNothing) {
   QCoreApplication::processEvents();
   answer(worker_, R"({"status": 8192})");
   notice(1);
-  drain();
-  EXPECT_EQ(notices_.size(), 2);
-}
-
-TEST_F(StatusWorkerTest, IdenticalAnswersAnnounceTwiceTheSecondWithPreviousEqualCurrent) {
-  answer(worker_, R"({"status": 8192, "content": {"last": 1}})");
-  answer(worker_, R"({"status": 8192, "content": {"last": 1}})");
-  EXPECT_EQ(notice(0).at(0).value<ServiceStatus>(), StatusUnknown);
-  const QList<QVariant> second = notice(1);
-  EXPECT_EQ(second.at(0).value<ServiceStatus>(), StatusIdle);
-  EXPECT_EQ(second.at(1).value<ServiceStatus>(), StatusIdle);
   drain();
   EXPECT_EQ(notices_.size(), 2);
 }
@@ -163,9 +157,23 @@ TEST_F(StatusWorkerTest, StopBeforeStartThenStartTwiceMakesOneTimerTickingOnTheW
   ASSERT_TRUE(requests.wait(3000));
 }
 
-// Answers that lack members, or hold them with the wrong type (how each type
-// reads is json-access's table): a held connection stays unless a
-// `connection` object came.
+// A service that answers at once is still asked once a second, not without
+// pause: a window of 300 ms after the first request holds at most one more.
+TEST_F(StatusWorkerTest, AServiceThatAnswersAtOnceIsAskedOnceASecond) {
+  QSignalSpy requests(bus_, &GlobalConnecter::sigQueryService);
+  QObject::connect(
+      worker_, &GetStatusWorker::sigQueryService, worker_,
+      [this](const QObject*, Json::Value) { emit bus_->sigQueryServiceEnded(worker_); },
+      Qt::DirectConnection);
+  worker_->startPolling();
+  ASSERT_TRUE(requests.wait(5000));
+  QTest::qWait(300);
+  EXPECT_LE(requests.size(), 2);
+}
+
+// How a status answer of the wrong shape is read, one row per branch (how
+// each member type reads is json-access's table): a held connection stays
+// unless a `connection` object came.
 struct Answer {
   const char* text;
   std::int32_t status;
@@ -182,7 +190,6 @@ TEST_P(AnswerShapeTest, WrongTypesReadAsMissing) {
   const Answer& c = GetParam();
   ConnectionInfo held;
   held.address = "held.example";
-  held.ssl_allow_untrust = true;
   store_.setConnectionInfo(held);
   answer(worker_, c.text);
   const QList<QVariant> args = notice(0);
@@ -195,17 +202,10 @@ TEST_P(AnswerShapeTest, WrongTypesReadAsMissing) {
 
 INSTANTIATE_TEST_SUITE_P(
     Answers, AnswerShapeTest,
-    ::testing::Values(Answer{R"({"status": 8192, "content": {}})", 8192, "{}", false},
-                      Answer{R"({"status": "12288", "content": {}})", 0, "{}", false},
-                      Answer{R"({"status": 4294979584})", 0x3000, "null", false},
-                      Answer{R"({"status": 8192, "content": 5})", 8192, "null", false},
+    ::testing::Values(Answer{R"({"status": "12288", "content": {}})", 0, "{}", false},
                       Answer{R"({"status": 8192, "content": [1, 2]})", 8192, "null", false},
-                      Answer{R"({"status": 8192, "connection": [{"address": "a"}]})", 8192, "null", false},
                       Answer{R"({"status": 8192, "connection": "cloud"})", 8192, "null", false},
-                      Answer{R"({"status": 8192, "connection": {}})", 8192, "null", true},
-                      Answer{R"({"status": 8192, "connection": {"address": "new"}, "proxy": [1]})", 8192,
-                             "null", true},
-                      Answer{"{}", 0, "null", false}, Answer{"[]", 0, "null", false},
-                      Answer{"\"text\"", 0, "null", false}));
+                      Answer{R"({"status": 8192, "connection": {}, "proxy": [1]})", 8192, "null", true},
+                      Answer{"[]", 0, "null", false}));
 
 }  // namespace

@@ -1,12 +1,11 @@
-// The update status dialog (flags, modality, message, button, finished on
-// every way out) and the about window (version line, links, Escape, close,
-// the dragging rule with its edges).
+// Where the windows open; the update status dialog (flags, modality,
+// message, button, finished on every way out) and the about window (version
+// line, links, Escape, close, the dragging rule with its edges).
 
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QDesktopServices>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QSignalSpy>
@@ -33,184 +32,101 @@ namespace {
 using string_display::text;
 
 // Lengths are checked at scale 1, whatever the offscreen screen reports.
-void loadLook() {
-  qputenv("NIMBRA_UI_SCALE", "1");
-  agent_test::loadLook();
-}
+class Dialogs : public ::testing::Test {
+ protected:
+  static void SetUpTestSuite() {
+    qputenv("NIMBRA_UI_SCALE", "1");
+    agent_test::loadLook();
+  }
+};
 
-// --- where the windows open -------------------------------------------------
-
-TEST(WindowPlacement, CentredInTheWorkAreaAndKeptInsideIt) {
+// Wherever a window manager would put them, the windows open centred in the
+// work area of the screen that holds the pointer, kept inside it.
+TEST_F(Dialogs, WindowsOpenCentredOnThePointersScreen) {
   using window_placement::centredIn;
   EXPECT_EQ(centredIn(QRect(0, 0, 1280, 800), QSize(700, 442)), QPoint(290, 179));
   EXPECT_EQ(centredIn(QRect(1920, 30, 1280, 770), QSize(400, 230)), QPoint(2360, 300));
   EXPECT_EQ(centredIn(QRect(0, 0, 800, 600), QSize(900, 540)), QPoint(0, 30));
-}
-
-struct WindowRow {
-  const char* name;
-  std::function<QWidget*()> make;
-};
-void PrintTo(const WindowRow& r, std::ostream* os) {
-  *os << r.name;
-}
-class WindowsOpen : public ::testing::TestWithParam<WindowRow> {
- protected:
-  static void SetUpTestSuite() { loadLook(); }
-};
-
-// Wherever a window manager would put them, the windows open centred on the
-// screen that holds the pointer.
-TEST_P(WindowsOpen, CentredOnThePointersScreen) {
-  std::unique_ptr<QWidget> window(GetParam().make());
-  window->move(7, 7);
-  window->show();
-  const QRect area = window_placement::workAreaAt(QCursor::pos());
-  EXPECT_EQ(window->pos(), window_placement::centredIn(area, window->frameGeometry().size()));
-  window->hide();
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Windows, WindowsOpen,
-    ::testing::Values(WindowRow{"wizard", [] { return static_cast<QWidget*>(new Wizard); }},
-                      WindowRow{"activity", [] { return static_cast<QWidget*>(new LogWidget); }},
-                      WindowRow{"settings", [] { return static_cast<QWidget*>(new SettingsWidget); }},
-                      WindowRow{"about", [] { return static_cast<QWidget*>(new AboutWindowContainer); }},
-                      WindowRow{"update", [] { return static_cast<QWidget*>(new UpdateStatusDialog); }}),
-    [](const ::testing::TestParamInfo<WindowRow>& i) { return std::string(i.param.name); });
-
-// --- update status dialog --------------------------------------------------
-
-class UpdateDialog : public ::testing::Test {
- protected:
-  static void SetUpTestSuite() { loadLook(); }
-  VellButton* ok() { return dialog_.findChild<VellButton*>("UpdateStatusOk"); }
-  UpdateStatusDialog dialog_;
-};
-
-TEST_F(UpdateDialog, ExactFlagsApplicationModalFixedSize) {
-  EXPECT_EQ(dialog_.windowFlags(),
-            Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
-  EXPECT_EQ(dialog_.windowModality(), Qt::ApplicationModal);
-  EXPECT_EQ(dialog_.minimumSize(), dialog_.maximumSize());
-  EXPECT_EQ(dialog_.windowTitle(), text(Str::app_name));
-  EXPECT_EQ(dialog_.palette().brush(QPalette::Inactive, dialog_.backgroundRole()).color(), QColor(Qt::white));
-  ASSERT_NE(ok(), nullptr);
-  EXPECT_EQ(ok()->buttonKind(), VellButton::Secondary);
-}
-
-TEST_F(UpdateDialog, MessageAndButton) {
-  dialog_.setMessage(text(Str::desc_updating_service));
-  dialog_.setButtonVisible(false);
-  dialog_.show();
-  EXPECT_EQ(dialog_.findChild<QLabel*>("UpdateStatusMessage")->text(), text(Str::desc_updating_service));
-  EXPECT_FALSE(ok()->isVisible());
-  dialog_.setMessage(text(Str::desc_update_service_fail));
-  dialog_.setButtonVisible(true);
-  EXPECT_TRUE(ok()->isVisible());
-  EXPECT_EQ(dialog_.message(), text(Str::desc_update_service_fail));
+  const std::function<QWidget*()> makers[] = {
+      [] { return new Wizard; }, [] { return new LogWidget; }, [] { return new SettingsWidget; },
+      [] { return new AboutWindowContainer; }, [] { return new UpdateStatusDialog; }};
+  for (const auto& make : makers) {
+    std::unique_ptr<QWidget> window(make());
+    window->move(7, 7);
+    window->show();
+    EXPECT_EQ(window->pos(),
+              centredIn(window_placement::workAreaAt(QCursor::pos()), window->frameGeometry().size()))
+        << window->metaObject()->className();
+  }
 }
 
 // Laid out on screen, the 300 px message keeps a 10 px margin to the right
-// edge (the row is 10 + 72 + 8 + 300 + 10 = 400 wide), its wrapped lines fit
-// its height and the button stays inside the dialog.
-TEST_F(UpdateDialog, MessageAndButtonKeepTheirMarginsOnceShown) {
+// edge (10 + 72 + 8 + 300 + 10 = 400), its wrapped lines fit its height and
+// the button stays inside the dialog.
+TEST_F(Dialogs, UpdateDialogFlagsMessageAndButton) {
+  UpdateStatusDialog dialog;
+  EXPECT_EQ(dialog.windowFlags(),
+            Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+  EXPECT_EQ(dialog.windowModality(), Qt::ApplicationModal);
+  EXPECT_EQ(dialog.minimumSize(), dialog.maximumSize());
+  EXPECT_EQ(dialog.windowTitle(), text(Str::app_name));
+  EXPECT_EQ(dialog.palette().brush(QPalette::Inactive, dialog.backgroundRole()).color(), QColor(Qt::white));
+  auto* ok = agent_test::child<VellButton>(&dialog, "UpdateStatusOk");
+  EXPECT_EQ(ok->buttonKind(), VellButton::Secondary);
+  const auto* message = agent_test::child<QLabel>(&dialog, "UpdateStatusMessage");
+  const auto* icon = agent_test::child<QLabel>(&dialog, "UpdateStatusIcon");
   for (const bool failed : {false, true}) {
-    dialog_.setMessage(text(failed ? Str::desc_update_service_fail : Str::desc_updating_service));
-    dialog_.setButtonVisible(failed);
-    dialog_.show();
-    QApplication::processEvents();
-    const auto* message = dialog_.findChild<QLabel*>("UpdateStatusMessage");
-    const auto* icon = dialog_.findChild<QLabel*>("UpdateStatusIcon");
-    ASSERT_NE(message, nullptr);
-    ASSERT_NE(icon, nullptr);
     SCOPED_TRACE(failed ? "failed" : "updating");
+    const QString shown = text(failed ? Str::desc_update_service_fail : Str::desc_updating_service);
+    dialog.setMessage(shown);
+    dialog.setButtonVisible(failed);
+    dialog.show();
+    QApplication::processEvents();
+    EXPECT_EQ(message->text(), shown);
+    EXPECT_EQ(dialog.message(), shown);
+    EXPECT_EQ(ok->isVisible(), failed);
     EXPECT_EQ(message->width(), 300);
-    EXPECT_LE(message->geometry().right() + 1, dialog_.width() - 10);
+    EXPECT_LE(message->geometry().right() + 1, dialog.width() - 10);
     EXPECT_GE(message->x(), icon->geometry().right() + 1 + 8);
     EXPECT_GE(icon->x(), 10);
     EXPECT_GE(message->height(), message->heightForWidth(message->width()));
     if (failed) {
-      EXPECT_LE(ok()->geometry().right() + 1, dialog_.width() - 10);
-      EXPECT_LE(ok()->geometry().bottom() + 1, dialog_.height() - 10);
-      EXPECT_GE(ok()->y(), message->geometry().bottom());
+      EXPECT_LE(ok->geometry().right() + 1, dialog.width() - 10);
+      EXPECT_LE(ok->geometry().bottom() + 1, dialog.height() - 10);
+      EXPECT_GE(ok->y(), message->geometry().bottom());
     }
-    dialog_.hide();
   }
 }
 
-enum class Way { OkButton, OkByReturn, Escape, CloseButton };
-void PrintTo(Way w, std::ostream* os) {
-  *os << (w == Way::OkButton     ? "ok"
-          : w == Way::OkByReturn ? "return"
-          : w == Way::Escape     ? "escape"
-                                 : "close");
-}
-class UpdateDialogFinished : public UpdateDialog, public ::testing::WithParamInterface<Way> {};
-
-TEST_P(UpdateDialogFinished, FiresOnEveryWayOut) {
-  QSignalSpy finished(&dialog_, &QDialog::finished);
-  dialog_.setButtonVisible(true);
-  dialog_.show();
-  QApplication::setActiveWindow(&dialog_);
-  switch (GetParam()) {
-    case Way::OkButton:
-      ok()->click();
-      break;
-    case Way::OkByReturn:
-      ok()->setFocus();
-      QTest::keyClick(ok(), Qt::Key_Return);
-      break;
-    case Way::Escape:
-      QTest::keyClick(&dialog_, Qt::Key_Escape);
-      break;
-    case Way::CloseButton:
-      dialog_.close();
-      break;
-  }
-  EXPECT_EQ(finished.count(), 1);
-  EXPECT_FALSE(dialog_.isVisible());
-}
-INSTANTIATE_TEST_SUITE_P(Ways, UpdateDialogFinished,
-                         ::testing::Values(Way::OkButton, Way::OkByReturn, Way::Escape, Way::CloseButton),
-                         [](const ::testing::TestParamInfo<Way>& p) {
-                           std::ostringstream os;
-                           PrintTo(p.param, &os);
-                           return os.str();
-                         });
-
-// --- about window -------------------------------------------------------------
-
-struct DragRow {
-  const char* name;
-  int pressX, pressY;
-  QPoint global;
-  double scale;
-  bool moves;
-  QPoint to;
-};
-void PrintTo(const DragRow& r, std::ostream* os) {
-  *os << r.name;
-}
-class AboutDrag : public ::testing::TestWithParam<DragRow> {};
-TEST_P(AboutDrag, StartsOnlyAwayFromTheLeftAndTopEdges) {
-  const DragRow& r = GetParam();
-  const auto to = about_drag_target(r.pressX, r.pressY, r.global, r.scale);
-  EXPECT_EQ(to.has_value(), r.moves);
-  if (to) {
-    EXPECT_EQ(*to, r.to);
+TEST_F(Dialogs, UpdateDialogFinishedOnEveryWayOut) {
+  const std::pair<const char*, std::function<void(UpdateStatusDialog&, VellButton*)>> ways[] = {
+      {"ok", [](UpdateStatusDialog&, VellButton* ok) { ok->click(); }},
+      {"return",
+       [](UpdateStatusDialog&, VellButton* ok) {
+         ok->setFocus();
+         QTest::keyClick(ok, Qt::Key_Return);
+       }},
+      {"escape", [](UpdateStatusDialog& d, VellButton*) { QTest::keyClick(&d, Qt::Key_Escape); }},
+      {"close", [](UpdateStatusDialog& d, VellButton*) { d.close(); }}};
+  for (const auto& [name, leave] : ways) {
+    UpdateStatusDialog dialog;
+    QSignalSpy finished(&dialog, &QDialog::finished);
+    dialog.setButtonVisible(true);
+    dialog.show();
+    QApplication::setActiveWindow(&dialog);
+    leave(dialog, dialog.findChild<VellButton*>("UpdateStatusOk"));
+    EXPECT_EQ(finished.count(), 1) << name;
+    EXPECT_FALSE(dialog.isVisible()) << name;
   }
 }
-INSTANTIATE_TEST_SUITE_P(
-    Rows, AboutDrag,
-    ::testing::Values(DragRow{"inside", 30, 40, QPoint(530, 440), 1.0, true, QPoint(500, 400)},
-                      DragRow{"scaled", 30, 40, QPoint(530, 440), 2.0, true, QPoint(1000, 800)},
-                      DragRow{"fractional_scale_truncates", 1, 1, QPoint(102, 102), 1.25, true,
-                              QPoint(126, 126)},
-                      DragRow{"left_edge", 0, 40, QPoint(530, 440), 1.0, false, QPoint()},
-                      DragRow{"top_edge", 30, 0, QPoint(530, 440), 1.0, false, QPoint()},
-                      DragRow{"corner", 0, 0, QPoint(530, 440), 1.0, false, QPoint()}),
-    [](const ::testing::TestParamInfo<DragRow>& p) { return std::string(p.param.name); });
+
+TEST(AboutDrag, StartsOnlyAwayFromTheLeftAndTopEdges) {
+  EXPECT_EQ(about_drag_target(30, 40, QPoint(530, 440), 1.0), QPoint(500, 400));
+  EXPECT_EQ(about_drag_target(30, 40, QPoint(530, 440), 2.0), QPoint(1000, 800));
+  EXPECT_EQ(about_drag_target(1, 1, QPoint(102, 102), 1.25), QPoint(126, 126));  // truncated
+  EXPECT_EQ(about_drag_target(0, 40, QPoint(530, 440), 1.0), std::nullopt);
+  EXPECT_EQ(about_drag_target(30, 0, QPoint(530, 440), 1.0), std::nullopt);
+}
 
 // Receives what the about window hands to the desktop.
 class UrlCatcher : public QObject {
@@ -221,16 +137,12 @@ class UrlCatcher : public QObject {
   void open(const QUrl& url) { urls << url; }
 };
 
-class AboutWindowTest : public ::testing::Test {
+class AboutWindowTest : public Dialogs {
  protected:
-  static void SetUpTestSuite() { loadLook(); }
   void SetUp() override { QDesktopServices::setUrlHandler("https", &catcher_, "open"); }
   void TearDown() override { QDesktopServices::unsetUrlHandler("https"); }
-
   void mouse(QEvent::Type type, QPoint local, Qt::MouseButton button = Qt::LeftButton) {
-    QMouseEvent e(type, local, container_.mapToGlobal(local), button,
-                  type == QEvent::MouseMove ? Qt::MouseButtons(button) : Qt::MouseButtons(button),
-                  Qt::NoModifier);
+    QMouseEvent e(type, local, container_.mapToGlobal(local), button, button, Qt::NoModifier);
     QApplication::sendEvent(&container_, &e);
   }
 
@@ -238,51 +150,41 @@ class AboutWindowTest : public ::testing::Test {
   AboutWindowContainer container_;
 };
 
-TEST_F(AboutWindowTest, VersionLineAndLooks) {
+TEST_F(AboutWindowTest, VersionLooksLinksAndNames) {
   AboutWindow* frame = container_.frame();
   EXPECT_EQ(frame->findChild<QLabel*>("AboutVersion")->text(), "Version: 3.6.0-0701");
-  EXPECT_EQ(about_version_text(), "Version: 3.6.0-0701");
   EXPECT_TRUE(frame->findChild<QLabel*>("AboutCopyright")->text().contains("2024"));
   EXPECT_EQ(frame->size(), QSize(480, 243));
   EXPECT_EQ(frame->objectName(), "AboutWindow");
   EXPECT_TRUE(container_.testAttribute(Qt::WA_TranslucentBackground));
   EXPECT_TRUE(container_.windowFlags() & Qt::FramelessWindowHint);
-}
+  for (QWidget* w : container_.findChildren<QWidget*>())
+    EXPECT_TRUE(!(w->focusPolicy() & Qt::TabFocus) || !w->accessibleName().isEmpty())
+        << w->objectName().toStdString();
 
-TEST_F(AboutWindowTest, EachLinkOpensItsOwnAddress) {
   container_.show();
-  auto* terms = container_.findChild<LinkLabel*>("AboutTerms");
-  auto* privacy = container_.findChild<LinkLabel*>("AboutPrivacy");
-  emit privacy->clicked();
-  QTest::keyClick(terms, Qt::Key_Return);  // keyboard works the link too
-  ASSERT_EQ(catcher_.urls.size(), 2);
-  EXPECT_EQ(catcher_.urls.at(0), AboutWindow::privacyUrl());
-  EXPECT_EQ(catcher_.urls.at(1), AboutWindow::termsUrl());
+  emit container_.findChild<LinkLabel*>("AboutPrivacy")->clicked();
+  QTest::keyClick(container_.findChild<LinkLabel*>("AboutTerms"),
+                  Qt::Key_Return);  // the keyboard works it too
+  EXPECT_EQ(catcher_.urls, QList<QUrl>({AboutWindow::privacyUrl(), AboutWindow::termsUrl()}));
   EXPECT_NE(AboutWindow::termsUrl(), AboutWindow::privacyUrl());
 }
 
-TEST_F(AboutWindowTest, EscapeClosesTheFrameAndTheWindowAndShowingAgainBringsItBack) {
+TEST_F(AboutWindowTest, EscapeAndCloseHideWithoutDestroying) {
   container_.show();
+  QTest::keyClick(container_.frame(), Qt::Key_A);
+  EXPECT_TRUE(container_.isVisible()) << "another key closed it";
   QTest::keyClick(container_.frame(), Qt::Key_Escape);
-  EXPECT_FALSE(container_.frame()->isVisible());
-  EXPECT_FALSE(container_.isVisible());
+  EXPECT_FALSE(container_.frame()->isVisible() || container_.isVisible());
   container_.show();
   EXPECT_TRUE(container_.frame()->isVisible());
-  // Other keys do nothing.
-  QTest::keyClick(container_.frame(), Qt::Key_A);
-  EXPECT_TRUE(container_.isVisible());
-}
-
-TEST_F(AboutWindowTest, CloseButtonHidesWithoutDestroying) {
-  container_.show();
   QSignalSpy closing(container_.frame(), &AboutWindow::sigCloseWindow);
   container_.findChild<VellIconButton*>("AboutClose")->click();
   EXPECT_EQ(closing.count(), 1);
   EXPECT_FALSE(container_.isVisible());
-  EXPECT_NE(container_.frame(), nullptr);
 }
 
-TEST_F(AboutWindowTest, DragMovesOnlyAfterAPressAwayFromTheEdges) {
+TEST_F(AboutWindowTest, DragMovesOnlyAfterALeftPressAwayFromTheEdges) {
   container_.show();
   container_.move(100, 100);
   mouse(QEvent::MouseButtonPress, QPoint(0, 20));
@@ -295,14 +197,6 @@ TEST_F(AboutWindowTest, DragMovesOnlyAfterAPressAwayFromTheEdges) {
   const QPoint global = container_.mapToGlobal(QPoint(70, 90));
   mouse(QEvent::MouseMove, QPoint(70, 90));
   EXPECT_EQ(container_.pos(), global - QPoint(20, 30));
-}
-
-TEST_F(AboutWindowTest, EveryControlHasAnAccessibleName) {
-  for (QWidget* w : container_.findChildren<QWidget*>()) {
-    if (w->focusPolicy() & Qt::TabFocus) {
-      EXPECT_FALSE(w->accessibleName().isEmpty()) << w->objectName().toStdString();
-    }
-  }
 }
 
 }  // namespace

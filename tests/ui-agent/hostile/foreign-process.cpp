@@ -71,6 +71,16 @@ int ForeignProcess::wait(int timeout_ms) {
   }
 }
 
+std::unique_ptr<ForeignProcess> holdName(uid_t uid, const std::string& name, bool is_path) {
+  const char* n = name.c_str();  // the child has its own copy of the memory
+  return std::make_unique<ForeignProcess>(uid, [n, is_path](int out, int in) {
+    if ((is_path ? rawBindPath(n, 4) : rawBind(n, 4)) < 0) return 1;
+    rawTell(out, 'r');
+    rawAwait(in);
+    return 0;
+  });
+}
+
 bool canPlayAnotherUser() {
   return ::geteuid() == 0;
 }

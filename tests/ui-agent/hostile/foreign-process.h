@@ -9,6 +9,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <memory>
 #include <string>
 
 namespace hostile {
@@ -40,6 +41,11 @@ class ForeignProcess {
   int to_parent_[2] = {-1, -1};
   int from_parent_[2] = {-1, -1};
 };
+
+// A child of `uid` that binds `name` (the abstract socket, or the socket file
+// when `is_path`) listening, sends 'r' and holds it until told anything
+// (1: the bind failed).
+std::unique_ptr<ForeignProcess> holdName(uid_t uid, const std::string& name, bool is_path = false);
 
 // True when the tests may play another user (they run as root).
 bool canPlayAnotherUser();

@@ -149,30 +149,18 @@ TEST_F(AgentPipe, AFloodOfAnotherUsersConnectionsCostsOneLogLine) {
 }
 
 TEST_F(AgentPipe, AnotherUserHoldingTheNameDoesNotStopTheStart) {
-  const char* name = name_.c_str();
-  hostile::ForeignProcess squatter(hostile::kForeignUid, [&](int out, int in) {
-    if (hostile::rawBind(name, 4) < 0) return 2;
-    hostile::rawTell(out, 'r');
-    hostile::rawAwait(in);
-    return 0;
-  });
-  ASSERT_EQ(squatter.hear(), 'r');
+  const auto squatter = hostile::holdName(hostile::kForeignUid, name_);
+  ASSERT_EQ(squatter->hear(), 'r');
   EXPECT_NO_THROW(start());
   EXPECT_FALSE(server_->isServing());
   EXPECT_THAT(log(), HasSubstr("agent pipe held by uid 65534"));
-  squatter.tell('q');
-  EXPECT_EQ(squatter.wait(), 0);
+  squatter->tell('q');
+  EXPECT_EQ(squatter->wait(), 0);
   QElapsedTimer clock;
   clock.start();
   while (!server_->isServing() && clock.elapsed() < 10000) QThread::msleep(20);
   ASSERT_TRUE(server_->isServing()) << "the pipe was taken over once free";
   EXPECT_EQ(notify(notification()), kOk);
-}
-
-TEST_F(AgentPipe, AnotherAgentOfThisUserStillMakesInitThrow) {
-  start();
-  ServiceIpcServer second;
-  EXPECT_THROW(second.init(), std::runtime_error);
 }
 
 // Clients that never finish: the pipe still answers a real notification
@@ -328,55 +316,20 @@ TEST_F(Client, QuittingEndsAnExchangeWithAHungServiceAndNothingSecretIsLogged) {
   EXPECT_THAT(log(), HasSubstr("not sent: the agent is quitting"));
 }
 
-// An answer of 8 MiB of small elements (jsoncpp would need 400 MB for it)
-// is refused before it is parsed: the memory stays near where it was.
-TEST_F(Client, AHugeAnswerOfSmallElementsCostsLittleMemory) {
-  std::string huge = R"({"status":1,"content":{"logs":[0)";
-  while (huge.size() < (8u << 20)) huge += ",0";
-  huge += "]}}";
+// A service that hangs up on a request too big to go through before it
+// does: the failure logs the request masked and cut.
+TEST_F(Client, AFailedWriteLogsTheRequestMasked) {
   WinIpc::IpcServer service;
   ASSERT_EQ(service.create(WinIpc::kServicePipe), 0);
   auto serving = std::async(std::launch::async, [&] {
     for (int tries = 0; tries < 10 && !service.accept(); ++tries) {
     }
-    std::string request;
-    if (service.read(request) == 0) service.write(huge);
     service.disconnect();
   });
-  ASSERT_TRUE(hostile::resetPeakResident());
-  const long before = hostile::peakResidentKiB();
-  ask(agent_test::parse(R"({"action":"get_status","log_id":0})"));
-  ASSERT_TRUE(failed_.count() == 1 || failed_.wait(20000));
-  serving.get();
-  const long peak = hostile::peakResidentKiB() - before;
-  std::printf("8 MiB answer of small elements: peak %ld KiB above the start (goal: under 400 MB in all)\n",
-              peak);
-  EXPECT_LT(peak, 64 * 1024);
-  EXPECT_EQ(done_.count(), 0);
-}
-
-TEST_F(Client, FailuresOnTheWayLogTheRequestMasked) {
-  // Garbage for an answer, then a service that hangs up on a request too big
-  // to go through before it does: both failures log the request.
-  std::atomic<int> round{0};
-  WinIpc::IpcServer service;
-  ASSERT_EQ(service.create(WinIpc::kServicePipe), 0);
-  auto serving = std::async(std::launch::async, [&] {
-    for (int served = 0; served < 2;) {
-      if (!service.accept()) continue;
-      std::string request;
-      if (served == 0 && service.read(request) == 0) service.write(std::string("not json ") + kSecrets[0]);
-      service.disconnect();
-      ++served;
-      round = served;
-    }
-  });
-  ask(tokenRequest());
-  ASSERT_TRUE(failed_.count() == 1 || failed_.wait(5000));
   Json::Value big = tokenRequest();
   big["content"]["padding"] = std::string(8 << 20, 'p');
   ask(big);
-  ASSERT_TRUE(failed_.count() == 2 || failed_.wait(10000));
+  ASSERT_TRUE(failed_.count() == 1 || failed_.wait(10000));
   serving.get();
   EXPECT_THAT(log(), HasSubstr("Failed to query service"));
   EXPECT_THAT(log(), HasSubstr("bytes cut]"));
@@ -460,15 +413,8 @@ TEST_F(Hostile, OnlyAPeerOfTheSameUserCountsAsSameUser) {
   nimbra_test::TempDir root;
   ASSERT_EQ(::chmod(root.path().c_str(), 0777), 0);
   const std::string path = root.file("their.sock");
-  hostile::ForeignProcess other(hostile::kForeignUid, [&](int out, int in) {
-    const int fd = hostile::rawBindPath(path.c_str(), 4);
-    if (fd < 0) return 2;
-    ::chmod(path.c_str(), 0777);
-    hostile::rawTell(out, 'r');
-    hostile::rawAwait(in);
-    return 0;
-  });
-  ASSERT_EQ(other.hear(), 'r');
+  const auto other = hostile::holdName(hostile::kForeignUid, path, true);
+  ASSERT_EQ(other->hear(), 'r');
   QLocalSocket toThem;
   toThem.connectToServer(QString::fromStdString(path));
   ASSERT_TRUE(toThem.waitForConnected(3000));
@@ -479,7 +425,7 @@ TEST_F(Hostile, OnlyAPeerOfTheSameUserCountsAsSameUser) {
   toMe.connectToServer(mine.fullServerName());
   ASSERT_TRUE(toMe.waitForConnected(3000));
   EXPECT_TRUE(user_identity::peerIsSameUser(toMe.socketDescriptor()));
-  other.tell('q');
+  other->tell('q');
 }
 
 // ---- the machine-wide lock -------------------------------------------------
@@ -523,15 +469,10 @@ TEST_P(MachineLockHolder, AnotherUsersHolderOfAnyKindRefusesTheStart) {
 TEST_F(Hostile, ThePrimaryHoldsTheMachineLockOnceThisUsersHolderLetsGo) {
   MachineLock lock("hostile-life-lock");
   const std::string name = lock.systemName();
-  hostile::ForeignProcess exiting(::geteuid(), [&](int out, int in) {
-    if (hostile::rawBind(name.c_str(), 8) < 0) return 2;
-    hostile::rawTell(out, 'r');
-    hostile::rawAwait(in);
-    return 0;
-  });
-  ASSERT_EQ(exiting.hear(), 'r');
+  const auto exiting = hostile::holdName(::geteuid(), name);
+  ASSERT_EQ(exiting->hear(), 'r');
   ASSERT_EQ(lock.acquire(), MachineLock::HeldBySameUser);
-  exiting.tell('q');
+  exiting->tell('q');
   EXPECT_EQ(lock.acquireForLife(5000), MachineLock::Acquired);
   EXPECT_TRUE(lock.held());
   hostile::ForeignProcess other(hostile::kForeignUid, [&](int out, int) {

@@ -2,62 +2,31 @@
 // notifier's arguments.
 #include <gtest/gtest.h>
 
-#include <ostream>
-#include <string>
-
 #include "agent-test.h"
 #include "client-manager-rules.h"
 #include "support/qt-print.h"
+#include "support/table.h"
 
 namespace {
 
 using client_manager_rules::SchemeMessage;
 
-struct SchemeRow {
-  const char* name;
-  const char* message;
-  SchemeMessage::Kind kind;
-  const char* key;
-  const char* value;
-};
-void PrintTo(const SchemeRow& r, std::ostream* os) {
-  *os << r.name;
-}
-class SchemeMessages : public ::testing::TestWithParam<SchemeRow> {};
+class SchemeMessages : public ::testing::TestWithParam<nimbra_test::TableRow> {};
 
-TEST_P(SchemeMessages, SplitAsTheRuleSays) {
-  const SchemeRow& r = GetParam();
-  const SchemeMessage m = client_manager_rules::parseSchemeMessage(QString::fromUtf8(r.message));
-  EXPECT_EQ(m.kind, r.kind);
-  if (r.kind == SchemeMessage::Pair) {
-    EXPECT_EQ(m.key, QString(r.key));
-    EXPECT_EQ(m.value, QString(r.value));
+TEST_P(SchemeMessages, SplitAsTheTableSays) {
+  const auto& row = GetParam();
+  const SchemeMessage m = client_manager_rules::parseSchemeMessage(QString::fromStdString(row[0]));
+  const SchemeMessage::Kind kind = row[1] == "pair"        ? SchemeMessage::Pair
+                                   : row[1] == "malformed" ? SchemeMessage::Malformed
+                                                           : SchemeMessage::NotScheme;
+  EXPECT_EQ(m.kind, kind);
+  if (kind == SchemeMessage::Pair) {
+    EXPECT_EQ(m.key, QString::fromStdString(row[2]));
+    EXPECT_EQ(m.value, QString::fromStdString(row[3]));
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Rows, SchemeMessages,
-    ::testing::Values(
-        SchemeRow{"Token", "nimbrabackup://nimbrabackupprotocol?access_token=abc", SchemeMessage::Pair,
-                  "access_token", "abc"},
-        SchemeRow{"OpenLog", "nimbrabackup://nimbrabackupprotocol?open_log=1", SchemeMessage::Pair,
-                  "open_log", "1"},
-        SchemeRow{"EmptyValueKept", "nimbrabackup://nimbrabackupprotocol?access_token=", SchemeMessage::Pair,
-                  "access_token", ""},
-        SchemeRow{"DoubledQuestionMarkDropped", "nimbrabackup://nimbrabackupprotocol??access_token=x",
-                  SchemeMessage::Pair, "access_token", "x"},
-        SchemeRow{"NoEquals", "nimbrabackup://nimbrabackupprotocol?access_token", SchemeMessage::Malformed,
-                  "", ""},
-        SchemeRow{"TwoEquals", "nimbrabackup://nimbrabackupprotocol?access_token=a=b",
-                  SchemeMessage::Malformed, "", ""},
-        SchemeRow{"NoQuery", "nimbrabackup://nimbrabackupprotocol", SchemeMessage::Malformed, "", ""},
-        SchemeRow{"TwoQueries", "nimbrabackup://nimbrabackupprotocol?a=1?b=2", SchemeMessage::Malformed, "",
-                  ""},
-        SchemeRow{"UpperCaseIsNotTheScheme", "NIMBRABACKUP://nimbrabackupprotocol?access_token=abc",
-                  SchemeMessage::NotScheme, "", ""},
-        SchemeRow{"Open", "open", SchemeMessage::NotScheme, "", ""},
-        SchemeRow{"BareToken", "token=abc", SchemeMessage::NotScheme, "", ""}),
-    [](const auto& row) { return std::string(row.param.name); });
+NIMBRA_TABLE_SUITE(SchemeMessages, "ui-agent/manager/scheme-messages.tsv", 4);
 
 TEST(NewLogEntries, OnlyAboveTheLastIdAscending) {
   const Json::Value logs = agent_test::parse(

@@ -2,8 +2,6 @@
 // rule, the renderer choice and what the mouse hook reports.
 #include <gtest/gtest.h>
 
-#include <ostream>
-#include <string>
 #include <vector>
 
 #include "os-services.h"
@@ -12,33 +10,18 @@ namespace {
 
 using os_services::WindowsVersion;
 
-struct ThemeRow {
-  const char* name;
-  unsigned long major;
-  bool has_value;
-  unsigned long value;
-  bool dark;
-};
-void PrintTo(const ThemeRow& r, std::ostream* os) {
-  *os << r.name;
+TEST(TaskbarTheme, DarkExactlyWhenTheRuleSays) {
+  struct {
+    unsigned long major;
+    bool has_value;
+    unsigned long value;
+    bool dark;
+  } const rows[] = {{10, true, 1, false}, {10, true, 0, true},  {10, false, 0, true}, {10, true, 2, false},
+                    {6, true, 0, false},  {6, false, 0, false}, {11, true, 0, true}};
+  for (const auto& r : rows)
+    EXPECT_EQ(os_services::is_dark_taskbar(WindowsVersion{r.major, 3}, r.has_value, r.value), r.dark)
+        << r.major << " " << r.has_value << " " << r.value;
 }
-
-class TaskbarTheme : public ::testing::TestWithParam<ThemeRow> {};
-
-TEST_P(TaskbarTheme, DarkExactlyWhenTheRuleSays) {
-  const ThemeRow& r = GetParam();
-  EXPECT_EQ(os_services::is_dark_taskbar(WindowsVersion{r.major, 3}, r.has_value, r.value), r.dark);
-}
-
-INSTANTIATE_TEST_SUITE_P(Rows, TaskbarTheme,
-                         ::testing::Values(ThemeRow{"Win10LightValue", 10, true, 1, false},
-                                           ThemeRow{"Win10DarkValue", 10, true, 0, true},
-                                           ThemeRow{"Win10Absent", 10, false, 0, true},
-                                           ThemeRow{"Win10OtherNumber", 10, true, 2, false},
-                                           ThemeRow{"Win7DarkValue", 6, true, 0, false},
-                                           ThemeRow{"Win7Absent", 6, false, 0, false},
-                                           ThemeRow{"Win11DarkValue", 11, true, 0, true}),
-                         [](const auto& row) { return std::string(row.param.name); });
 
 TEST(AgentRenderer, WarpOnlyForMajorVersionSix) {
   EXPECT_TRUE(os_services::wants_warp_renderer(WindowsVersion{6, 1}));

@@ -13,41 +13,25 @@ namespace {
 
 using namespace language_font;
 
-struct LocaleRow {
-  const char* name;  // also the test's name
-  const char* locale;
-  const char* language;
-};
-void PrintTo(const LocaleRow& row, std::ostream* os) { *os << row.name; }
-
-class LocaleLanguage : public ::testing::TestWithParam<LocaleRow> {};
-
-TEST_P(LocaleLanguage, MapsToItsLanguage) {
-  EXPECT_EQ(language_for_locale(QString::fromUtf8(GetParam().locale)), QString::fromLatin1(GetParam().language));
+// One row per branch: each language, each way of naming Chinese, the
+// separators, modifiers and letter case a locale name may carry, and what
+// falls back to English.
+TEST(LocaleLanguage, MapsToItsLanguage) {
+  const char* const rows[][2] = {{"de_DE.UTF-8", "ger"}, {"de_DE@euro", "ger"},  {"DE_de", "ger"},
+                                 {"fr-FR", "fre"},       {"es_MX", "spn"},       {"th_TH.UTF-8", "tha"},
+                                 {"zh_CN.UTF-8", "chs"}, {"zh", "chs"},          {"zh_TW.UTF-8", "cht"},
+                                 {"zh_HK", "cht"},       {"zh_MO", "cht"},       {"zh_Hant_TW", "cht"},
+                                 {"ja_JP.eucJP", "jpn"}, {"ko_KR.UTF-8", "krn"}, {"en_US.UTF-8", "enu"},
+                                 {"pt_BR", "enu"},       {"C", "enu"},           {"", "enu"},
+                                 {"@@..__", "enu"}};
+  for (const auto& row : rows)
+    EXPECT_EQ(language_for_locale(QString::fromUtf8(row[0])), QString::fromLatin1(row[1])) << row[0];
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Rows, LocaleLanguage,
-    ::testing::Values(LocaleRow{"German", "de_DE.UTF-8", "ger"}, LocaleRow{"SwissGerman", "de_CH", "ger"},
-                      LocaleRow{"BareGerman", "de", "ger"}, LocaleRow{"French", "fr_FR.UTF-8", "fre"},
-                      LocaleRow{"CanadianFrench", "fr_CA", "fre"}, LocaleRow{"Spanish", "es_ES.UTF-8", "spn"},
-                      LocaleRow{"MexicanSpanish", "es_MX", "spn"}, LocaleRow{"Thai", "th_TH.UTF-8", "tha"},
-                      LocaleRow{"ChinaChinese", "zh_CN.UTF-8", "chs"}, LocaleRow{"SingaporeChinese", "zh_SG", "chs"},
-                      LocaleRow{"BareChinese", "zh", "chs"}, LocaleRow{"TaiwanChinese", "zh_TW.UTF-8", "cht"},
-                      LocaleRow{"HongKongChinese", "zh_HK.UTF-8", "cht"}, LocaleRow{"MacauChinese", "zh_MO", "cht"},
-                      LocaleRow{"HantScript", "zh_Hant_TW", "cht"}, LocaleRow{"Japanese", "ja_JP.UTF-8", "jpn"},
-                      LocaleRow{"EucJapanese", "ja_JP.eucJP", "jpn"}, LocaleRow{"Korean", "ko_KR.UTF-8", "krn"},
-                      LocaleRow{"EuroModifier", "de_DE@euro", "ger"}, LocaleRow{"BcpDash", "fr-FR", "fre"},
-                      LocaleRow{"UpperCase", "DE_de", "ger"}, LocaleRow{"English", "en_US.UTF-8", "enu"},
-                      LocaleRow{"Portuguese", "pt_BR.UTF-8", "enu"}, LocaleRow{"Danish", "da_DK", "enu"},
-                      LocaleRow{"CLocale", "C", "enu"}, LocaleRow{"CUtf8", "C.UTF-8", "enu"},
-                      LocaleRow{"Posix", "POSIX", "enu"}, LocaleRow{"Empty", "", "enu"},
-                      LocaleRow{"Garbage", "@@..__", "enu"}),
-    [](const ::testing::TestParamInfo<LocaleRow>& p) { return std::string(p.param.name); });
 
 TEST(EnvironmentLanguage, FirstSetVariableDecidesInTheOrderOfTheCLibrary) {
   const QString sys = QStringLiteral("sys");
-  EXPECT_EQ(language_for_environment("ja_JP.UTF-8", "de_DE.UTF-8", "fr_FR.UTF-8", sys), QStringLiteral("jpn"));
+  EXPECT_EQ(language_for_environment("ja_JP.UTF-8", "de_DE.UTF-8", "fr_FR.UTF-8", sys),
+            QStringLiteral("jpn"));
   EXPECT_EQ(language_for_environment("", "de_DE.UTF-8", "fr_FR.UTF-8", sys), QStringLiteral("ger"));
   EXPECT_EQ(language_for_environment("", "", "fr_FR.UTF-8", sys), QStringLiteral("fre"));
   // A set variable naming an unknown or the C locale means English, not the
@@ -73,41 +57,26 @@ TEST(EnvironmentLanguage, ReadsTheProcessEnvironment) {
   if (lang.isNull()) qunsetenv("LANG");
 }
 
-struct FontRow {
-  const char* language;
-  const char* family;
-  const char* standIn;  // the first substitute, installed by scripts/setup
-};
-void PrintTo(const FontRow& row, std::ostream* os) { *os << row.language; }
-
-class LanguageFontRow : public ::testing::TestWithParam<FontRow> {};
-
-TEST_P(LanguageFontRow, NinePointFamilyWithAReadableStandIn) {
-  const QFont font = application_font(QString::fromLatin1(GetParam().language));
-  EXPECT_EQ(font.family(), QString::fromLatin1(GetParam().family));
-  EXPECT_EQ(font.pointSize(), 9);
-  EXPECT_EQ(font.weight(), QFont::Normal);
-  EXPECT_FALSE(font.italic());
-  const QStringList subs = font_substitutes(font.family());
-  ASSERT_FALSE(subs.isEmpty());
-  EXPECT_EQ(subs.first(), QString::fromLatin1(GetParam().standIn));
-  EXPECT_TRUE(subs.contains(QStringLiteral("DejaVu Sans")));  // always present (fonts-dejavu-core)
+TEST(LanguageFont, NinePointFamilyWithAReadableStandIn) {
+  // language, family, its first substitute (installed by scripts/setup)
+  const char* const rows[][3] = {{"cht", "Microsoft JhengHei", "Noto Sans CJK TC"},
+                                 {"chs", "Microsoft YaHei", "Noto Sans CJK SC"},
+                                 {"jpn", "Meiryo", "Noto Sans CJK JP"},
+                                 {"krn", "Malgun Gothic", "Noto Sans CJK KR"},
+                                 {"tha", "Arial", "Liberation Sans"},
+                                 {"xyz", "Arial", "Liberation Sans"}};
+  for (const auto& row : rows) {
+    const QFont font = application_font(QString::fromLatin1(row[0]));
+    EXPECT_EQ(font.family(), QString::fromLatin1(row[1])) << row[0];
+    EXPECT_EQ(font.pointSize(), 9);
+    EXPECT_EQ(font.weight(), QFont::Normal);
+    EXPECT_FALSE(font.italic());
+    const QStringList subs = font_substitutes(font.family());
+    ASSERT_FALSE(subs.isEmpty()) << row[0];
+    EXPECT_EQ(subs.first(), QString::fromLatin1(row[2]));
+    EXPECT_TRUE(subs.contains(QStringLiteral("DejaVu Sans")));  // always present (fonts-dejavu-core)
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(Rows, LanguageFontRow,
-                         ::testing::Values(FontRow{"cht", "Microsoft JhengHei", "Noto Sans CJK TC"},
-                                           FontRow{"chs", "Microsoft YaHei", "Noto Sans CJK SC"},
-                                           FontRow{"jpn", "Meiryo", "Noto Sans CJK JP"},
-                                           FontRow{"krn", "Malgun Gothic", "Noto Sans CJK KR"},
-                                           FontRow{"ger", "Arial", "Liberation Sans"},
-                                           FontRow{"fre", "Arial", "Liberation Sans"},
-                                           FontRow{"spn", "Arial", "Liberation Sans"},
-                                           FontRow{"tha", "Arial", "Liberation Sans"},
-                                           FontRow{"enu", "Arial", "Liberation Sans"},
-                                           FontRow{"xyz", "Arial", "Liberation Sans"}),
-                         [](const ::testing::TestParamInfo<FontRow>& p) {
-                           return std::string(p.param.language);
-                         });
 
 TEST(FontSubstitutions, OtherFamiliesHaveNoneAndInstallingTwiceAddsNothing) {
   EXPECT_TRUE(font_substitutes(QStringLiteral("Liberation Sans")).isEmpty());
@@ -116,7 +85,8 @@ TEST(FontSubstitutions, OtherFamiliesHaveNoneAndInstallingTwiceAddsNothing) {
   install_font_substitutions();
   EXPECT_EQ(QFont::substitutes(QStringLiteral("Meiryo")), once);
   ASSERT_FALSE(once.isEmpty());
-  EXPECT_EQ(once.first().compare(QStringLiteral("Noto Sans CJK JP"), Qt::CaseInsensitive), 0) << once.first().toStdString();
+  EXPECT_EQ(once.first().compare(QStringLiteral("Noto Sans CJK JP"), Qt::CaseInsensitive), 0)
+      << once.first().toStdString();
 }
 
 // With the packages of scripts/setup, the Windows families resolve to the
@@ -126,7 +96,8 @@ TEST(FontSubstitutions, ResolveToTheInstalledStandIns) {
   for (const char* lang : {"chs", "cht", "jpn", "krn", "ger"}) {
     const QFont font = application_font(QString::fromLatin1(lang));
     const QString standIn = font_substitutes(font.family()).first();
-    if (!QFontDatabase().families().contains(standIn)) GTEST_SKIP() << standIn.toStdString() << " not installed";
+    if (!QFontDatabase().families().contains(standIn))
+      GTEST_SKIP() << standIn.toStdString() << " not installed";
     EXPECT_EQ(QFontInfo(font).family(), standIn) << lang;
   }
 }

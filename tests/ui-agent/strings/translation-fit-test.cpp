@@ -130,16 +130,20 @@ TEST_P(LanguageFit, EventValuesStayWholeAndBoldInThePopupAndTheDialog) {
   for (const auto& [type, fit] : fits) {
     const Fit& english = english_->at(type);
     ASSERT_EQ(fit.values.size(), english.values.size()) << type;
-    EXPECT_EQ(bold_values(fit.dialog.message), fit.values) << type << " dialog: " << fit.dialog.message.toStdString();
-    EXPECT_GE(whole_values(fit.popup.message, fit.values), whole_values(english.popup.message, english.values))
+    EXPECT_EQ(bold_values(fit.dialog.message), fit.values)
+        << type << " dialog: " << fit.dialog.message.toStdString();
+    EXPECT_GE(whole_values(fit.popup.message, fit.values),
+              whole_values(english.popup.message, english.values))
         << type << " pop-up: " << fit.popup.message.toStdString()
         << "\n  English: " << english.popup.message.toStdString();
     // Every message fits both labels: the limits go on below 0 until it does.
     EXPECT_TRUE(fit.popup.fits) << type << " overflows the pop-up: " << fit.popup.message.toStdString();
     EXPECT_TRUE(fit.dialog.fits) << type << " overflows the dialog: " << fit.dialog.message.toStdString();
     // What is shown of a value stays bold: tags come in pairs.
-    EXPECT_EQ(fit.popup.message.count(QLatin1String("<b>")), fit.popup.message.count(QLatin1String("</b>"))) << type;
-    if (!fit.popup.message.endsWith(fit.values.last() + QLatin1String("</b>")) && fit.popup.limit < 354) ++shortened;
+    EXPECT_EQ(fit.popup.message.count(QLatin1String("<b>")), fit.popup.message.count(QLatin1String("</b>")))
+        << type;
+    if (!fit.popup.message.endsWith(fit.values.last() + QLatin1String("</b>")) && fit.popup.limit < 354)
+      ++shortened;
   }
   // The longest messages did need the loop.
   EXPECT_GT(shortened, 0);
@@ -147,8 +151,9 @@ TEST_P(LanguageFit, EventValuesStayWholeAndBoldInThePopupAndTheDialog) {
 
 INSTANTIATE_TEST_SUITE_P(Languages, LanguageFit,
                          ::testing::Values(QStringLiteral("ger"), QStringLiteral("fre"),
-                                           QStringLiteral("spn"), QStringLiteral("tha"), QStringLiteral("chs"),
-                                           QStringLiteral("cht"), QStringLiteral("jpn"), QStringLiteral("krn")),
+                                           QStringLiteral("spn"), QStringLiteral("tha"),
+                                           QStringLiteral("chs"), QStringLiteral("cht"),
+                                           QStringLiteral("jpn"), QStringLiteral("krn")),
                          [](const ::testing::TestParamInfo<QString>& p) { return p.param.toStdString(); });
 
 }  // namespace

@@ -7,11 +7,8 @@
 #include <functional>
 #include <vector>
 
-#include <QApplication>
 #include <QLabel>
-#include <QTranslator>
 
-#include "core/language-font.h"
 #include "string-display.h"
 #include "support/temp-dir.h"
 #include "tray-fixture.h"
@@ -37,7 +34,8 @@ TEST(FitSearch, FindsTheFirstFittingLimitOfAnyThreshold) {
     const int k = (354 - expected);
     if (expected < 354 && expected > 0) {
       int calls = 0;
-      event_fit::search(s, [&](int limit) { return ++calls, limit <= threshold; }, k);
+      event_fit::search(
+          s, [&](int limit) { return ++calls, limit <= threshold; }, k);
       EXPECT_LE(calls, 3) << "threshold " << threshold;
     }
   }
@@ -60,21 +58,19 @@ std::vector<quint32> eventTypes() {
 // A body whose every member a message can name holds `value`.
 Json::Value bodyOf(const std::string& value) {
   Json::Value b(Json::objectValue);
-  for (const char* key : {"volume_name", "error_code", "inode_number", "path", "email", "trigger_event", "task_name",
-                          "destination", "plan_name", "parent_path", "interval_start", "interval_end", "exit_code",
-                          "script_result_path"})
+  for (const char* key : {"volume_name", "error_code", "inode_number", "path", "email", "trigger_event",
+                          "task_name", "destination", "plan_name", "parent_path", "interval_start",
+                          "interval_end", "exit_code", "script_result_path"})
     b[key] = value;
   b["cbt"] = true;
   return b;
 }
 
 struct FitCase {
-  const char* name;
   const char* scale;
   bool tray;
   int minCut;  // how many texts at least the walk must have cut below the top limit
 };
-void PrintTo(const FitCase& c, std::ostream* os) { *os << c.name; }
 
 class FastFitMatchesWalk : public tray_test::TrayTest, public ::testing::WithParamInterface<FitCase> {};
 
@@ -110,44 +106,17 @@ TEST_P(FastFitMatchesWalk, EveryTypeShortAndLong) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Cases, FastFitMatchesWalk,
-                         ::testing::Values(FitCase{"tray_scale1", "1", true, 100}, FitCase{"tray_scale2", "2", true, 100},
-                                           FitCase{"activity_scale1", "1", false, 20},
-                                           FitCase{"activity_scale2", "2", false, 100}),
-                         [](const ::testing::TestParamInfo<FitCase>& i) { return std::string(i.param.name); });
+                         ::testing::Values(FitCase{"1", true, 100}, FitCase{"2", true, 100},
+                                           FitCase{"1", false, 20}, FitCase{"2", false, 100}));
 
 // Every event type, with an empty body, in every language the agent offers:
 // the pop-up's latest-event label holds its text within its two lines.
-struct LanguageScale {
-  const char* language;
-  const char* scale;
-};
-void PrintTo(const LanguageScale& c, std::ostream* os) {
-  *os << c.language << " x" << c.scale;
-}
-
 class EveryEventFitsThePopUp : public tray_test::TrayTest,
-                               public ::testing::WithParamInterface<LanguageScale> {
- protected:
-  void SetUp() override {
-    language_font::install_font_substitutions();
-    saved_ = QApplication::font();
-    const QString language = QString::fromLatin1(GetParam().language);
-    QApplication::setFont(language_font::application_font(language));
-    if (language != QLatin1String("enu")) {
-      ASSERT_TRUE(string_display::load_translation(translator_, language));
-      QCoreApplication::installTranslator(&translator_);
-    }
-  }
-  void TearDown() override {
-    QCoreApplication::removeTranslator(&translator_);
-    QApplication::setFont(saved_);
-  }
-  QFont saved_;
-  QTranslator translator_;
-};
+                               public ::testing::WithParamInterface<std::tuple<const char*, const char*>> {};
 
 TEST_P(EveryEventFitsThePopUp, LabelHeightStaysWithinItsTwoLines) {
-  nimbra_test::ScopedEnv scale("NIMBRA_UI_SCALE", GetParam().scale);
+  tray_test::ScopedLanguage language(std::get<0>(GetParam()));
+  nimbra_test::ScopedEnv scale("NIMBRA_UI_SCALE", std::get<1>(GetParam()));
   QWidget page;
   LatestEventLine line(&page, QStringLiteral("fit"));
   QLabel* label = line.eventLabel();
@@ -159,15 +128,9 @@ TEST_P(EveryEventFitsThePopUp, LabelHeightStaysWithinItsTwoLines) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Languages, EveryEventFitsThePopUp, ::testing::ValuesIn([] {
-      std::vector<LanguageScale> cases;
-      for (const char* language : {"enu", "ger", "fre", "spn", "tha", "chs", "cht", "jpn", "krn"})
-        for (const char* scale : {"1", "2"}) cases.push_back({language, scale});
-      return cases;
-    }()),
-    [](const ::testing::TestParamInfo<LanguageScale>& i) {
-      return std::string(i.param.language) + "_x" + i.param.scale;
-    });
+INSTANTIATE_TEST_SUITE_P(Languages, EveryEventFitsThePopUp,
+                         ::testing::Combine(::testing::Values("enu", "ger", "fre", "spn", "tha", "chs", "cht",
+                                                              "jpn", "krn"),
+                                            ::testing::Values("1", "2")));
 
 }  // namespace

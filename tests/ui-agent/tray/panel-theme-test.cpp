@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QDBusAbstractAdaptor>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVariant>
@@ -159,26 +158,13 @@ QPalette paletteWithWindow(const QColor& window) {
 
 }  // namespace
 
-struct ContrastRow {
-  const char* name;
-  bool high;
-};
-class HighContrastName : public ::testing::TestWithParam<ContrastRow> {};
-TEST_P(HighContrastName, TellsTheHighContrastThemes) {
-  EXPECT_EQ(tray_theme::isHighContrastThemeName(GetParam().name), GetParam().high);
+TEST(HighContrastName, TellsTheHighContrastThemes) {
+  for (const char* name :
+       {"HighContrast", "HighContrastInverse", "Breeze High Contrast", "Adwaita-hc", "Yaru:hc"})
+    EXPECT_TRUE(tray_theme::isHighContrastThemeName(name)) << name;
+  for (const char* name : {"Adwaita", "Adwaita-dark", "", "Orchis"})
+    EXPECT_FALSE(tray_theme::isHighContrastThemeName(name)) << name;
 }
-INSTANTIATE_TEST_SUITE_P(Rows, HighContrastName,
-                         ::testing::Values(ContrastRow{"HighContrast", true},
-                                           ContrastRow{"HighContrastInverse", true},
-                                           ContrastRow{"Breeze High Contrast", true},
-                                           ContrastRow{"Adwaita-hc", true}, ContrastRow{"Yaru:hc", true},
-                                           ContrastRow{"Adwaita", false}, ContrastRow{"Adwaita-dark", false},
-                                           ContrastRow{"", false}, ContrastRow{"Orchis", false}),
-                         [](const ::testing::TestParamInfo<ContrastRow>& i) {
-                           QString n = i.param.name;
-                           return n.isEmpty() ? std::string("empty")
-                                              : n.remove(QRegExp("[^A-Za-z]")).toStdString();
-                         });
 
 // Without a portal the palette decides; the watcher keeps its verdict between
 // questions (the icon asks every second), so a palette change must reach it.

@@ -4,11 +4,16 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QTranslator>
+
 #include <ctime>
 #include <string>
 
 #include "agent-test.h"
+#include "core/language-font.h"
 #include "core/log-entry.h"
+#include "string-display.h"
 #include "support/qt-print.h"
 
 namespace tray_test {
@@ -30,6 +35,26 @@ inline LogEntry entry(quint64 id, quint64 time = kMoment, quint32 type = 1101,
   e.body = agent_test::parse(body);
   return e;
 }
+
+// The font and translation of `language` ("enu": no translation) while it lives.
+class ScopedLanguage {
+ public:
+  explicit ScopedLanguage(const char* language) : saved_(QApplication::font()) {
+    language_font::install_font_substitutions();
+    QApplication::setFont(language_font::application_font(QLatin1String(language)));
+    if (QLatin1String(language) == QLatin1String("enu")) return;
+    EXPECT_TRUE(string_display::load_translation(translator_, QLatin1String(language))) << language;
+    QCoreApplication::installTranslator(&translator_);
+  }
+  ~ScopedLanguage() {
+    QCoreApplication::removeTranslator(&translator_);
+    QApplication::setFont(saved_);
+  }
+
+ private:
+  QFont saved_;
+  QTranslator translator_;
+};
 
 class TrayTest : public ::testing::Test {
  protected:

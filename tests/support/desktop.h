@@ -16,17 +16,31 @@
 #include <functional>
 #include <memory>
 
-namespace notifier_test {
+#include "support/wait.h"
 
-// Polls `done` every 20 ms for up to `ms`; true once it holds.
-bool wait_until(const std::function<bool()>& done, int ms);
+namespace nimbra_test {
 
-class PrivateDesktop {
+// A QProcess whose program is killed when the process that started it ends,
+// so that a test stopped by its time limit leaves nothing behind.
+class ChildProcess : public QProcess {
  public:
-  explicit PrivateDesktop(QString scratch);
-  ~PrivateDesktop();
-  PrivateDesktop(const PrivateDesktop&) = delete;
-  PrivateDesktop& operator=(const PrivateDesktop&) = delete;
+  using QProcess::QProcess;
+
+ protected:
+  void setupChildProcess() override;
+};
+
+// SIGTERM (SIGKILL with `kill`), SIGKILL after 5 s; then the object is gone.
+void stop_process(std::unique_ptr<QProcess>& p, bool kill = false);
+// Writes `text` to `path`, executable by its owner when `executable`.
+bool write_text(const QString& path, const QString& text, bool executable = false);
+
+class VirtualDesktop {
+ public:
+  explicit VirtualDesktop(QString scratch);
+  ~VirtualDesktop();
+  VirtualDesktop(const VirtualDesktop&) = delete;
+  VirtualDesktop& operator=(const VirtualDesktop&) = delete;
 
   // Each returns an empty text on success, else what failed.
   QString startBus();
@@ -58,25 +72,15 @@ class PrivateDesktop {
 
  private:
   QString startReading(QProcess& p, const QString& program, const QStringList& args, QString& first_line);
+  std::unique_ptr<QProcess> startLogged(const QString& program, const QStringList& args);
+  // Starts `program` again until `ready` holds; empty on success.
+  QString startUntil(std::unique_ptr<QProcess>& p, const QString& program, const QStringList& args,
+                     const std::function<bool()>& ready);
 
   QString scratch_;
   QString bus_address_;
   QString display_;
-  std::unique_ptr<QProcess> bus_;
-  std::unique_ptr<QProcess> xvfb_;
-  std::unique_ptr<QProcess> dunst_;
-  std::unique_ptr<QProcess> openbox_;
-  std::unique_ptr<QProcess> tint2_;
+  std::unique_ptr<QProcess> bus_, xvfb_, dunst_, openbox_, tint2_;
 };
 
-// A QProcess whose program is killed when the process that started it ends,
-// so that a test stopped by its time limit leaves nothing behind.
-class ChildProcess : public QProcess {
- public:
-  using QProcess::QProcess;
-
- protected:
-  void setupChildProcess() override;
-};
-
-}  // namespace notifier_test
+}  // namespace nimbra_test
