@@ -201,6 +201,10 @@ TEST_P(TrayPagesInLanguage, OneLineTextsFitOrAreElided) {
       EXPECT_TRUE(!label->text().endsWith(QChar(0x2026)) || !label->toolTip().isEmpty())
           << label->objectName().toStdString();
     }
+    // In English the result and backing-up titles are whole; the preparing
+    // title and longer languages may elide where the fonts are wider
+    // (Windows'), with their tool tip, as checked above.
+    if (std::string(GetParam()) != "enu" || status == 0x3001) continue;
     auto* title = child<VellLabel>(page, status == 0x2000 ? "statusResult" : "progressPhase");
     EXPECT_EQ(title->text(), title->fullText()) << title->objectName().toStdString();
     EXPECT_GE(title->width(), title->fontMetrics().horizontalAdvance(title->fullText()));
