@@ -1,4 +1,4 @@
-#include "logger.h"
+#include "logging/logger.h"
 
 #include <algorithm>
 #include <atomic>
@@ -10,7 +10,7 @@
 #include <mutex>
 #include <vector>
 
-#include "logger-platform.h"
+#include "logging/logger-platform.h"
 
 namespace vlog {
 namespace {
@@ -313,6 +313,10 @@ const char* base_name(const char* path) {
   for (const char* p = path; *p; ++p)
     if (*p == '/' || *p == '\\') base = p + 1;
   return base;
+}
+
+std::string to_utf8(const std::wstring& text) {
+  return platform::narrow(text);
 }
 
 std::size_t utf16_length(const std::string& utf8) {

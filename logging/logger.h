@@ -87,6 +87,10 @@ const char* base_name(const char* path);
 // counts, so that the rotation size is the same on every platform.
 std::size_t utf16_length(const std::string& utf8);
 
+// UTF-8 of a wide text (on Windows UTF-16, elsewhere UTF-32), as the log
+// files and the working-space helpers write names.
+std::string to_utf8(const std::wstring& text);
+
 }  // namespace vlog
 
 // The trace tag lives in a temporary that outlasts the whole call.

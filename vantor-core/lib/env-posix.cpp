@@ -3,8 +3,8 @@
 #include <cerrno>
 #include <cstdlib>
 
-#include "env-platform.h"
-#include "logger-platform.h"
+#include "vantor-core/lib/env-platform.h"
+#include "logging/logger.h"
 
 namespace vantor::platform {
 
@@ -56,7 +56,7 @@ unsigned process_id() {
 }
 
 std::string to_utf8(const std::wstring& text) {
-  return vlog::platform::narrow(text);
+  return vlog::to_utf8(text);
 }
 
 }  // namespace vantor::platform

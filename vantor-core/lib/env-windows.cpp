@@ -2,9 +2,9 @@
 
 #include <vector>
 
-#include "env-platform.h"
-#include "logger-platform.h"
-#include "win-error.h"
+#include "vantor-core/lib/env-platform.h"
+#include "logging/logger.h"
+#include "vantor-core/lib/win-error.h"
 
 namespace vantor::platform {
 
@@ -46,7 +46,7 @@ unsigned process_id() {
 }
 
 std::string to_utf8(const std::wstring& text) {
-  return vlog::platform::narrow(text);
+  return vlog::to_utf8(text);
 }
 
 }  // namespace vantor::platform
