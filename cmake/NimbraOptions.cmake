@@ -48,11 +48,3 @@ function(nimbra_platform_sources out)
   endforeach()
   set(${out} ${result} PARENT_SCOPE)
 endfunction()
-
-# A folder that a later piece of work fills in; skipped while it has no
-# CMakeLists.txt so the tree always configures.
-macro(nimbra_optional_subdirectory dir)
-  if(EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/${dir}/CMakeLists.txt)
-    add_subdirectory(${dir})
-  endif()
-endmacro()

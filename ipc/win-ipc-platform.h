@@ -11,7 +11,7 @@
 #include <cstdint>
 #include <string>
 
-#include "win-ipc.h"
+#include "ipc/win-ipc.h"
 
 namespace WinIpc {
 namespace platform {

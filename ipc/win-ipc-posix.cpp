@@ -22,7 +22,7 @@
 #include <cstring>
 #include <limits>
 
-#include "win-ipc-platform.h"
+#include "ipc/win-ipc-platform.h"
 
 namespace WinIpc {
 namespace platform {

@@ -19,7 +19,7 @@
 #include <cstring>
 #include <vector>
 
-#include "win-ipc-platform.h"
+#include "ipc/win-ipc-platform.h"
 
 namespace WinIpc {
 namespace platform {

@@ -2,16 +2,16 @@
 // and accept budgets, and every log line of this layer. The system calls are
 // in win-ipc-posix.cpp / win-ipc-windows.cpp (see win-ipc-platform.h).
 
-#include "win-ipc.h"
+#include "ipc/win-ipc.h"
 
 #include <algorithm>
 #include <chrono>
 #include <cstring>
 #include <thread>
 
-#include "log-throttle.h"
-#include "logger.h"
-#include "win-ipc-platform.h"
+#include "logging/log-throttle.h"
+#include "logging/logger.h"
+#include "ipc/win-ipc-platform.h"
 
 namespace WinIpc {
 

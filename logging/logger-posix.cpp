@@ -11,7 +11,7 @@
 #include <cwchar>
 #include <string>
 
-#include "logger-platform.h"
+#include "logging/logger-platform.h"
 
 namespace vlog::platform {
 

@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <vector>
 
-#include "logger-platform.h"
+#include "logging/logger-platform.h"
 
 namespace vlog::platform {
 namespace {

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "paths.h"
+#include "logging/paths.h"
 
 namespace vlog {
 namespace {

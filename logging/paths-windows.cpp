@@ -1,7 +1,7 @@
 #include <shlobj.h>
 #include <windows.h>
 
-#include "paths.h"
+#include "logging/paths.h"
 
 namespace vlog {
 

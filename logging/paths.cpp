@@ -1,4 +1,4 @@
-#include "paths.h"
+#include "logging/paths.h"
 
 #include <vector>
 

@@ -11,8 +11,8 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "detach.h"
-#include "notifier-args.h"
+#include "notifier/detach.h"
+#include "notifier/notifier-args.h"
 
 namespace notifier {
 namespace {

@@ -10,8 +10,8 @@
 #include <string>
 #include <thread>
 
-#include "detach.h"
-#include "notifier-args.h"
+#include "notifier/detach.h"
+#include "notifier/notifier-args.h"
 
 namespace notifier {
 namespace {

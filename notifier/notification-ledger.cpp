@@ -1,4 +1,4 @@
-#include "notification-ledger.h"
+#include "notifier/notification-ledger.h"
 
 #include <QDir>
 #include <QFile>
@@ -10,8 +10,8 @@
 
 #include <limits>
 
-#include "logger.h"
-#include "paths.h"
+#include "logging/logger.h"
+#include "logging/paths.h"
 
 namespace notifier {
 

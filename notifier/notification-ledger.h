@@ -12,7 +12,7 @@
 #include <functional>
 #include <vector>
 
-#include "notification-request.h"
+#include "notifier/notification-request.h"
 
 namespace notifier {
 

@@ -1,4 +1,4 @@
-#include "notification-request.h"
+#include "notifier/notification-request.h"
 
 #include <QDir>
 

@@ -10,7 +10,7 @@
 #include <functional>
 #include <vector>
 
-#include "notifier-args.h"
+#include "notifier/notifier-args.h"
 
 namespace notifier {
 

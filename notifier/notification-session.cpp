@@ -1,4 +1,4 @@
-#include "notification-session.h"
+#include "notifier/notification-session.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusError>
@@ -6,7 +6,7 @@
 #include <QDBusServiceWatcher>
 #include <QProcess>
 
-#include "logger.h"
+#include "logging/logger.h"
 
 namespace notifier {
 namespace {

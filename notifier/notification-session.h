@@ -22,7 +22,7 @@
 #include <utility>
 #include <vector>
 
-#include "notification-request.h"
+#include "notifier/notification-request.h"
 
 namespace notifier {
 

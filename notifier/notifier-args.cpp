@@ -1,4 +1,4 @@
-#include "notifier-args.h"
+#include "notifier/notifier-args.h"
 
 #include <limits>
 

@@ -17,12 +17,12 @@
 #include <cwchar>
 #include <string>
 
-#include "detach.h"
-#include "logger.h"
-#include "notifier-args.h"
-#include "notifier-main.h"
-#include "paths.h"
-#include "string-catalogue-table.h"
+#include "notifier/detach.h"
+#include "logging/logger.h"
+#include "notifier/notifier-args.h"
+#include "notifier/notifier-main.h"
+#include "logging/paths.h"
+#include "ui-agent/catalogue/string-catalogue-table.h"
 
 namespace notifier {
 namespace {

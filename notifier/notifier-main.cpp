@@ -1,4 +1,4 @@
-#include "notifier-main.h"
+#include "notifier/notifier-main.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>
@@ -7,13 +7,13 @@
 
 #include <cstdio>
 
-#include "detach.h"
-#include "logger.h"
-#include "notification-ledger.h"
-#include "notification-request.h"
-#include "notification-session.h"
-#include "paths.h"
-#include "string-catalogue-table.h"
+#include "notifier/detach.h"
+#include "logging/logger.h"
+#include "notifier/notification-ledger.h"
+#include "notifier/notification-request.h"
+#include "notifier/notification-session.h"
+#include "logging/paths.h"
+#include "ui-agent/catalogue/string-catalogue-table.h"
 
 namespace notifier {
 namespace {

@@ -1,10 +1,10 @@
-#include "agent-client.h"
+#include "service-sim/agent-client.h"
 
 #include <chrono>
 
-#include "json-access.h"
-#include "sim-log.h"
-#include "win-ipc.h"
+#include "vantor-core/lib/json-access.h"
+#include "service-sim/sim-log.h"
+#include "ipc/win-ipc.h"
 
 namespace sim {
 

@@ -1,4 +1,4 @@
-#include "device-model.h"
+#include "service-sim/device-model.h"
 
 #include <algorithm>
 #include <chrono>
@@ -10,8 +10,8 @@
 #include <sstream>
 #include <system_error>
 
-#include "json-access.h"
-#include "sim-log.h"
+#include "vantor-core/lib/json-access.h"
+#include "service-sim/sim-log.h"
 
 namespace sim {
 

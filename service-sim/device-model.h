@@ -21,7 +21,7 @@
 #include <string>
 #include <vector>
 
-#include "scenario.h"
+#include "service-sim/scenario.h"
 
 namespace sim {
 

@@ -1,5 +1,5 @@
 // nimbra-service-sim: the simulated backup service (see --help).
-#include "sim-cli.h"
+#include "service-sim/sim-cli.h"
 
 int main(int argc, char** argv) {
   return sim::run_cli(argc, argv);

@@ -1,4 +1,4 @@
-#include "pipe-service.h"
+#include "service-sim/pipe-service.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -12,9 +12,9 @@
 
 #include <chrono>
 
-#include "json-access.h"
-#include "sim-log.h"
-#include "win-ipc.h"
+#include "vantor-core/lib/json-access.h"
+#include "service-sim/sim-log.h"
+#include "ipc/win-ipc.h"
 
 namespace sim {
 

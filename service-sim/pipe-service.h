@@ -21,10 +21,10 @@
 #include <utility>
 #include <vector>
 
-#include "device-model.h"
-#include "log-throttle.h"
-#include "scenario.h"
-#include "win-ipc.h"
+#include "service-sim/device-model.h"
+#include "logging/log-throttle.h"
+#include "service-sim/scenario.h"
+#include "ipc/win-ipc.h"
 
 namespace sim {
 

@@ -7,8 +7,8 @@
 #include <QCoreApplication>
 #include <QSocketNotifier>
 
-#include "quit-signals.h"
-#include "sim-log.h"
+#include "service-sim/quit-signals.h"
+#include "service-sim/sim-log.h"
 
 namespace sim {
 

@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 #include <QMetaObject>
 
-#include "quit-signals.h"
+#include "service-sim/quit-signals.h"
 
 namespace sim {
 

@@ -1,11 +1,11 @@
-#include "scenario.h"
+#include "service-sim/scenario.h"
 
 #include <cmath>
 #include <fstream>
 #include <set>
 #include <sstream>
 
-#include "json-access.h"
+#include "vantor-core/lib/json-access.h"
 
 namespace sim {
 

@@ -1,4 +1,4 @@
-#include "signin-server.h"
+#include "service-sim/signin-server.h"
 
 #include <QHostAddress>
 #include <QTcpServer>
@@ -6,8 +6,8 @@
 #include <QTimer>
 #include <QUrlQuery>
 
-#include "device-model.h"
-#include "sim-log.h"
+#include "service-sim/device-model.h"
+#include "service-sim/sim-log.h"
 
 namespace sim {
 

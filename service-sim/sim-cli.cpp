@@ -1,4 +1,4 @@
-#include "sim-cli.h"
+#include "service-sim/sim-cli.h"
 
 #include <QCoreApplication>
 #include <QStandardPaths>
@@ -13,17 +13,17 @@
 #include <memory>
 #include <system_error>
 
-#include "agent-client.h"
-#include "device-model.h"
-#include "env.h"
-#include "json-access.h"
-#include "logger.h"
-#include "pipe-service.h"
-#include "quit-signals.h"
-#include "scenario.h"
-#include "signin-server.h"
-#include "sim-log.h"
-#include "win-ipc.h"
+#include "service-sim/agent-client.h"
+#include "service-sim/device-model.h"
+#include "vantor-core/lib/env.h"
+#include "vantor-core/lib/json-access.h"
+#include "logging/logger.h"
+#include "service-sim/pipe-service.h"
+#include "service-sim/quit-signals.h"
+#include "service-sim/scenario.h"
+#include "service-sim/signin-server.h"
+#include "service-sim/sim-log.h"
+#include "ipc/win-ipc.h"
 
 namespace sim {
 

@@ -5,7 +5,7 @@
 #include <atomic>
 #include <cstdio>
 
-#include "logger.h"
+#include "logging/logger.h"
 
 namespace sim {
 

@@ -1,4 +1,4 @@
-#include "accessible-text.h"
+#include "widgets/accessible-text.h"
 
 #include <QAccessible>
 #include <QAccessibleObject>

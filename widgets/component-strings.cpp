@@ -1,4 +1,4 @@
-#include "component-strings.h"
+#include "widgets/component-strings.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "copyable-text.h"
+#include "widgets/copyable-text.h"
 
 #include <QAction>
 #include <QApplication>
@@ -13,7 +13,7 @@
 #include <functional>
 #include <set>
 
-#include "component-strings.h"
+#include "widgets/component-strings.h"
 
 namespace copyable_text {
 

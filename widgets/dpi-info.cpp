@@ -1,5 +1,5 @@
-#include "dpi-info.h"
-#include "per-thread.h"
+#include "widgets/dpi-info.h"
+#include "logging/per-thread.h"
 
 #include <QGuiApplication>
 #include <QHash>

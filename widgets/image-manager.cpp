@@ -1,4 +1,4 @@
-#include "image-manager.h"
+#include "widgets/image-manager.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -7,9 +7,9 @@
 
 #include <cmath>
 
-#include "dpi-info.h"
-#include "logger.h"
-#include "resource-paths.h"
+#include "widgets/dpi-info.h"
+#include "logging/logger.h"
+#include "widgets/resource-paths.h"
 
 ImageManager* ImageManager::getInstance() {
   static ImageManager instance;

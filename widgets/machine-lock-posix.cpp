@@ -14,8 +14,8 @@
 #include <sys/un.h>
 #include <unistd.h>
 
-#include "logger.h"
-#include "machine-lock.h"
+#include "logging/logger.h"
+#include "widgets/machine-lock.h"
 
 struct MachineLock::Impl {
   int fd = -1;

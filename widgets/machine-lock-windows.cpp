@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "logger.h"
-#include "machine-lock.h"
+#include "logging/logger.h"
+#include "widgets/machine-lock.h"
 
 struct MachineLock::Impl {
   HANDLE mutex = nullptr;

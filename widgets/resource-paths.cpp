@@ -1,9 +1,9 @@
-#include "resource-paths.h"
+#include "widgets/resource-paths.h"
 
 #include <QCoreApplication>
 #include <QDir>
 
-#include "ui-path-manager.h"
+#include "widgets/ui-path-manager.h"
 
 namespace resource_paths {
 

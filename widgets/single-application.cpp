@@ -1,4 +1,4 @@
-#include "single-application.h"
+#include "widgets/single-application.h"
 
 #include <QDataStream>
 #include <QDir>
@@ -11,9 +11,9 @@
 #include <QThread>
 #include <QtEndian>
 
-#include "logger.h"
-#include "machine-lock.h"
-#include "user-identity.h"
+#include "logging/logger.h"
+#include "widgets/machine-lock.h"
+#include "widgets/user-identity.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "style-manager.h"
+#include "widgets/style-manager.h"
 
 #include <QApplication>
 #include <QDir>
@@ -8,9 +8,9 @@
 #include <QTextStream>
 #include <QWidget>
 
-#include "dpi-info.h"
-#include "logger.h"
-#include "resource-paths.h"
+#include "widgets/dpi-info.h"
+#include "logging/logger.h"
+#include "widgets/resource-paths.h"
 
 StyleManager* StyleManager::getInstance() {
   static StyleManager instance;

@@ -1,6 +1,6 @@
-#include "ui-path-manager.h"
+#include "widgets/ui-path-manager.h"
 
-#include "logger.h"
+#include "logging/logger.h"
 
 UIPathManager* UIPathManager::getInstance() {
   static UIPathManager instance;

@@ -8,8 +8,8 @@
 #include <QFile>
 #include <QHash>
 
-#include "logger.h"
-#include "user-identity.h"
+#include "logging/logger.h"
+#include "widgets/user-identity.h"
 
 namespace user_identity {
 

@@ -6,7 +6,7 @@
 
 #include <memory>
 
-#include "user-identity.h"
+#include "widgets/user-identity.h"
 
 namespace user_identity {
 

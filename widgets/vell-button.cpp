@@ -1,11 +1,11 @@
-#include "vell-button.h"
+#include "widgets/vell-button.h"
 
 #include <QIcon>
 #include <QMenu>
 
-#include "dpi-info.h"
-#include "image-manager.h"
-#include "style-manager.h"
+#include "widgets/dpi-info.h"
+#include "widgets/image-manager.h"
+#include "widgets/style-manager.h"
 
 VellButton::VellButton(QWidget* parent) : VellButton(QString(), Primary, parent) {}
 

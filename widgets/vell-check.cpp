@@ -1,6 +1,6 @@
-#include "vell-check.h"
+#include "widgets/vell-check.h"
 
-#include "style-manager.h"
+#include "widgets/style-manager.h"
 
 VellCheckBox::VellCheckBox(QWidget* parent) : VellCheckBox(QString(), parent) {}
 

@@ -1,4 +1,4 @@
-#include "vell-label.h"
+#include "widgets/vell-label.h"
 
 #include <cmath>
 
@@ -8,7 +8,7 @@
 #include <QMouseEvent>
 #include <QTextDocument>
 
-#include "style-manager.h"
+#include "widgets/style-manager.h"
 
 VellLabel::VellLabel(QWidget* parent) : QLabel(parent) {}
 

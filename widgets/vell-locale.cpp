@@ -1,4 +1,4 @@
-#include "vell-locale.h"
+#include "widgets/vell-locale.h"
 
 #include <QStringList>
 

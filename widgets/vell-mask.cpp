@@ -1,11 +1,11 @@
-#include "vell-mask.h"
+#include "widgets/vell-mask.h"
 
 #include <QEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
 
-#include "logger.h"
+#include "logging/logger.h"
 
 VellMask* VellMask::createMask(QWidget* sheet, QWidget* widget, const QColor& color) {
   if (!sheet || !widget) {

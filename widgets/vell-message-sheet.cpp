@@ -1,4 +1,4 @@
-#include "vell-message-sheet.h"
+#include "widgets/vell-message-sheet.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -11,16 +11,16 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "accessible-text.h"
-#include "component-strings.h"
-#include "copyable-text.h"
-#include "dpi-info.h"
-#include "image-manager.h"
-#include "logger.h"
-#include "style-manager.h"
-#include "vell-button.h"
-#include "web-link.h"
-#include "window-placement.h"
+#include "widgets/accessible-text.h"
+#include "widgets/component-strings.h"
+#include "widgets/copyable-text.h"
+#include "widgets/dpi-info.h"
+#include "widgets/image-manager.h"
+#include "logging/logger.h"
+#include "widgets/style-manager.h"
+#include "widgets/vell-button.h"
+#include "widgets/web-link.h"
+#include "widgets/window-placement.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
-#include "vell-scroll-area.h"
+#include "widgets/vell-scroll-area.h"
 
 #include <QEvent>
 #include <QLayout>
 #include <QScrollBar>
 
-#include "style-manager.h"
+#include "widgets/style-manager.h"
 
 VellVerticalScrollArea::VellVerticalScrollArea(QWidget* parent) : QScrollArea(parent) {
   setFrameShape(QFrame::NoFrame);

@@ -1,10 +1,10 @@
-#include "vell-time-combo-box.h"
+#include "widgets/vell-time-combo-box.h"
 
 #include <QLineEdit>
 #include <QRegularExpression>
 #include <QStyledItemDelegate>
 
-#include "style-manager.h"
+#include "widgets/style-manager.h"
 
 namespace {
 constexpr int kCustomRole = Qt::UserRole + 41;

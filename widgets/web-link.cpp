@@ -1,9 +1,9 @@
-#include "web-link.h"
+#include "widgets/web-link.h"
 
 #include <QDesktopServices>
 #include <QLabel>
 
-#include "logger.h"
+#include "logging/logger.h"
 
 namespace web_link {
 

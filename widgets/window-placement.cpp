@@ -1,4 +1,4 @@
-#include "window-placement.h"
+#include "widgets/window-placement.h"
 
 #include <QCursor>
 #include <QEvent>

@@ -1,4 +1,4 @@
-#include "x-desktop.h"
+#include "bench/agent/x-desktop.h"
 
 #include <X11/Xatom.h>
 #include <X11/Xutil.h>

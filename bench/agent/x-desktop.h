@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "support/wait.h"
+#include "tests/support/wait.h"
 
 namespace agent_bench {
 

@@ -19,8 +19,8 @@
 #include <thread>
 #include <vector>
 
-#include "bench-report.h"
-#include "win-ipc.h"
+#include "bench/bench-report.h"
+#include "ipc/win-ipc.h"
 
 namespace {
 

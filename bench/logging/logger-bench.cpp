@@ -12,8 +12,8 @@
 #include <thread>
 #include <vector>
 
-#include "bench-report.h"
-#include "logger.h"
+#include "bench/bench-report.h"
+#include "logging/logger.h"
 
 namespace fs = std::filesystem;
 

@@ -12,8 +12,8 @@
 #include <cstdio>
 #include <vector>
 
-#include "bench-report.h"
-#include "support/desktop.h"
+#include "bench/bench-report.h"
+#include "tests/support/desktop.h"
 
 namespace {
 

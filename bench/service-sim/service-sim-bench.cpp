@@ -7,12 +7,12 @@
 #include <chrono>
 #include <string>
 
-#include "agent-client.h"
-#include "bench-report.h"
-#include "device-model.h"
-#include "json-access.h"
-#include "pipe-service.h"
-#include "win-ipc.h"
+#include "service-sim/agent-client.h"
+#include "bench/bench-report.h"
+#include "service-sim/device-model.h"
+#include "vantor-core/lib/json-access.h"
+#include "service-sim/pipe-service.h"
+#include "ipc/win-ipc.h"
 
 namespace {
 

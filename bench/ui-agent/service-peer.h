@@ -7,7 +7,7 @@
 #include <string>
 #include <thread>
 
-#include "win-ipc.h"
+#include "ipc/win-ipc.h"
 
 class ServicePeer {
  public:

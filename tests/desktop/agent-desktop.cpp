@@ -1,4 +1,4 @@
-#include "desktop/agent-desktop.h"
+#include "tests/desktop/agent-desktop.h"
 
 #include <sys/stat.h>
 #include <unistd.h>

@@ -23,8 +23,8 @@
 #include <functional>
 #include <memory>
 
-#include "support/desktop.h"
-#include "support/temp-dir.h"
+#include "tests/support/desktop.h"
+#include "tests/support/temp-dir.h"
 
 namespace desktop_test {
 

@@ -1,9 +1,9 @@
-#include "desktop/atspi-tree.h"
+#include "tests/desktop/atspi-tree.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include "support/desktop.h"
+#include "tests/support/desktop.h"
 
 namespace desktop_test {
 

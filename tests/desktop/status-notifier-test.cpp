@@ -10,7 +10,7 @@
 #include <QJsonDocument>
 #include <QStandardPaths>
 
-#include "desktop/agent-desktop.h"
+#include "tests/desktop/agent-desktop.h"
 
 namespace desktop_test {
 namespace {

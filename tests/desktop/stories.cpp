@@ -36,8 +36,8 @@
 
 #include <algorithm>
 
-#include "desktop/agent-desktop.h"
-#include "desktop/atspi-tree.h"
+#include "tests/desktop/agent-desktop.h"
+#include "tests/desktop/atspi-tree.h"
 
 namespace desktop_test {
 namespace {

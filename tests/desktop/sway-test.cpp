@@ -18,8 +18,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "desktop/agent-desktop.h"
-#include "desktop/atspi-tree.h"
+#include "tests/desktop/agent-desktop.h"
+#include "tests/desktop/atspi-tree.h"
 
 namespace desktop_test {
 namespace {

@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-#include "log-capture.h"
-#include "win-ipc-platform.h"
-#include "win-ipc.h"
+#include "tests/ipc/log-capture.h"
+#include "ipc/win-ipc-platform.h"
+#include "ipc/win-ipc.h"
 
 namespace {
 

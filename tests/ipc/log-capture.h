@@ -7,9 +7,9 @@
 #include <memory>
 #include <string>
 
-#include "logger.h"
-#include "support/log-capture.h"
-#include "support/temp-dir.h"
+#include "logging/logger.h"
+#include "tests/support/log-capture.h"
+#include "tests/support/temp-dir.h"
 
 namespace ipc_test {
 

@@ -11,8 +11,8 @@
 
 #include <string>
 
-#include "log-capture.h"
-#include "win-ipc.h"
+#include "tests/ipc/log-capture.h"
+#include "ipc/win-ipc.h"
 
 namespace {
 

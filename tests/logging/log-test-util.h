@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "support/temp-dir.h"
+#include "tests/support/temp-dir.h"
 
 namespace logtest {
 

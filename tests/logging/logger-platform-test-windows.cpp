@@ -7,8 +7,8 @@
 
 #include <cstdio>
 
-#include "log-test-util.h"
-#include "logger-platform.h"
+#include "tests/logging/log-test-util.h"
+#include "logging/logger-platform.h"
 
 TEST(LoggerPlatform, LogFileIsNotInheritedByChildren) {
   nimbra_test::TempDir dir;

@@ -10,10 +10,10 @@
 #include <thread>
 #include <vector>
 
-#include "log-test-util.h"
-#include "logger-platform.h"
-#include "logger.h"
-#include "per-thread.h"
+#include "tests/logging/log-test-util.h"
+#include "logging/logger-platform.h"
+#include "logging/logger.h"
+#include "logging/per-thread.h"
 
 using logtest::kStamp;
 using logtest::split_lines;

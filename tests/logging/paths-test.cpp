@@ -4,8 +4,8 @@
 #include <string>
 #include <utility>
 
-#include "paths.h"
-#include "support/temp-dir.h"
+#include "logging/paths.h"
+#include "tests/support/temp-dir.h"
 
 using nimbra_test::ScopedEnv;
 

@@ -7,8 +7,8 @@
 #include <thread>
 #include <vector>
 
-#include "log-test-util.h"
-#include "logger.h"
+#include "tests/logging/log-test-util.h"
+#include "logging/logger.h"
 
 using logtest::read_log;
 using logtest::wide;

@@ -1,4 +1,4 @@
-#include "install-check.h"
+#include "tests/notifier/install-check.h"
 
 #include <QFileInfo>
 #include <QProcess>

@@ -11,10 +11,10 @@
 #include <QImage>
 #include <QThread>
 
-#include "install-check.h"
-#include "support/qt-print.h"
-#include "support/temp-dir.h"
-#include "support/wait.h"
+#include "tests/notifier/install-check.h"
+#include "tests/support/qt-print.h"
+#include "tests/support/temp-dir.h"
+#include "tests/support/wait.h"
 
 using namespace notifier_test;
 using nimbra_test::wait_until;

@@ -3,10 +3,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "notification-ledger.h"
-#include "notification-request.h"
-#include "notifier-args.h"
-#include "support/qt-print.h"
+#include "notifier/notification-ledger.h"
+#include "notifier/notification-request.h"
+#include "notifier/notifier-args.h"
+#include "tests/support/qt-print.h"
 
 using namespace notifier;
 using ::testing::ElementsAre;

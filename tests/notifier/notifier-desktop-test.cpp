@@ -12,9 +12,9 @@
 
 #include <algorithm>
 
-#include "support/desktop.h"
-#include "support/qt-print.h"
-#include "support/temp-dir.h"
+#include "tests/support/desktop.h"
+#include "tests/support/qt-print.h"
+#include "tests/support/temp-dir.h"
 
 using nimbra_test::wait_until;
 

@@ -10,9 +10,9 @@
 #include <QFile>
 #include <QRegularExpression>
 
-#include "install-check.h"
-#include "support/qt-print.h"
-#include "support/temp-dir.h"
+#include "tests/notifier/install-check.h"
+#include "tests/support/qt-print.h"
+#include "tests/support/temp-dir.h"
 
 using namespace notifier_test;
 using ::testing::HasSubstr;

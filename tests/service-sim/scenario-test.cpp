@@ -6,9 +6,9 @@
 #include <filesystem>
 #include <set>
 
-#include "device-model.h"
-#include "sim-test-util.h"
-#include "support/temp-dir.h"
+#include "service-sim/device-model.h"
+#include "tests/service-sim/sim-test-util.h"
+#include "tests/support/temp-dir.h"
 
 using namespace simtest;
 

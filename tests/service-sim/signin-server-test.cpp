@@ -10,9 +10,9 @@
 #include <QSignalSpy>
 #include <QTcpSocket>
 
-#include "device-model.h"
-#include "signin-server.h"
-#include "sim-test-util.h"
+#include "service-sim/device-model.h"
+#include "service-sim/signin-server.h"
+#include "tests/service-sim/sim-test-util.h"
 
 namespace {
 

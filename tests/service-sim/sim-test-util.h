@@ -10,8 +10,8 @@
 #include <string>
 #include <utility>
 
-#include "json-access.h"
-#include "scenario.h"
+#include "vantor-core/lib/json-access.h"
+#include "service-sim/scenario.h"
 
 namespace simtest {
 

@@ -1,4 +1,4 @@
-#include "support/desktop.h"
+#include "tests/support/desktop.h"
 
 #include <QElapsedTimer>
 #include <QFile>

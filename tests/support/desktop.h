@@ -16,7 +16,7 @@
 #include <functional>
 #include <memory>
 
-#include "support/wait.h"
+#include "tests/support/wait.h"
 
 namespace nimbra_test {
 

@@ -5,8 +5,8 @@
 #include <sstream>
 #include <string>
 
-#include "logger.h"
-#include "support/temp-dir.h"
+#include "logging/logger.h"
+#include "tests/support/temp-dir.h"
 
 namespace nimbra_test {
 

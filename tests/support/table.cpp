@@ -1,4 +1,4 @@
-#include "support/table.h"
+#include "tests/support/table.h"
 
 #include <fstream>
 #include <sstream>

@@ -1,4 +1,4 @@
-#include "support/temp-dir.h"
+#include "tests/support/temp-dir.h"
 
 #include <cstdlib>
 #include <filesystem>

@@ -1,4 +1,4 @@
-#include "agent-test.h"
+#include "tests/ui-agent/agent-test.h"
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -10,11 +10,11 @@
 
 #include <atomic>
 
-#include "image-manager.h"
-#include "json-access.h"
-#include "logger.h"
-#include "style-manager.h"
-#include "ui-path-manager.h"
+#include "widgets/image-manager.h"
+#include "vantor-core/lib/json-access.h"
+#include "logging/logger.h"
+#include "widgets/style-manager.h"
+#include "widgets/ui-path-manager.h"
 
 namespace agent_test {
 

@@ -13,7 +13,7 @@
 #include <memory>
 #include <string>
 
-#include "support/temp-dir.h"
+#include "tests/support/temp-dir.h"
 
 namespace agent_test {
 

@@ -4,10 +4,10 @@
 #include <regex>
 #include <string>
 
-#include "env.h"
-#include "exception.h"
-#include "paths.h"
-#include "support/temp-dir.h"
+#include "vantor-core/lib/env.h"
+#include "vantor-core/lib/exception.h"
+#include "logging/paths.h"
+#include "tests/support/temp-dir.h"
 
 using nimbra_test::ScopedEnv;
 

@@ -12,7 +12,7 @@
 #include <typeindex>
 #include <typeinfo>
 
-#include "exception.h"
+#include "vantor-core/lib/exception.h"
 
 namespace rex = ravel::exception;
 

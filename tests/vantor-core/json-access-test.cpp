@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "json-access.h"
+#include "vantor-core/lib/json-access.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <cerrno>
 #include <cstdint>
 
-#include "win-error.h"
+#include "vantor-core/lib/win-error.h"
 
 namespace rex = ravel::exception;
 

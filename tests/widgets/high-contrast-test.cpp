@@ -10,9 +10,9 @@
 #include <cmath>
 #include <cstdio>
 
-#include "style-manager.h"
-#include "support/qt-print.h"
-#include "widgets-fixture.h"
+#include "widgets/style-manager.h"
+#include "tests/support/qt-print.h"
+#include "tests/widgets/widgets-fixture.h"
 
 namespace {
 

@@ -8,8 +8,8 @@
 #include <cstdio>
 #include <cstring>
 
-#include "machine-lock.h"
-#include "single-application.h"
+#include "widgets/machine-lock.h"
+#include "widgets/single-application.h"
 
 int main(int argc, char** argv) {
   if (argc < 3) return 2;

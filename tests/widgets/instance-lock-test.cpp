@@ -11,9 +11,9 @@
 
 #include <unistd.h>
 
-#include "machine-lock.h"
-#include "single-application.h"
-#include "widgets-fixture.h"
+#include "widgets/machine-lock.h"
+#include "widgets/single-application.h"
+#include "tests/widgets/widgets-fixture.h"
 
 namespace {
 

@@ -11,10 +11,10 @@
 
 #include <string>
 
-#include "image-manager.h"
-#include "style-manager.h"
-#include "support/log-capture.h"
-#include "ui-path-manager.h"
+#include "widgets/image-manager.h"
+#include "widgets/style-manager.h"
+#include "tests/support/log-capture.h"
+#include "widgets/ui-path-manager.h"
 
 namespace widgets_test {
 

@@ -13,7 +13,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
-#include "desktop/agent-desktop.h"
+#include "tests/desktop/agent-desktop.h"
 
 namespace desktop_test {
 namespace {

@@ -8,9 +8,9 @@
 #include <QtGlobal>
 #include <thread>
 
-#include "accessible-text.h"
-#include "agent-app.h"
-#include "tray/popup-surface.h"
+#include "widgets/accessible-text.h"
+#include "ui-agent/app/agent-app.h"
+#include "ui-agent/tray/popup-surface.h"
 
 namespace agent_app::platform {
 

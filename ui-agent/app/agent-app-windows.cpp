@@ -2,9 +2,9 @@
 // 8.x) and the low-level mouse hook feeding the bus.
 #include <QMetaObject>
 
-#include "agent-app.h"
-#include "core/global-connecter.h"
-#include "os-services.h"
+#include "ui-agent/app/agent-app.h"
+#include "ui-agent/core/global-connecter.h"
+#include "ui-agent/platform/os-services.h"
 
 namespace agent_app::platform {
 

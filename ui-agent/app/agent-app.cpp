@@ -1,4 +1,4 @@
-#include "agent-app.h"
+#include "ui-agent/app/agent-app.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -9,21 +9,21 @@
 #include <QThread>
 #include <QTranslator>
 
-#include "client-manager.h"
-#include "component-strings.h"
-#include "core/global-connecter.h"
-#include "core/language-font.h"
-#include "image-manager.h"
-#include "logger.h"
-#include "machine-lock.h"
-#include "os-services.h"
-#include "paths.h"
-#include "single-application.h"
-#include "string-display.h"
-#include "style-manager.h"
-#include "ui-path-manager.h"
-#include "vell-locale.h"
-#include "vell-message-sheet.h"
+#include "ui-agent/app/client-manager.h"
+#include "widgets/component-strings.h"
+#include "ui-agent/core/global-connecter.h"
+#include "ui-agent/core/language-font.h"
+#include "widgets/image-manager.h"
+#include "logging/logger.h"
+#include "widgets/machine-lock.h"
+#include "ui-agent/platform/os-services.h"
+#include "logging/paths.h"
+#include "widgets/single-application.h"
+#include "ui-agent/core/string-display.h"
+#include "widgets/style-manager.h"
+#include "widgets/ui-path-manager.h"
+#include "widgets/vell-locale.h"
+#include "widgets/vell-message-sheet.h"
 
 namespace agent_app {
 

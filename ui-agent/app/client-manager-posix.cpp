@@ -1,7 +1,7 @@
 // Linux: the notifier always shows pushed notifications (freedesktop
 // notifications over D-Bus); it is nimbra-backup-notifier beside the agent.
-#include "client-manager.h"
-#include "ui-path-manager.h"
+#include "ui-agent/app/client-manager.h"
+#include "widgets/ui-path-manager.h"
 
 namespace client_manager_platform {
 

@@ -1,10 +1,10 @@
-#include "client-manager-rules.h"
+#include "ui-agent/app/client-manager-rules.h"
 
 #include <algorithm>
 
-#include "core/notification-text.h"
-#include "json-access.h"
-#include "string-display.h"
+#include "ui-agent/core/notification-text.h"
+#include "vantor-core/lib/json-access.h"
+#include "ui-agent/core/string-display.h"
 
 namespace client_manager_rules {
 

@@ -9,7 +9,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "core/log-entry.h"
+#include "ui-agent/core/log-entry.h"
 
 namespace client_manager_rules {
 

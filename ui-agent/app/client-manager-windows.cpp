@@ -1,7 +1,7 @@
 // Windows: the notifier on Windows 10 and later, tray balloons before.
-#include "client-manager.h"
-#include "os-services.h"
-#include "ui-path-manager.h"
+#include "ui-agent/app/client-manager.h"
+#include "ui-agent/platform/os-services.h"
+#include "widgets/ui-path-manager.h"
 
 namespace client_manager_platform {
 

@@ -1,4 +1,4 @@
-#include "client-manager.h"
+#include "ui-agent/app/client-manager.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -8,27 +8,27 @@
 
 #include <stdexcept>
 
-#include "client-manager-rules.h"
-#include "component-strings.h"
-#include "core/get-status-worker.h"
-#include "core/global-connecter.h"
-#include "core/service-error-text.h"
-#include "core/status-store.h"
-#include "dialogs/about-window.h"
-#include "dialogs/notice-box.h"
-#include "dialogs/update-status-dialog.h"
-#include "dpi-info.h"
-#include "json-access.h"
-#include "logger.h"
-#include "service-communicator.h"
-#include "string-display.h"
-#include "style-manager.h"
-#include "tray/system-tray.h"
-#include "vell-mask.h"
-#include "vell-message-sheet.h"
-#include "web-link.h"
-#include "window-placement.h"
-#include "wizard/wizard.h"
+#include "ui-agent/app/client-manager-rules.h"
+#include "widgets/component-strings.h"
+#include "ui-agent/core/get-status-worker.h"
+#include "ui-agent/core/global-connecter.h"
+#include "ui-agent/core/service-error-text.h"
+#include "ui-agent/core/status-store.h"
+#include "ui-agent/dialogs/about-window.h"
+#include "ui-agent/dialogs/notice-box.h"
+#include "ui-agent/dialogs/update-status-dialog.h"
+#include "widgets/dpi-info.h"
+#include "vantor-core/lib/json-access.h"
+#include "logging/logger.h"
+#include "ui-agent/core/service-communicator.h"
+#include "ui-agent/core/string-display.h"
+#include "widgets/style-manager.h"
+#include "ui-agent/tray/system-tray.h"
+#include "widgets/vell-mask.h"
+#include "widgets/vell-message-sheet.h"
+#include "widgets/web-link.h"
+#include "widgets/window-placement.h"
+#include "ui-agent/wizard/wizard.h"
 
 using client_manager_rules::SchemeMessage;
 using string_display::text;

@@ -3,7 +3,7 @@
 // string-display.cpp and the tests read it directly; everybody else goes
 // through string_display::text().
 
-#include "string-catalogue.h"
+#include "ui-agent/catalogue/string-catalogue.h"
 
 namespace string_display {
 

@@ -3,11 +3,15 @@
 // "global"); lupdate finds them through QT_TRANSLATE_NOOP. A text may hold the
 // two-character escapes backslash-n and backslash-t, %1-style arguments,
 // {name} placeholders and simple HTML.
-#include "string-catalogue-table.h"
-
-#include <QtGlobal>
+#include "ui-agent/catalogue/string-catalogue-table.h"
 
 #include <iterator>
+
+// The texts are found by lupdate through this macro; without Qt it is the
+// text itself, as Qt defines it.
+#ifndef QT_TRANSLATE_NOOP
+#define QT_TRANSLATE_NOOP(scope, text) text
+#endif
 
 namespace string_display {
 namespace {

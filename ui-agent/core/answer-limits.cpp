@@ -1,4 +1,4 @@
-#include "core/answer-limits.h"
+#include "ui-agent/core/answer-limits.h"
 
 namespace answer_limits {
 

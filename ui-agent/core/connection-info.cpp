@@ -1,6 +1,6 @@
-#include "core/connection-info.h"
+#include "ui-agent/core/connection-info.h"
 
-#include "json-access.h"
+#include "vantor-core/lib/json-access.h"
 
 bool ProxyInfo::operator==(const ProxyInfo& o) const {
   return use_proxy == o.use_proxy && use_sys_proxy == o.use_sys_proxy && proxy_ip == o.proxy_ip &&

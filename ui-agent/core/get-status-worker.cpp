@@ -1,14 +1,14 @@
-#include "core/get-status-worker.h"
+#include "ui-agent/core/get-status-worker.h"
 
 #include <QThread>
 #include <QTimer>
 
-#include "core/connection-info.h"
-#include "core/global-connecter.h"
-#include "core/status-answer.h"
-#include "core/status-store.h"
-#include "json-access.h"
-#include "logger.h"
+#include "ui-agent/core/connection-info.h"
+#include "ui-agent/core/global-connecter.h"
+#include "ui-agent/core/status-answer.h"
+#include "ui-agent/core/status-store.h"
+#include "vantor-core/lib/json-access.h"
+#include "logging/logger.h"
 
 GetStatusWorker::GetStatusWorker(QObject* parent) : QObject(parent) {
   GlobalConnecter* bus = &GlobalConnecter::instance();

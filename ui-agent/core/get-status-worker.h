@@ -20,8 +20,8 @@
 #include <atomic>
 #include <string>
 
-#include "core/json-meta-type.h"
-#include "core/service-status.h"
+#include "ui-agent/core/json-meta-type.h"
+#include "ui-agent/core/service-status.h"
 
 class QTimer;
 

@@ -1,4 +1,4 @@
-#include "core/global-connecter.h"
+#include "ui-agent/core/global-connecter.h"
 
 #include <cstdint>
 

@@ -19,9 +19,9 @@
 #include <QPoint>
 #include <QString>
 
-#include "core/connection-info.h"
-#include "core/json-meta-type.h"
-#include "core/service-status.h"
+#include "ui-agent/core/connection-info.h"
+#include "ui-agent/core/json-meta-type.h"
+#include "ui-agent/core/service-status.h"
 
 // The requester's address that rides along with requests and answers.
 Q_DECLARE_METATYPE(const QObject*)

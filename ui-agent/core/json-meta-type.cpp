@@ -1,4 +1,4 @@
-#include "core/json-meta-type.h"
+#include "ui-agent/core/json-meta-type.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
-#include "language-font.h"
+#include "ui-agent/core/language-font.h"
 
 #include <QtGlobal>
 
-#include "vell-locale.h"
+#include "widgets/vell-locale.h"
 
 namespace language_font {
 namespace {

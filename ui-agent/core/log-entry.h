@@ -8,7 +8,7 @@
 #include <QMetaType>
 #include <QtGlobal>
 
-#include "json-access.h"
+#include "vantor-core/lib/json-access.h"
 
 struct LogEntry {
   quint64 id = 0;    // increasing identifier of the event

@@ -1,7 +1,7 @@
-#include "core/notification-text.h"
+#include "ui-agent/core/notification-text.h"
 
-#include "json-access.h"
-#include "string-display.h"
+#include "vantor-core/lib/json-access.h"
+#include "ui-agent/core/string-display.h"
 
 namespace {
 

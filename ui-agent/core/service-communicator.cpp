@@ -1,4 +1,4 @@
-#include "service-communicator.h"
+#include "ui-agent/core/service-communicator.h"
 
 #include <json/reader.h>
 #include <json/writer.h>
@@ -12,12 +12,12 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "core/answer-limits.h"
-#include "core/global-connecter.h"
-#include "env.h"
-#include "json-access.h"
-#include "logger.h"
-#include "per-thread.h"
+#include "ui-agent/core/answer-limits.h"
+#include "ui-agent/core/global-connecter.h"
+#include "vantor-core/lib/env.h"
+#include "vantor-core/lib/json-access.h"
+#include "logging/logger.h"
+#include "logging/per-thread.h"
 
 namespace {
 

@@ -23,9 +23,9 @@
 #include <QObject>
 #include <QThread>
 
-#include "core/json-meta-type.h"
-#include "log-throttle.h"
-#include "win-ipc.h"
+#include "ui-agent/core/json-meta-type.h"
+#include "logging/log-throttle.h"
+#include "ipc/win-ipc.h"
 
 class ServiceCommunicator : public QObject {
   Q_OBJECT

@@ -1,7 +1,7 @@
-#include "service-error-text.h"
+#include "ui-agent/core/service-error-text.h"
 
-#include "json-access.h"
-#include "string-display.h"
+#include "vantor-core/lib/json-access.h"
+#include "ui-agent/core/string-display.h"
 
 namespace service_error {
 

@@ -7,7 +7,7 @@
 
 #include <QString>
 
-#include "string-catalogue.h"
+#include "ui-agent/catalogue/string-catalogue.h"
 
 namespace service_error {
 

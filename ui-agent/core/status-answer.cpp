@@ -1,8 +1,8 @@
-#include "core/status-answer.h"
+#include "ui-agent/core/status-answer.h"
 
 #include <cmath>
 
-#include "json-access.h"
+#include "vantor-core/lib/json-access.h"
 
 namespace status_answer {
 namespace {

@@ -1,4 +1,4 @@
-#include "core/status-store.h"
+#include "ui-agent/core/status-store.h"
 
 #include <QMutexLocker>
 

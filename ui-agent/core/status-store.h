@@ -9,9 +9,9 @@
 
 #include <QMutex>
 
-#include "core/connection-info.h"
-#include "core/json-meta-type.h"
-#include "core/service-status.h"
+#include "ui-agent/core/connection-info.h"
+#include "ui-agent/core/json-meta-type.h"
+#include "ui-agent/core/service-status.h"
 
 class StatusStore {
  public:

@@ -1,5 +1,5 @@
 // Catalogue lookup, placeholders, sizes and activity event messages.
-#include "string-display.h"
+#include "ui-agent/core/string-display.h"
 
 #include <QApplication>
 #include <QCoreApplication>
@@ -16,11 +16,11 @@
 #include <mutex>
 #include <vector>
 
-#include "dpi-info.h"
-#include "json-access.h"
-#include "logger.h"
-#include "string-catalogue-table.h"
-#include "style-manager.h"
+#include "widgets/dpi-info.h"
+#include "vantor-core/lib/json-access.h"
+#include "logging/logger.h"
+#include "ui-agent/catalogue/string-catalogue-table.h"
+#include "widgets/style-manager.h"
 
 // The translations are compiled into a resource of agent_core; the resource
 // object is always linked because init_resources() refers to it.

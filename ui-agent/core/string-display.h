@@ -17,8 +17,8 @@
 
 #include <optional>
 
-#include "core/log-entry.h"
-#include "string-catalogue.h"
+#include "ui-agent/core/log-entry.h"
+#include "ui-agent/catalogue/string-catalogue.h"
 
 class QTranslator;
 

@@ -1,4 +1,4 @@
-#include "about-window.h"
+#include "ui-agent/dialogs/about-window.h"
 
 #include <QGraphicsDropShadowEffect>
 #include <QHBoxLayout>
@@ -9,16 +9,16 @@
 
 #include <cmath>
 
-#include "accessible-text.h"
-#include "dpi-info.h"
-#include "image-manager.h"
-#include "logger.h"
-#include "string-display.h"
-#include "style-manager.h"
-#include "vell-button.h"
-#include "vell-label.h"
-#include "web-link.h"
-#include "window-placement.h"
+#include "widgets/accessible-text.h"
+#include "widgets/dpi-info.h"
+#include "widgets/image-manager.h"
+#include "logging/logger.h"
+#include "ui-agent/core/string-display.h"
+#include "widgets/style-manager.h"
+#include "widgets/vell-button.h"
+#include "widgets/vell-label.h"
+#include "widgets/web-link.h"
+#include "widgets/window-placement.h"
 
 namespace {
 

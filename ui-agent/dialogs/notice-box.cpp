@@ -1,4 +1,4 @@
-#include "notice-box.h"
+#include "ui-agent/dialogs/notice-box.h"
 
 #include <QAbstractButton>
 #include <QFontMetrics>
@@ -8,7 +8,7 @@
 #include <QTextDocument>
 #include <QTextLayout>
 
-#include "dpi-info.h"
+#include "widgets/dpi-info.h"
 
 namespace notice_box {
 

@@ -1,13 +1,13 @@
-#include "settings-rules.h"
+#include "ui-agent/dialogs/settings-rules.h"
 
 #include <cerrno>
 #include <cstdlib>
 
 #include <QRegularExpression>
 
-#include "json-access.h"
-#include "logger.h"
-#include "string-display.h"
+#include "vantor-core/lib/json-access.h"
+#include "logging/logger.h"
+#include "ui-agent/core/string-display.h"
 
 namespace settings_rules {
 

@@ -12,7 +12,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "string-catalogue.h"
+#include "ui-agent/catalogue/string-catalogue.h"
 
 namespace settings_rules {
 

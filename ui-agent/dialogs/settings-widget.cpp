@@ -1,4 +1,4 @@
-#include "settings-widget.h"
+#include "ui-agent/dialogs/settings-widget.h"
 
 #include <QCloseEvent>
 #include <QFrame>
@@ -9,21 +9,21 @@
 #include <QRegularExpressionValidator>
 #include <QVBoxLayout>
 
-#include "accessible-text.h"
-#include "core/global-connecter.h"
-#include "dialogs/settings-rules.h"
-#include "dpi-info.h"
-#include "image-manager.h"
-#include "logger.h"
-#include "string-display.h"
-#include "style-manager.h"
-#include "vell-button.h"
-#include "vell-check.h"
-#include "vell-label.h"
-#include "vell-scroll-area.h"
-#include "vell-time-combo-box.h"
-#include "web-link.h"
-#include "window-placement.h"
+#include "widgets/accessible-text.h"
+#include "ui-agent/core/global-connecter.h"
+#include "ui-agent/dialogs/settings-rules.h"
+#include "widgets/dpi-info.h"
+#include "widgets/image-manager.h"
+#include "logging/logger.h"
+#include "ui-agent/core/string-display.h"
+#include "widgets/style-manager.h"
+#include "widgets/vell-button.h"
+#include "widgets/vell-check.h"
+#include "widgets/vell-label.h"
+#include "widgets/vell-scroll-area.h"
+#include "widgets/vell-time-combo-box.h"
+#include "widgets/web-link.h"
+#include "widgets/window-placement.h"
 
 namespace {
 

@@ -1,15 +1,15 @@
-#include "update-status-dialog.h"
+#include "ui-agent/dialogs/update-status-dialog.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include "dpi-info.h"
-#include "image-manager.h"
-#include "string-display.h"
-#include "style-manager.h"
-#include "vell-button.h"
-#include "window-placement.h"
+#include "widgets/dpi-info.h"
+#include "widgets/image-manager.h"
+#include "ui-agent/core/string-display.h"
+#include "widgets/style-manager.h"
+#include "widgets/vell-button.h"
+#include "widgets/window-placement.h"
 
 Qt::WindowFlags UpdateStatusDialog::baseWindowFlags() {
   return Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;

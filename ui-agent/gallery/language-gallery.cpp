@@ -14,13 +14,13 @@
 #include <algorithm>
 #include <memory>
 
-#include "tray/event-fit.h"
-#include "tray/relative-age.h"
-#include "dpi-info.h"
-#include "screen-gallery.h"
-#include "string-display.h"
-#include "style-manager.h"
-#include "vell-button.h"
+#include "ui-agent/tray/event-fit.h"
+#include "ui-agent/tray/relative-age.h"
+#include "widgets/dpi-info.h"
+#include "ui-agent/gallery/screen-gallery.h"
+#include "ui-agent/core/string-display.h"
+#include "widgets/style-manager.h"
+#include "widgets/vell-button.h"
 
 namespace {
 

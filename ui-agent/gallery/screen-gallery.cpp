@@ -18,13 +18,13 @@
 #include <string>
 #include <vector>
 
-#include "component-strings.h"
-#include "core/language-font.h"
-#include "image-manager.h"
-#include "screen-gallery.h"
-#include "string-display.h"
-#include "style-manager.h"
-#include "ui-path-manager.h"
+#include "widgets/component-strings.h"
+#include "ui-agent/core/language-font.h"
+#include "widgets/image-manager.h"
+#include "ui-agent/gallery/screen-gallery.h"
+#include "ui-agent/core/string-display.h"
+#include "widgets/style-manager.h"
+#include "widgets/ui-path-manager.h"
 
 namespace screen_gallery {
 namespace {

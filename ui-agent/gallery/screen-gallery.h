@@ -11,7 +11,7 @@
 
 #include <QString>
 
-#include "gallery-kit.h"
+#include "widgets/gallery/gallery-kit.h"
 
 namespace screen_gallery {
 

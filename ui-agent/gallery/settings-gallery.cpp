@@ -5,8 +5,8 @@
 #include <QApplication>
 #include <QLineEdit>
 
-#include "dialogs/settings-widget.h"
-#include "screen-gallery.h"
+#include "ui-agent/dialogs/settings-widget.h"
+#include "ui-agent/gallery/screen-gallery.h"
 
 namespace {
 

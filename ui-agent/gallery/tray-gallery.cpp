@@ -13,16 +13,16 @@
 
 #include <json/value.h>
 
-#include "core/global-connecter.h"
-#include "dpi-info.h"
-#include "json-access.h"
-#include "screen-gallery.h"
-#include "style-manager.h"
-#include "tray/log-widget.h"
-#include "tray/quota-info-widget.h"
-#include "tray/system-tray.h"
-#include "tray/tray-menu.h"
-#include "tray/tray-progress-widget.h"
+#include "ui-agent/core/global-connecter.h"
+#include "widgets/dpi-info.h"
+#include "vantor-core/lib/json-access.h"
+#include "ui-agent/gallery/screen-gallery.h"
+#include "widgets/style-manager.h"
+#include "ui-agent/tray/log-widget.h"
+#include "ui-agent/tray/quota-info-widget.h"
+#include "ui-agent/tray/system-tray.h"
+#include "ui-agent/tray/tray-menu.h"
+#include "ui-agent/tray/tray-progress-widget.h"
 
 namespace {
 

@@ -12,18 +12,18 @@
 
 #include <functional>
 
-#include "core/status-store.h"
-#include "dialogs/about-window.h"
-#include "dialogs/update-status-dialog.h"
-#include "dpi-info.h"
-#include "json-access.h"
-#include "screen-gallery.h"
-#include "string-display.h"
-#include "style-manager.h"
-#include "vell-mask.h"
-#include "vell-message-sheet.h"
-#include "wizard/nimbra-loading-frame.h"
-#include "wizard/wizard.h"
+#include "ui-agent/core/status-store.h"
+#include "ui-agent/dialogs/about-window.h"
+#include "ui-agent/dialogs/update-status-dialog.h"
+#include "widgets/dpi-info.h"
+#include "vantor-core/lib/json-access.h"
+#include "ui-agent/gallery/screen-gallery.h"
+#include "ui-agent/core/string-display.h"
+#include "widgets/style-manager.h"
+#include "widgets/vell-mask.h"
+#include "widgets/vell-message-sheet.h"
+#include "ui-agent/wizard/nimbra-loading-frame.h"
+#include "ui-agent/wizard/wizard.h"
 
 namespace {
 

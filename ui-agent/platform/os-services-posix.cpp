@@ -1,5 +1,5 @@
 // Linux: no taskbar registry, no socket library to start, no global hook.
-#include "os-services.h"
+#include "ui-agent/platform/os-services.h"
 
 namespace os_services {
 

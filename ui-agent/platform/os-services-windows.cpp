@@ -3,8 +3,8 @@
 #include <winsock2.h>
 #include <windows.h>
 
-#include "logger.h"
-#include "os-services.h"
+#include "logging/logger.h"
+#include "ui-agent/platform/os-services.h"
 
 namespace os_services {
 

@@ -1,4 +1,4 @@
-#include "os-services.h"
+#include "ui-agent/platform/os-services.h"
 
 #include <mutex>
 #include <utility>

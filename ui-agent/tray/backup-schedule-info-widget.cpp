@@ -1,14 +1,14 @@
-#include "backup-schedule-info-widget.h"
+#include "ui-agent/tray/backup-schedule-info-widget.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include "accessible-text.h"
-#include "dpi-info.h"
-#include "status-page-model.h"
-#include "string-display.h"
-#include "vell-label.h"
+#include "widgets/accessible-text.h"
+#include "widgets/dpi-info.h"
+#include "ui-agent/tray/status-page-model.h"
+#include "ui-agent/core/string-display.h"
+#include "widgets/vell-label.h"
 
 namespace {
 

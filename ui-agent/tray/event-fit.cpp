@@ -1,14 +1,14 @@
-#include "event-fit.h"
+#include "ui-agent/tray/event-fit.h"
 
 #include <QLabel>
 
 #include <algorithm>
 #include <cmath>
 
-#include "dpi-info.h"
-#include "style-manager.h"
-#include "relative-age.h"
-#include "string-display.h"
+#include "widgets/dpi-info.h"
+#include "widgets/style-manager.h"
+#include "ui-agent/tray/relative-age.h"
+#include "ui-agent/core/string-display.h"
 
 namespace event_fit {
 

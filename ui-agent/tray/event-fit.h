@@ -25,7 +25,7 @@
 
 #include <functional>
 
-#include "core/log-entry.h"
+#include "ui-agent/core/log-entry.h"
 
 class QLabel;
 

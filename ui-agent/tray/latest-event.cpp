@@ -1,11 +1,11 @@
-#include "latest-event.h"
+#include "ui-agent/tray/latest-event.h"
 
 #include <QLabel>
 
-#include "dpi-info.h"
-#include "relative-age.h"
-#include "string-display.h"
-#include "web-link.h"
+#include "widgets/dpi-info.h"
+#include "ui-agent/tray/relative-age.h"
+#include "ui-agent/core/string-display.h"
+#include "widgets/web-link.h"
 
 LatestEventLine::LatestEventLine(QWidget* parent, const QString& prefix)
     : event_(new QLabel(parent)), age_(new QLabel(parent)), fitter_(event_fit::Fitter::tray()) {

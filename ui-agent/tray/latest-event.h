@@ -7,8 +7,8 @@
 
 #include <optional>
 
-#include "core/log-entry.h"
-#include "event-fit.h"
+#include "ui-agent/core/log-entry.h"
+#include "ui-agent/tray/event-fit.h"
 
 class QLabel;
 class QWidget;

@@ -1,4 +1,4 @@
-#include "tray/layer-placement.h"
+#include "ui-agent/tray/layer-placement.h"
 
 #include <algorithm>
 

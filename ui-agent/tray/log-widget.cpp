@@ -1,4 +1,4 @@
-#include "log-widget.h"
+#include "ui-agent/tray/log-widget.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
@@ -9,16 +9,16 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
-#include "accessible-text.h"
-#include "copyable-text.h"
-#include "dpi-info.h"
-#include "logger.h"
-#include "relative-age.h"
-#include "string-display.h"
-#include "style-manager.h"
-#include "vell-button.h"
-#include "web-link.h"
-#include "window-placement.h"
+#include "widgets/accessible-text.h"
+#include "widgets/copyable-text.h"
+#include "widgets/dpi-info.h"
+#include "logging/logger.h"
+#include "ui-agent/tray/relative-age.h"
+#include "ui-agent/core/string-display.h"
+#include "widgets/style-manager.h"
+#include "widgets/vell-button.h"
+#include "widgets/web-link.h"
+#include "widgets/window-placement.h"
 
 namespace {
 

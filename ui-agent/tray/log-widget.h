@@ -7,8 +7,8 @@
 #include <QList>
 #include <QWidget>
 
-#include "core/log-entry.h"
-#include "event-fit.h"
+#include "ui-agent/core/log-entry.h"
+#include "ui-agent/tray/event-fit.h"
 
 class QTableWidget;
 class VellButton;

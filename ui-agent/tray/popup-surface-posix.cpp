@@ -22,8 +22,8 @@
 
 #include <memory>
 
-#include "logger.h"
-#include "tray/popup-surface.h"
+#include "logging/logger.h"
+#include "ui-agent/tray/popup-surface.h"
 
 namespace popup_surface {
 

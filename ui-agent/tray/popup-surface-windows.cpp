@@ -1,5 +1,5 @@
 // Windows: the pop-up is placed by coordinates.
-#include "tray/popup-surface.h"
+#include "ui-agent/tray/popup-surface.h"
 
 namespace popup_surface {
 

@@ -1,4 +1,4 @@
-#include "tray/popup-surface.h"
+#include "ui-agent/tray/popup-surface.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -8,7 +8,7 @@
 #include <QWidget>
 #include <QWindow>
 
-#include "logger.h"
+#include "logging/logger.h"
 
 namespace popup_surface {
 

@@ -17,7 +17,7 @@
 
 #include <QPoint>
 
-#include "tray/layer-placement.h"
+#include "ui-agent/tray/layer-placement.h"
 
 class QWidget;
 class QWindow;

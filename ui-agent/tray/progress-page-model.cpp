@@ -1,12 +1,12 @@
-#include "progress-page-model.h"
+#include "ui-agent/tray/progress-page-model.h"
 
 #include <QDateTime>
 
 #include <algorithm>
 #include <cmath>
 
-#include "json-access.h"
-#include "string-display.h"
+#include "vantor-core/lib/json-access.h"
+#include "ui-agent/core/string-display.h"
 
 namespace tray_progress_page {
 

@@ -9,8 +9,8 @@
 
 #include <optional>
 
-#include "core/service-status.h"
-#include "string-catalogue.h"
+#include "ui-agent/core/service-status.h"
+#include "ui-agent/catalogue/string-catalogue.h"
 
 namespace tray_progress_page {
 

@@ -1,4 +1,4 @@
-#include "quota-info-widget.h"
+#include "ui-agent/tray/quota-info-widget.h"
 
 #include <QFontMetrics>
 #include <QLabel>
@@ -7,12 +7,12 @@
 #include <QTextEdit>
 #include <QVBoxLayout>
 
-#include "core/global-connecter.h"
-#include "dpi-info.h"
-#include "logger.h"
-#include "quota-model.h"
-#include "relative-age.h"
-#include "style-manager.h"
+#include "ui-agent/core/global-connecter.h"
+#include "widgets/dpi-info.h"
+#include "logging/logger.h"
+#include "ui-agent/tray/quota-model.h"
+#include "ui-agent/tray/relative-age.h"
+#include "widgets/style-manager.h"
 
 QuotaInfoWidget::QuotaInfoWidget(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("QuotaInfoWidget"));

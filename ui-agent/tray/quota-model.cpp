@@ -1,7 +1,7 @@
-#include "quota-model.h"
+#include "ui-agent/tray/quota-model.h"
 
-#include "json-access.h"
-#include "string-display.h"
+#include "vantor-core/lib/json-access.h"
+#include "ui-agent/core/string-display.h"
 
 namespace quota_model {
 

@@ -1,12 +1,12 @@
-#include "relative-age.h"
+#include "ui-agent/tray/relative-age.h"
 
 #include <QDateTime>
 
 #include <array>
 #include <chrono>
 
-#include "per-thread.h"
-#include "string-display.h"
+#include "logging/per-thread.h"
+#include "ui-agent/core/string-display.h"
 
 namespace tray_text {
 

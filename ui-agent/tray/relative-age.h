@@ -7,7 +7,7 @@
 
 #include <functional>
 
-#include "string-catalogue.h"
+#include "ui-agent/catalogue/string-catalogue.h"
 
 namespace tray_text {
 

@@ -19,9 +19,9 @@
 
 #include <dbusmenuexporter.h>
 
-#include "logger.h"
-#include "string-display.h"
-#include "tray/status-notifier-item.h"
+#include "logging/logger.h"
+#include "ui-agent/core/string-display.h"
+#include "ui-agent/tray/status-notifier-item.h"
 
 namespace {
 

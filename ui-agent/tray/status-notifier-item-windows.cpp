@@ -1,7 +1,7 @@
 // Windows: the shell's notification area is the only tray (QSystemTrayIcon);
 // there is no StatusNotifierWatcher to register with, so the item never has
 // a host.
-#include "tray/status-notifier-item.h"
+#include "ui-agent/tray/status-notifier-item.h"
 
 StatusNotifierItem::StatusNotifierItem(QObject* parent, const QString& connection)
     : QObject(parent), host_(Host::Absent), connection_(connection) {}

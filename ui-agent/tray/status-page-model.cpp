@@ -1,11 +1,11 @@
-#include "status-page-model.h"
+#include "ui-agent/tray/status-page-model.h"
 
 #include <limits>
 
-#include "core/service-error-text.h"
-#include "json-access.h"
-#include "relative-age.h"
-#include "string-display.h"
+#include "ui-agent/core/service-error-text.h"
+#include "vantor-core/lib/json-access.h"
+#include "ui-agent/tray/relative-age.h"
+#include "ui-agent/core/string-display.h"
 
 namespace tray_status_page {
 

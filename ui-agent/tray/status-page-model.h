@@ -9,8 +9,8 @@
 
 #include <optional>
 
-#include "core/tray-status.h"
-#include "string-catalogue.h"
+#include "ui-agent/core/tray-status.h"
+#include "ui-agent/catalogue/string-catalogue.h"
 
 namespace tray_status_page {
 

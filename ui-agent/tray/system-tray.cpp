@@ -1,4 +1,4 @@
-#include "tray/system-tray.h"
+#include "ui-agent/tray/system-tray.h"
 
 #include <QAction>
 #include <QApplication>
@@ -13,23 +13,23 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include "accessible-text.h"
-#include "core/global-connecter.h"
-#include "core/notification-text.h"
-#include "dpi-info.h"
-#include "image-manager.h"
-#include "json-access.h"
-#include "logger.h"
-#include "string-display.h"
-#include "style-manager.h"
-#include "tray/popup-surface.h"
-#include "tray/quota-info-widget.h"
-#include "tray/status-notifier-item.h"
-#include "tray/tray-anchor.h"
-#include "tray/tray-menu.h"
-#include "tray/tray-placement.h"
-#include "tray/tray-theme.h"
-#include "window-placement.h"
+#include "widgets/accessible-text.h"
+#include "ui-agent/core/global-connecter.h"
+#include "ui-agent/core/notification-text.h"
+#include "widgets/dpi-info.h"
+#include "widgets/image-manager.h"
+#include "vantor-core/lib/json-access.h"
+#include "logging/logger.h"
+#include "ui-agent/core/string-display.h"
+#include "widgets/style-manager.h"
+#include "ui-agent/tray/popup-surface.h"
+#include "ui-agent/tray/quota-info-widget.h"
+#include "ui-agent/tray/status-notifier-item.h"
+#include "ui-agent/tray/tray-anchor.h"
+#include "ui-agent/tray/tray-menu.h"
+#include "ui-agent/tray/tray-placement.h"
+#include "ui-agent/tray/tray-theme.h"
+#include "widgets/window-placement.h"
 
 // ---- TrayMenuContainer ----------------------------------------------------
 

@@ -29,11 +29,11 @@
 #include <functional>
 #include <optional>
 
-#include "core/log-entry.h"
-#include "core/service-status.h"
-#include "core/tray-status.h"
-#include "tray/tray-anchor.h"
-#include "tray/tray-icon-model.h"
+#include "ui-agent/core/log-entry.h"
+#include "ui-agent/core/service-status.h"
+#include "ui-agent/core/tray-status.h"
+#include "ui-agent/tray/tray-anchor.h"
+#include "ui-agent/tray/tray-icon-model.h"
 
 class PanelThemeWatcher;
 class StatusNotifierItem;

@@ -1,4 +1,4 @@
-#include "tray/tray-anchor.h"
+#include "ui-agent/tray/tray-anchor.h"
 
 #include <algorithm>
 

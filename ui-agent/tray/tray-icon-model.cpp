@@ -1,10 +1,10 @@
-#include "tray/tray-icon-model.h"
+#include "ui-agent/tray/tray-icon-model.h"
 
-#include "json-access.h"
-#include "string-display.h"
-#include "tray/progress-page-model.h"
-#include "tray/status-page-model.h"
-#include "tray/tray-menu-model.h"
+#include "vantor-core/lib/json-access.h"
+#include "ui-agent/core/string-display.h"
+#include "ui-agent/tray/progress-page-model.h"
+#include "ui-agent/tray/status-page-model.h"
+#include "ui-agent/tray/tray-menu-model.h"
 
 namespace tray_icon_model {
 

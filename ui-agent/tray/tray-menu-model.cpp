@@ -1,6 +1,6 @@
-#include "tray-menu-model.h"
+#include "ui-agent/tray/tray-menu-model.h"
 
-#include "json-access.h"
+#include "vantor-core/lib/json-access.h"
 
 namespace tray_menu_model {
 

@@ -6,8 +6,8 @@
 
 #include <QList>
 
-#include "core/log-entry.h"
-#include "core/service-status.h"
+#include "ui-agent/core/log-entry.h"
+#include "ui-agent/core/service-status.h"
 
 namespace tray_menu_model {
 

@@ -1,4 +1,4 @@
-#include "tray-menu.h"
+#include "ui-agent/tray/tray-menu.h"
 
 #include <QGraphicsDropShadowEffect>
 #include <QHBoxLayout>
@@ -10,21 +10,21 @@
 #include <QVBoxLayout>
 #include <QWidgetAction>
 
-#include "core/global-connecter.h"
-#include "dialogs/settings-widget.h"
-#include "dpi-info.h"
-#include "image-manager.h"
-#include "json-access.h"
-#include "log-widget.h"
-#include "logger.h"
-#include "quota-info-widget.h"
-#include "string-display.h"
-#include "style-manager.h"
-#include "tray-menu-model.h"
-#include "tray-progress-widget.h"
-#include "tray-status-widget.h"
-#include "vell-button.h"
-#include "window-placement.h"
+#include "ui-agent/core/global-connecter.h"
+#include "ui-agent/dialogs/settings-widget.h"
+#include "widgets/dpi-info.h"
+#include "widgets/image-manager.h"
+#include "vantor-core/lib/json-access.h"
+#include "ui-agent/tray/log-widget.h"
+#include "logging/logger.h"
+#include "ui-agent/tray/quota-info-widget.h"
+#include "ui-agent/core/string-display.h"
+#include "widgets/style-manager.h"
+#include "ui-agent/tray/tray-menu-model.h"
+#include "ui-agent/tray/tray-progress-widget.h"
+#include "ui-agent/tray/tray-status-widget.h"
+#include "widgets/vell-button.h"
+#include "widgets/window-placement.h"
 
 namespace {
 constexpr auto kBandwidthAction = "get_bandwidth_control";

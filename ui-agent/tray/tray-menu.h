@@ -10,10 +10,10 @@
 #include <QFrame>
 #include <QList>
 
-#include "core/log-entry.h"
-#include "core/service-status.h"
-#include "core/tray-status.h"
-#include "relative-age.h"
+#include "ui-agent/core/log-entry.h"
+#include "ui-agent/core/service-status.h"
+#include "ui-agent/core/tray-status.h"
+#include "ui-agent/tray/relative-age.h"
 
 class QAction;
 class QLabel;

@@ -1,4 +1,4 @@
-#include "tray/tray-placement.h"
+#include "ui-agent/tray/tray-placement.h"
 
 #include <algorithm>
 

@@ -1,17 +1,17 @@
-#include "tray-progress-widget.h"
+#include "ui-agent/tray/tray-progress-widget.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
 #include <QVBoxLayout>
 
-#include "dpi-info.h"
-#include "image-manager.h"
-#include "latest-event.h"
-#include "progress-page-model.h"
-#include "string-display.h"
-#include "style-manager.h"
-#include "vell-label.h"
+#include "widgets/dpi-info.h"
+#include "widgets/image-manager.h"
+#include "ui-agent/tray/latest-event.h"
+#include "ui-agent/tray/progress-page-model.h"
+#include "ui-agent/core/string-display.h"
+#include "widgets/style-manager.h"
+#include "widgets/vell-label.h"
 
 namespace {
 

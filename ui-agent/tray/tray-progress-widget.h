@@ -8,10 +8,10 @@
 
 #include <memory>
 
-#include "core/log-entry.h"
-#include "core/service-status.h"
-#include "core/tray-status.h"
-#include "relative-age.h"
+#include "ui-agent/core/log-entry.h"
+#include "ui-agent/core/service-status.h"
+#include "ui-agent/core/tray-status.h"
+#include "ui-agent/tray/relative-age.h"
 
 class QLabel;
 class QProgressBar;

@@ -1,4 +1,4 @@
-#include "tray-status-widget.h"
+#include "ui-agent/tray/tray-status-widget.h"
 
 #include <QFontMetrics>
 #include <QHBoxLayout>
@@ -7,15 +7,15 @@
 #include <QTextDocumentFragment>
 #include <QVBoxLayout>
 
-#include "backup-schedule-info-widget.h"
-#include "copyable-text.h"
-#include "dpi-info.h"
-#include "image-manager.h"
-#include "latest-event.h"
-#include "status-page-model.h"
-#include "string-display.h"
-#include "style-manager.h"
-#include "vell-label.h"
+#include "ui-agent/tray/backup-schedule-info-widget.h"
+#include "widgets/copyable-text.h"
+#include "widgets/dpi-info.h"
+#include "widgets/image-manager.h"
+#include "ui-agent/tray/latest-event.h"
+#include "ui-agent/tray/status-page-model.h"
+#include "ui-agent/core/string-display.h"
+#include "widgets/style-manager.h"
+#include "widgets/vell-label.h"
 
 namespace {}  // namespace
 

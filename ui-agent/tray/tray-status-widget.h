@@ -10,9 +10,9 @@
 #include <memory>
 #include <optional>
 
-#include "core/log-entry.h"
-#include "core/tray-status.h"
-#include "relative-age.h"
+#include "ui-agent/core/log-entry.h"
+#include "ui-agent/core/tray-status.h"
+#include "ui-agent/tray/relative-age.h"
 
 class QLabel;
 class BackupScheduleInfoWidget;

@@ -12,8 +12,8 @@
 #include <optional>
 #include <utility>
 
-#include "logger.h"
-#include "tray/tray-theme.h"
+#include "logging/logger.h"
+#include "ui-agent/tray/tray-theme.h"
 
 namespace {
 

@@ -6,8 +6,8 @@
 #include <QApplication>
 #include <QEvent>
 
-#include "os-services.h"
-#include "tray/tray-theme.h"
+#include "ui-agent/platform/os-services.h"
+#include "ui-agent/tray/tray-theme.h"
 
 struct PanelThemeWatcher::Impl {};
 

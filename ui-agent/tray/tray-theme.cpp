@@ -1,4 +1,4 @@
-#include "tray/tray-theme.h"
+#include "ui-agent/tray/tray-theme.h"
 
 namespace tray_theme {
 

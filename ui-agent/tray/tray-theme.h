@@ -18,7 +18,7 @@
 
 #include <memory>
 
-#include "core/tray-status.h"
+#include "ui-agent/core/tray-status.h"
 
 namespace tray_theme {
 

@@ -1,4 +1,4 @@
-#include "nimbra-loading-frame.h"
+#include "ui-agent/wizard/nimbra-loading-frame.h"
 
 #include <QEvent>
 #include <QEventLoop>
@@ -9,7 +9,7 @@
 
 #include <cmath>
 
-#include "dpi-info.h"
+#include "widgets/dpi-info.h"
 
 int loading_frame_width(int textHintWidth, double scale, int maxWidth) {
   const int width = textHintWidth + static_cast<int>(std::trunc(58 * scale));

@@ -1,4 +1,4 @@
-#include "summary-page.h"
+#include "ui-agent/wizard/summary-page.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -6,13 +6,13 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "dpi-info.h"
-#include "json-access.h"
-#include "string-display.h"
-#include "style-manager.h"
-#include "summary-text.h"
-#include "summary-widget.h"
-#include "web-link.h"
+#include "widgets/dpi-info.h"
+#include "vantor-core/lib/json-access.h"
+#include "ui-agent/core/string-display.h"
+#include "widgets/style-manager.h"
+#include "ui-agent/wizard/summary-text.h"
+#include "ui-agent/wizard/summary-widget.h"
+#include "widgets/web-link.h"
 
 namespace {
 

@@ -1,12 +1,12 @@
-#include "summary-text.h"
+#include "ui-agent/wizard/summary-text.h"
 
 #include <QStringList>
 #include <QTime>
 
-#include "dpi-info.h"
-#include "json-access.h"
-#include "logger.h"
-#include "string-display.h"
+#include "widgets/dpi-info.h"
+#include "vantor-core/lib/json-access.h"
+#include "logging/logger.h"
+#include "ui-agent/core/string-display.h"
 
 namespace summary_text {
 namespace {

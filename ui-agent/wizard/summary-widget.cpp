@@ -1,4 +1,4 @@
-#include "summary-widget.h"
+#include "ui-agent/wizard/summary-widget.h"
 
 #include <QAbstractItemView>
 #include <QHBoxLayout>
@@ -6,13 +6,13 @@
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
-#include "accessible-text.h"
-#include "dpi-info.h"
-#include "image-manager.h"
-#include "json-access.h"
-#include "string-display.h"
-#include "style-manager.h"
-#include "summary-text.h"
+#include "widgets/accessible-text.h"
+#include "widgets/dpi-info.h"
+#include "widgets/image-manager.h"
+#include "vantor-core/lib/json-access.h"
+#include "ui-agent/core/string-display.h"
+#include "widgets/style-manager.h"
+#include "ui-agent/wizard/summary-text.h"
 
 namespace {
 

@@ -1,16 +1,16 @@
-#include "welcome-page.h"
+#include "ui-agent/wizard/welcome-page.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "core/global-connecter.h"
-#include "dpi-info.h"
-#include "image-manager.h"
-#include "string-display.h"
-#include "style-manager.h"
-#include "summary-text.h"
+#include "ui-agent/core/global-connecter.h"
+#include "widgets/dpi-info.h"
+#include "widgets/image-manager.h"
+#include "ui-agent/core/string-display.h"
+#include "widgets/style-manager.h"
+#include "ui-agent/wizard/summary-text.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "wizard.h"
+#include "ui-agent/wizard/wizard.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -8,22 +8,22 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
-#include "accessible-text.h"
-#include "core/global-connecter.h"
-#include "core/service-error-text.h"
-#include "core/status-store.h"
-#include "dpi-info.h"
-#include "image-manager.h"
-#include "json-access.h"
-#include "logger.h"
-#include "nimbra-loading-frame.h"
-#include "string-display.h"
-#include "style-manager.h"
-#include "summary-page.h"
-#include "vell-mask.h"
-#include "vell-message-sheet.h"
-#include "welcome-page.h"
-#include "window-placement.h"
+#include "widgets/accessible-text.h"
+#include "ui-agent/core/global-connecter.h"
+#include "ui-agent/core/service-error-text.h"
+#include "ui-agent/core/status-store.h"
+#include "widgets/dpi-info.h"
+#include "widgets/image-manager.h"
+#include "vantor-core/lib/json-access.h"
+#include "logging/logger.h"
+#include "ui-agent/wizard/nimbra-loading-frame.h"
+#include "ui-agent/core/string-display.h"
+#include "widgets/style-manager.h"
+#include "ui-agent/wizard/summary-page.h"
+#include "widgets/vell-mask.h"
+#include "widgets/vell-message-sheet.h"
+#include "ui-agent/wizard/welcome-page.h"
+#include "widgets/window-placement.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
-#include "env.h"
+#include "vantor-core/lib/env.h"
 
-#include "paths.h"
+#include "logging/paths.h"
 
-#include "env-platform.h"
-#include "exception.h"
+#include "vantor-core/lib/env-platform.h"
+#include "vantor-core/lib/exception.h"
 
 namespace vantor {
 namespace detail {

@@ -1,4 +1,4 @@
-#include "exception.h"
+#include "vantor-core/lib/exception.h"
 
 #include <algorithm>
 #include <cerrno>

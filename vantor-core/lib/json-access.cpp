@@ -1,6 +1,6 @@
-#include "json-access.h"
+#include "vantor-core/lib/json-access.h"
 
-#include "per-thread.h"
+#include "logging/per-thread.h"
 
 #include <json/reader.h>
 #include <json/writer.h>

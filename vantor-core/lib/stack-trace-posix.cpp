@@ -11,7 +11,7 @@
 #include <new>
 #include <string>
 
-#include "exception.h"
+#include "vantor-core/lib/exception.h"
 
 namespace ravel::exception {
 namespace {

@@ -1,4 +1,4 @@
-#include "win-error.h"
+#include "vantor-core/lib/win-error.h"
 
 #include <cerrno>
 

@@ -1,4 +1,4 @@
-#include "gallery-kit.h"
+#include "widgets/gallery/gallery-kit.h"
 
 #include <QApplication>
 #include <QPainter>

@@ -21,8 +21,8 @@
 #include <functional>
 #include <vector>
 
-#include "gallery-kit.h"
-#include "vell-widgets.h"
+#include "widgets/gallery/gallery-kit.h"
+#include "widgets/vell-widgets.h"
 
 using namespace gallery;
 

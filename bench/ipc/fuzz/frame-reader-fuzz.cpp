@@ -22,8 +22,8 @@
 #include <string>
 #include <vector>
 
-#include "win-ipc-platform.h"
-#include "win-ipc.h"
+#include "ipc/win-ipc-platform.h"
+#include "ipc/win-ipc.h"
 
 namespace {
 

@@ -21,11 +21,11 @@
 #include <string>
 #include <thread>
 
-#include "bench-report.h"
-#include "core/global-connecter.h"
-#include "service-communicator.h"
-#include "ui-agent/service-peer.h"
-#include "win-ipc.h"
+#include "bench/bench-report.h"
+#include "ui-agent/core/global-connecter.h"
+#include "ui-agent/core/service-communicator.h"
+#include "bench/ui-agent/service-peer.h"
+#include "ipc/win-ipc.h"
 
 namespace {
 

@@ -23,12 +23,12 @@
 #include <thread>
 #include <vector>
 
-#include "bench-report.h"
-#include "core/global-connecter.h"
-#include "json-access.h"
-#include "service-communicator.h"
-#include "ui-agent/service-peer.h"
-#include "win-ipc.h"
+#include "bench/bench-report.h"
+#include "ui-agent/core/global-connecter.h"
+#include "vantor-core/lib/json-access.h"
+#include "ui-agent/core/service-communicator.h"
+#include "bench/ui-agent/service-peer.h"
+#include "ipc/win-ipc.h"
 
 namespace {
 

@@ -13,8 +13,8 @@
 #include <algorithm>
 #include <cstdio>
 
-#include "bench-report.h"
-#include "string-display.h"
+#include "bench/bench-report.h"
+#include "ui-agent/core/string-display.h"
 
 namespace {
 

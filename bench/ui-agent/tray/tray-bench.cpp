@@ -16,15 +16,15 @@
 #include <cstdio>
 #include <functional>
 
-#include "bench-report.h"
-#include "core/log-entry.h"
-#include "image-manager.h"
-#include "string-display.h"
-#include "style-manager.h"
-#include "tray/event-fit.h"
-#include "tray/log-widget.h"
-#include "tray/tray-menu.h"
-#include "ui-path-manager.h"
+#include "bench/bench-report.h"
+#include "ui-agent/core/log-entry.h"
+#include "widgets/image-manager.h"
+#include "ui-agent/core/string-display.h"
+#include "widgets/style-manager.h"
+#include "ui-agent/tray/event-fit.h"
+#include "ui-agent/tray/log-widget.h"
+#include "ui-agent/tray/tray-menu.h"
+#include "widgets/ui-path-manager.h"
 
 namespace {
 

@@ -15,10 +15,10 @@
 #include <QMessageBox>
 #include <QTimer>
 
-#include "agent-app.h"
-#include "core/global-connecter.h"
-#include "tray/system-tray.h"
-#include "vell-message-sheet.h"
+#include "ui-agent/app/agent-app.h"
+#include "ui-agent/core/global-connecter.h"
+#include "ui-agent/tray/system-tray.h"
+#include "widgets/vell-message-sheet.h"
 
 namespace {
 

@@ -7,11 +7,11 @@
 #include <QSignalSpy>
 #include <QThread>
 
-#include "agent-test.h"
-#include "core/global-connecter.h"
-#include "json-access.h"
-#include "peer.h"
-#include "service-communicator.h"
+#include "tests/ui-agent/agent-test.h"
+#include "ui-agent/core/global-connecter.h"
+#include "vantor-core/lib/json-access.h"
+#include "tests/ui-agent/communicator/peer.h"
+#include "ui-agent/core/service-communicator.h"
 
 using agent_test::parse;
 using ::testing::HasSubstr;

@@ -7,10 +7,10 @@
 
 #include <stdexcept>
 
-#include "agent-test.h"
-#include "core/global-connecter.h"
-#include "json-access.h"
-#include "service-communicator.h"
+#include "tests/ui-agent/agent-test.h"
+#include "ui-agent/core/global-connecter.h"
+#include "vantor-core/lib/json-access.h"
+#include "ui-agent/core/service-communicator.h"
 
 using ::testing::HasSubstr;
 

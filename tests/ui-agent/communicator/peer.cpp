@@ -1,4 +1,4 @@
-#include "peer.h"
+#include "tests/ui-agent/communicator/peer.h"
 
 ScriptedPeer::ScriptedPeer(const std::string& name, Script script) : script_(std::move(script)) {
   server_.set_timeout_ms(50);

@@ -11,7 +11,7 @@
 #include <thread>
 #include <vector>
 
-#include "win-ipc.h"
+#include "ipc/win-ipc.h"
 
 class ScriptedPeer {
  public:

@@ -7,13 +7,13 @@
 #include <QSignalSpy>
 #include <QThread>
 
-#include "agent-test.h"
-#include "core/connection-info.h"
-#include "core/global-connecter.h"
-#include "core/service-status.h"
-#include "core/status-store.h"
-#include "core/tray-status.h"
-#include "json-access.h"
+#include "tests/ui-agent/agent-test.h"
+#include "ui-agent/core/connection-info.h"
+#include "ui-agent/core/global-connecter.h"
+#include "ui-agent/core/service-status.h"
+#include "ui-agent/core/status-store.h"
+#include "ui-agent/core/tray-status.h"
+#include "vantor-core/lib/json-access.h"
 
 using agent_test::parse;
 

@@ -3,9 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include "agent-test.h"
-#include "core/service-error-text.h"
-#include "string-display.h"
+#include "tests/ui-agent/agent-test.h"
+#include "ui-agent/core/service-error-text.h"
+#include "ui-agent/core/string-display.h"
 
 namespace {
 

@@ -4,11 +4,11 @@
 
 #include <gtest/gtest.h>
 
-#include "agent-test.h"
-#include "core/service-error-text.h"
-#include "core/status-answer.h"
-#include "string-display.h"
-#include "support/table.h"
+#include "tests/ui-agent/agent-test.h"
+#include "ui-agent/core/service-error-text.h"
+#include "ui-agent/core/status-answer.h"
+#include "ui-agent/core/string-display.h"
+#include "tests/support/table.h"
 
 namespace {
 

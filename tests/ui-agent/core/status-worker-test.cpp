@@ -6,11 +6,11 @@
 #include <QTest>
 #include <QThread>
 
-#include "agent-test.h"
-#include "core/get-status-worker.h"
-#include "core/global-connecter.h"
-#include "core/status-store.h"
-#include "json-access.h"
+#include "tests/ui-agent/agent-test.h"
+#include "ui-agent/core/get-status-worker.h"
+#include "ui-agent/core/global-connecter.h"
+#include "ui-agent/core/status-store.h"
+#include "vantor-core/lib/json-access.h"
 
 using agent_test::parse;
 

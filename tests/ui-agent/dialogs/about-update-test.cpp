@@ -15,17 +15,17 @@
 #include <functional>
 #include <memory>
 
-#include "agent-test.h"
-#include "dialogs/about-window.h"
-#include "dialogs/settings-widget.h"
-#include "dialogs/update-status-dialog.h"
-#include "string-display.h"
-#include "support/qt-print.h"
-#include "tray/log-widget.h"
-#include "vell-button.h"
-#include "vell-label.h"
-#include "window-placement.h"
-#include "wizard/wizard.h"
+#include "tests/ui-agent/agent-test.h"
+#include "ui-agent/dialogs/about-window.h"
+#include "ui-agent/dialogs/settings-widget.h"
+#include "ui-agent/dialogs/update-status-dialog.h"
+#include "ui-agent/core/string-display.h"
+#include "tests/support/qt-print.h"
+#include "ui-agent/tray/log-widget.h"
+#include "widgets/vell-button.h"
+#include "widgets/vell-label.h"
+#include "widgets/window-placement.h"
+#include "ui-agent/wizard/wizard.h"
 
 namespace {
 

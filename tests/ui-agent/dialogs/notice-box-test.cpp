@@ -9,10 +9,10 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-#include "agent-test.h"
-#include "dialogs/notice-box.h"
-#include "string-display.h"
-#include "style-manager.h"
+#include "tests/ui-agent/agent-test.h"
+#include "ui-agent/dialogs/notice-box.h"
+#include "ui-agent/core/string-display.h"
+#include "widgets/style-manager.h"
 
 namespace {
 

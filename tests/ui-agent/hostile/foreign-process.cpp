@@ -1,4 +1,4 @@
-#include "foreign-process.h"
+#include "tests/ui-agent/hostile/foreign-process.h"
 
 #include <fcntl.h>
 #include <grp.h>

@@ -23,15 +23,15 @@
 #include <memory>
 #include <vector>
 
-#include "agent-test.h"
-#include "core/global-connecter.h"
-#include "foreign-process.h"
-#include "json-access.h"
-#include "machine-lock.h"
-#include "service-communicator.h"
-#include "single-application.h"
-#include "user-identity.h"
-#include "win-ipc.h"
+#include "tests/ui-agent/agent-test.h"
+#include "ui-agent/core/global-connecter.h"
+#include "tests/ui-agent/hostile/foreign-process.h"
+#include "vantor-core/lib/json-access.h"
+#include "widgets/machine-lock.h"
+#include "ui-agent/core/service-communicator.h"
+#include "widgets/single-application.h"
+#include "widgets/user-identity.h"
+#include "ipc/win-ipc.h"
 
 using ::testing::HasSubstr;
 using ::testing::Not;

@@ -2,10 +2,10 @@
 // notifier's arguments.
 #include <gtest/gtest.h>
 
-#include "agent-test.h"
-#include "client-manager-rules.h"
-#include "support/qt-print.h"
-#include "support/table.h"
+#include "tests/ui-agent/agent-test.h"
+#include "ui-agent/app/client-manager-rules.h"
+#include "tests/support/qt-print.h"
+#include "tests/support/table.h"
 
 namespace {
 

@@ -19,22 +19,22 @@
 #include <memory>
 #include <set>
 
-#include "agent-test.h"
-#include "client-manager.h"
-#include "core/get-status-worker.h"
-#include "core/global-connecter.h"
-#include "core/service-error-text.h"
-#include "core/status-store.h"
-#include "dialogs/update-status-dialog.h"
-#include "service-communicator.h"
-#include "tray/log-widget.h"
-#include "tray/system-tray.h"
-#include "tray/tray-menu.h"
-#include "ui-path-manager.h"
-#include "vell-message-sheet.h"
-#include "wizard/nimbra-loading-frame.h"
-#include "wizard/summary-page.h"
-#include "wizard/wizard.h"
+#include "tests/ui-agent/agent-test.h"
+#include "ui-agent/app/client-manager.h"
+#include "ui-agent/core/get-status-worker.h"
+#include "ui-agent/core/global-connecter.h"
+#include "ui-agent/core/service-error-text.h"
+#include "ui-agent/core/status-store.h"
+#include "ui-agent/dialogs/update-status-dialog.h"
+#include "ui-agent/core/service-communicator.h"
+#include "ui-agent/tray/log-widget.h"
+#include "ui-agent/tray/system-tray.h"
+#include "ui-agent/tray/tray-menu.h"
+#include "widgets/ui-path-manager.h"
+#include "widgets/vell-message-sheet.h"
+#include "ui-agent/wizard/nimbra-loading-frame.h"
+#include "ui-agent/wizard/summary-page.h"
+#include "ui-agent/wizard/wizard.h"
 
 namespace {
 

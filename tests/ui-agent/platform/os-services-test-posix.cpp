@@ -1,7 +1,7 @@
 // Linux: none of the Windows services exists, and each says so.
 #include <gtest/gtest.h>
 
-#include "os-services.h"
+#include "ui-agent/platform/os-services.h"
 
 TEST(AgentPlatformPosix, WindowsServicesAnswerNotWindows) {
   EXPECT_EQ(os_services::running_windows_version().major, 0u);

@@ -5,8 +5,8 @@
 
 #include <gtest/gtest.h>
 
-#include "machine-lock.h"
-#include "os-services.h"
+#include "widgets/machine-lock.h"
+#include "ui-agent/platform/os-services.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "os-services.h"
+#include "ui-agent/platform/os-services.h"
 
 namespace {
 

@@ -8,10 +8,10 @@
 #include <map>
 #include <string>
 
-#include "agent-test.h"
-#include "dialogs/settings-rules.h"
-#include "json-access.h"
-#include "support/table.h"
+#include "tests/ui-agent/agent-test.h"
+#include "ui-agent/dialogs/settings-rules.h"
+#include "vantor-core/lib/json-access.h"
+#include "tests/support/table.h"
 
 using agent_test::parse;
 using nimbra_test::TableRow;

@@ -14,15 +14,15 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include "agent-test.h"
-#include "core/global-connecter.h"
-#include "dialogs/settings-rules.h"
-#include "dialogs/settings-widget.h"
-#include "json-access.h"
-#include "string-display.h"
-#include "support/qt-print.h"
-#include "vell-button.h"
-#include "vell-time-combo-box.h"
+#include "tests/ui-agent/agent-test.h"
+#include "ui-agent/core/global-connecter.h"
+#include "ui-agent/dialogs/settings-rules.h"
+#include "ui-agent/dialogs/settings-widget.h"
+#include "vantor-core/lib/json-access.h"
+#include "ui-agent/core/string-display.h"
+#include "tests/support/qt-print.h"
+#include "widgets/vell-button.h"
+#include "widgets/vell-time-combo-box.h"
 
 using agent_test::parse;
 

@@ -7,8 +7,8 @@
 #include <QSet>
 #include <QTranslator>
 
-#include "string-catalogue-table.h"
-#include "string-display.h"
+#include "ui-agent/catalogue/string-catalogue-table.h"
+#include "ui-agent/core/string-display.h"
 
 using namespace string_display;
 

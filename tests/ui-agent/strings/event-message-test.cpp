@@ -12,11 +12,11 @@
 #include <cmath>
 #include <map>
 
-#include "agent-test.h"
-#include "core/log-entry.h"
-#include "dpi-info.h"
-#include "string-display.h"
-#include "support/table.h"
+#include "tests/ui-agent/agent-test.h"
+#include "ui-agent/core/log-entry.h"
+#include "widgets/dpi-info.h"
+#include "ui-agent/core/string-display.h"
+#include "tests/support/table.h"
 
 using namespace string_display;
 using agent_test::parse;

@@ -7,11 +7,11 @@
 
 #include <string>
 
-#include "agent-test.h"
-#include "core/notification-text.h"
-#include "string-display.h"
-#include "style-manager.h"
-#include "support/table.h"
+#include "tests/ui-agent/agent-test.h"
+#include "ui-agent/core/notification-text.h"
+#include "ui-agent/core/string-display.h"
+#include "widgets/style-manager.h"
+#include "tests/support/table.h"
 
 using namespace string_display;
 

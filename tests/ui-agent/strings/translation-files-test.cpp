@@ -12,8 +12,8 @@
 
 #include <map>
 
-#include "string-display.h"
-#include "support/qt-print.h"
+#include "ui-agent/core/string-display.h"
+#include "tests/support/qt-print.h"
 
 namespace {
 

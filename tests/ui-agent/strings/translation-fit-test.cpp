@@ -10,11 +10,11 @@
 
 #include <map>
 
-#include "agent-test.h"
-#include "core/language-font.h"
-#include "string-display.h"
-#include "support/qt-print.h"
-#include "tray/event-fit.h"
+#include "tests/ui-agent/agent-test.h"
+#include "ui-agent/core/language-font.h"
+#include "ui-agent/core/string-display.h"
+#include "tests/support/qt-print.h"
+#include "ui-agent/tray/event-fit.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include <climits>
 
-#include "tray/tray-anchor.h"
+#include "ui-agent/tray/tray-anchor.h"
 
 namespace {
 

@@ -9,11 +9,11 @@
 
 #include <QLabel>
 
-#include "string-display.h"
-#include "support/temp-dir.h"
-#include "tray-fixture.h"
-#include "tray/event-fit.h"
-#include "tray/latest-event.h"
+#include "ui-agent/core/string-display.h"
+#include "tests/support/temp-dir.h"
+#include "tests/ui-agent/tray/tray-fixture.h"
+#include "ui-agent/tray/event-fit.h"
+#include "ui-agent/tray/latest-event.h"
 
 namespace {
 

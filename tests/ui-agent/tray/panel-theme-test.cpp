@@ -15,8 +15,8 @@
 
 #include <memory>
 
-#include "tray/system-tray.h"
-#include "tray/tray-theme.h"
+#include "ui-agent/tray/system-tray.h"
+#include "ui-agent/tray/tray-theme.h"
 
 namespace {
 

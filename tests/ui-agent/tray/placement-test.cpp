@@ -2,8 +2,8 @@
 // a Wayland layer surface), and which presses count as on it.
 #include <gtest/gtest.h>
 
-#include "tray/layer-placement.h"
-#include "tray/tray-placement.h"
+#include "ui-agent/tray/layer-placement.h"
+#include "ui-agent/tray/tray-placement.h"
 
 namespace {
 

@@ -13,7 +13,7 @@
 #include <ostream>
 #include <string>
 
-#include "tray/status-notifier-item.h"
+#include "ui-agent/tray/status-notifier-item.h"
 
 namespace {
 

@@ -9,15 +9,15 @@
 
 #include <memory>
 
-#include "agent-test.h"
-#include "core/global-connecter.h"
-#include "core/json-meta-type.h"
-#include "support/qt-print.h"
-#include "tray/quota-info-widget.h"
-#include "tray/system-tray.h"
-#include "tray/tray-menu.h"
-#include "tray/tray-placement.h"
-#include "tray/tray-theme.h"
+#include "tests/ui-agent/agent-test.h"
+#include "ui-agent/core/global-connecter.h"
+#include "ui-agent/core/json-meta-type.h"
+#include "tests/support/qt-print.h"
+#include "ui-agent/tray/quota-info-widget.h"
+#include "ui-agent/tray/system-tray.h"
+#include "ui-agent/tray/tray-menu.h"
+#include "ui-agent/tray/tray-placement.h"
+#include "ui-agent/tray/tray-theme.h"
 
 namespace {
 

@@ -9,16 +9,16 @@
 
 #include <QRegularExpression>
 
-#include "core/service-error-text.h"
-#include "string-display.h"
-#include "support/table.h"
-#include "tray-fixture.h"
-#include "tray/progress-page-model.h"
-#include "tray/quota-model.h"
-#include "tray/relative-age.h"
-#include "tray/status-page-model.h"
-#include "tray/tray-icon-model.h"
-#include "tray/tray-menu-model.h"
+#include "ui-agent/core/service-error-text.h"
+#include "ui-agent/core/string-display.h"
+#include "tests/support/table.h"
+#include "tests/ui-agent/tray/tray-fixture.h"
+#include "ui-agent/tray/progress-page-model.h"
+#include "ui-agent/tray/quota-model.h"
+#include "ui-agent/tray/relative-age.h"
+#include "ui-agent/tray/status-page-model.h"
+#include "ui-agent/tray/tray-icon-model.h"
+#include "ui-agent/tray/tray-menu-model.h"
 
 using agent_test::parse;
 using nimbra_test::TableRow;

@@ -21,19 +21,19 @@
 #include <QToolButton>
 #include <memory>
 
-#include "core/global-connecter.h"
-#include "core/service-error-text.h"
-#include "dialogs/settings-widget.h"
-#include "dpi-info.h"
-#include "string-display.h"
-#include "support/temp-dir.h"
-#include "tray-fixture.h"
-#include "tray/log-widget.h"
-#include "tray/quota-info-widget.h"
-#include "tray/tray-menu.h"
-#include "tray/tray-progress-widget.h"
-#include "tray/tray-status-widget.h"
-#include "vell-label.h"
+#include "ui-agent/core/global-connecter.h"
+#include "ui-agent/core/service-error-text.h"
+#include "ui-agent/dialogs/settings-widget.h"
+#include "widgets/dpi-info.h"
+#include "ui-agent/core/string-display.h"
+#include "tests/support/temp-dir.h"
+#include "tests/ui-agent/tray/tray-fixture.h"
+#include "ui-agent/tray/log-widget.h"
+#include "ui-agent/tray/quota-info-widget.h"
+#include "ui-agent/tray/tray-menu.h"
+#include "ui-agent/tray/tray-progress-widget.h"
+#include "ui-agent/tray/tray-status-widget.h"
+#include "widgets/vell-label.h"
 
 using agent_test::accessibleName;
 using agent_test::child;

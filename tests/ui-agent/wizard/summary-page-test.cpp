@@ -6,10 +6,10 @@
 #include <QLabel>
 #include <QSignalSpy>
 
-#include "string-display.h"
-#include "wizard-fixture.h"
-#include "wizard/summary-page.h"
-#include "wizard/summary-widget.h"
+#include "ui-agent/core/string-display.h"
+#include "tests/ui-agent/wizard/wizard-fixture.h"
+#include "ui-agent/wizard/summary-page.h"
+#include "ui-agent/wizard/summary-widget.h"
 
 namespace {
 

@@ -9,11 +9,11 @@
 #include <functional>
 #include <map>
 
-#include "agent-test.h"
-#include "string-display.h"
-#include "support/qt-print.h"
-#include "support/table.h"
-#include "wizard/summary-text.h"
+#include "tests/ui-agent/agent-test.h"
+#include "ui-agent/core/string-display.h"
+#include "tests/support/qt-print.h"
+#include "tests/support/table.h"
+#include "ui-agent/wizard/summary-text.h"
 
 namespace {
 

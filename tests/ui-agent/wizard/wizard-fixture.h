@@ -10,9 +10,9 @@
 
 #include <functional>
 
-#include "agent-test.h"
-#include "support/qt-print.h"
-#include "vell-message-sheet.h"
+#include "tests/ui-agent/agent-test.h"
+#include "tests/support/qt-print.h"
+#include "widgets/vell-message-sheet.h"
 
 namespace wizard_test {
 

@@ -10,16 +10,16 @@
 #include <QStackedWidget>
 #include <QTest>
 
-#include "core/global-connecter.h"
-#include "core/service-error-text.h"
-#include "core/status-store.h"
-#include "dpi-info.h"
-#include "string-display.h"
-#include "wizard-fixture.h"
-#include "wizard/nimbra-loading-frame.h"
-#include "wizard/summary-page.h"
-#include "wizard/welcome-page.h"
-#include "wizard/wizard.h"
+#include "ui-agent/core/global-connecter.h"
+#include "ui-agent/core/service-error-text.h"
+#include "ui-agent/core/status-store.h"
+#include "widgets/dpi-info.h"
+#include "ui-agent/core/string-display.h"
+#include "tests/ui-agent/wizard/wizard-fixture.h"
+#include "ui-agent/wizard/nimbra-loading-frame.h"
+#include "ui-agent/wizard/summary-page.h"
+#include "ui-agent/wizard/welcome-page.h"
+#include "ui-agent/wizard/wizard.h"
 
 namespace {
 
