@@ -510,8 +510,8 @@ QString text_by_key(const QString& key) {
 // ---- translations --------------------------------------------------------------------
 
 QStringList translation_languages() {
-  return {QStringLiteral("ger"), QStringLiteral("fre"), QStringLiteral("spn"), QStringLiteral("tha"),
-          QStringLiteral("cht"), QStringLiteral("chs"), QStringLiteral("jpn"), QStringLiteral("krn")};
+  // From resource/translations/languages.txt, by ui-agent/core/translations.cmake.
+  return QString::fromLatin1(NIMBRA_TRANSLATION_LANGUAGES).split(QLatin1Char(','));
 }
 
 QString translation_resource(const QString& language) {

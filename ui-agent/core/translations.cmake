@@ -5,8 +5,29 @@
 # are compiled by lrelease into <lang>.qm at build time and embedded into
 # agent_core as the Qt resources ":/<lang>.qm" that start-up loads.
 
-set(NIMBRA_LANGUAGES ger fre spn tha cht chs jpn krn)
 set(nimbra_ts_dir ${CMAKE_SOURCE_DIR}/resource/translations)
+
+# The languages: resource/translations/languages.txt ("<code> <locale>" lines)
+# is the one list; the agent gets it as NIMBRA_TRANSLATION_LANGUAGES
+# ("ger,fre,..."), and every listed language has its .ts file and no other.
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${nimbra_ts_dir}/languages.txt)
+file(STRINGS ${nimbra_ts_dir}/languages.txt nimbra_language_lines REGEX "^[a-z][a-z][a-z][ \t]")
+set(NIMBRA_LANGUAGES)
+foreach(line IN LISTS nimbra_language_lines)
+  string(SUBSTRING "${line}" 0 3 lang)
+  list(APPEND NIMBRA_LANGUAGES ${lang})
+endforeach()
+file(GLOB nimbra_ts_present RELATIVE ${nimbra_ts_dir} CONFIGURE_DEPENDS ${nimbra_ts_dir}/*.ts)
+list(TRANSFORM nimbra_ts_present REPLACE "\\.ts$" "")
+set(nimbra_ts_expected ${NIMBRA_LANGUAGES})
+list(SORT nimbra_ts_present)
+list(SORT nimbra_ts_expected)
+if(NOT nimbra_ts_present STREQUAL nimbra_ts_expected)
+  message(FATAL_ERROR "resource/translations: the .ts files (${nimbra_ts_present}) and "
+                      "languages.txt (${nimbra_ts_expected}) name different languages")
+endif()
+list(JOIN NIMBRA_LANGUAGES "," nimbra_languages_csv)
+target_compile_definitions(agent_core PRIVATE "NIMBRA_TRANSLATION_LANGUAGES=\"${nimbra_languages_csv}\"")
 set(nimbra_qm_dir ${CMAKE_CURRENT_BINARY_DIR}/translations)
 file(MAKE_DIRECTORY ${nimbra_qm_dir})
 
