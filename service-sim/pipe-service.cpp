@@ -12,9 +12,9 @@
 
 #include <chrono>
 
-#include "vantor-core/lib/json-access.h"
-#include "service-sim/sim-log.h"
 #include "ipc/win-ipc.h"
+#include "service-sim/sim-log.h"
+#include "vantor-core/lib/json-access.h"
 
 namespace sim {
 
@@ -87,18 +87,19 @@ PipeService::~PipeService() {
   delete impl_;
 }
 
-bool PipeService::start(std::string& error) {
+bool PipeService::start(std::string* error) {
   if (!recorder_.open(options_.record_path)) {
-    error = "cannot open the record file " + options_.record_path;
+    if (error) *error = "cannot open the record file " + options_.record_path;
     return false;
   }
   impl_->server.set_timeout_ms(options_.accept_timeout_ms);
   // Clients wait in the backlog while the workers are busy.
   impl_->server.set_backlog(16);
   if (impl_->server.create(options_.pipe_name) != 0) {
-    error = "cannot serve the pipe " + options_.pipe_name + " (" +
-            WinIpc::platform_pipe_name(options_.pipe_name) +
-            "): is another service running with the same NIMBRA_PIPE_NAMESPACE?";
+    if (error)
+      *error = "cannot serve the pipe " + options_.pipe_name + " (" +
+               WinIpc::platform_pipe_name(options_.pipe_name) +
+               "): is another service running with the same NIMBRA_PIPE_NAMESPACE?";
     return false;
   }
   stop_ = false;

@@ -21,10 +21,10 @@
 #include <utility>
 #include <vector>
 
-#include "service-sim/device-model.h"
-#include "logging/log-throttle.h"
-#include "service-sim/scenario.h"
 #include "ipc/win-ipc.h"
+#include "logging/log-throttle.h"
+#include "service-sim/device-model.h"
+#include "service-sim/scenario.h"
 
 namespace sim {
 
@@ -75,9 +75,10 @@ class PipeService {
   PipeService(const PipeService&) = delete;
   PipeService& operator=(const PipeService&) = delete;
 
-  // Creates the pipe and starts the thread; false with `error` filled when
-  // the pipe cannot be created (another service already serves the name).
-  bool start(std::string& error);
+  // Creates the pipe and starts the thread; false, with the reason in
+  // `*error` when given, when the record file or the pipe cannot be created
+  // (another service already serves the name).
+  bool start(std::string* error = nullptr);
   // Ends the thread (an exchange in progress is abandoned) and closes the pipe.
   void stop();
 

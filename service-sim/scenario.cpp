@@ -4,6 +4,7 @@
 #include <fstream>
 #include <set>
 #include <sstream>
+#include <utility>
 
 #include "vantor-core/lib/json-access.h"
 
@@ -199,6 +200,12 @@ void check_site(Reader& r, const Json::Value& site, const std::string& path) {
   r.object(site, "backup_policy", path);
 }
 
+// Fails with `why` put into `*error` when the caller wants it.
+bool failed(std::string* error, std::string why) {
+  if (error) *error = std::move(why);
+  return false;
+}
+
 }  // namespace
 
 Scenario default_scenario() {
@@ -230,24 +237,19 @@ Scenario default_scenario() {
 }
 
 bool parse_scenario(const std::string& text, const std::string& file_label, Scenario& out,
-                    std::string& error) {
-  error.clear();
+                    std::string* error) {
   Json::Value root;
   std::string parse_error;
-  if (!jsonx::parse(text, root, &parse_error)) {
-    error = "scenario " + file_label + ": not valid JSON: " + parse_error;
-    return false;
-  }
-  if (!root.isObject()) {
-    error = "scenario " + file_label + ": the top level must be an object";
-    return false;
-  }
+  if (!jsonx::parse(text, root, &parse_error))
+    return failed(error, "scenario " + file_label + ": not valid JSON: " + parse_error);
+  if (!root.isObject()) return failed(error, "scenario " + file_label + ": the top level must be an object");
+  std::string why;
   Scenario s = default_scenario();
   s.linked = false;
   s.name = file_label;
   s.description.clear();
   s.file = file_label;
-  Reader r(file_label, error);
+  Reader r(file_label, why);
   r.only(root, "",
          {"name", "description", "account", "proxy", "sites", "device", "schedule", "backup",
           "auto_backup_after_seconds", "bandwidth", "portal", "errors", "faults", "hostile",
@@ -404,17 +406,14 @@ bool parse_scenario(const std::string& text, const std::string& file_label, Scen
     s.initial_logs = logs;
   }
 
-  if (!r.ok()) return false;
+  if (!r.ok()) return failed(error, why);
   out = s;
   return true;
 }
 
-bool load_scenario(const std::string& path, Scenario& out, std::string& error) {
+bool load_scenario(const std::string& path, Scenario& out, std::string* error) {
   std::ifstream in(path, std::ios::binary);
-  if (!in) {
-    error = "scenario " + path + ": cannot be opened";
-    return false;
-  }
+  if (!in) return failed(error, "scenario " + path + ": cannot be opened");
   std::ostringstream text;
   text << in.rdbuf();
   if (!parse_scenario(text.str(), path, out, error)) return false;

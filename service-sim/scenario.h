@@ -99,12 +99,13 @@ struct Scenario {
   Json::Value initial_logs;  // array of {type, body, age_seconds}
 };
 
-// Parses scenario text. On failure returns false and puts one sentence naming
-// the file and the offending member into `error`.
+// Parses scenario text. On failure returns false, leaves `out` as it was and
+// puts one sentence naming the file and the offending member into `*error`
+// (when given).
 bool parse_scenario(const std::string& text, const std::string& file_label, Scenario& out,
-                    std::string& error);
+                    std::string* error = nullptr);
 // Reads and parses a file.
-bool load_scenario(const std::string& path, Scenario& out, std::string& error);
+bool load_scenario(const std::string& path, Scenario& out, std::string* error = nullptr);
 
 // The scenario used when none is named: one linked device, idle.
 Scenario default_scenario();

@@ -13,17 +13,17 @@
 #include <memory>
 #include <system_error>
 
+#include "ipc/win-ipc.h"
+#include "logging/logger.h"
 #include "service-sim/agent-client.h"
 #include "service-sim/device-model.h"
-#include "vantor-core/lib/env.h"
-#include "vantor-core/lib/json-access.h"
-#include "logging/logger.h"
 #include "service-sim/pipe-service.h"
 #include "service-sim/quit-signals.h"
 #include "service-sim/scenario.h"
 #include "service-sim/signin-server.h"
 #include "service-sim/sim-log.h"
-#include "ipc/win-ipc.h"
+#include "vantor-core/lib/env.h"
+#include "vantor-core/lib/json-access.h"
 
 namespace sim {
 
@@ -263,7 +263,7 @@ int run_serve(int argc, char** argv, const std::vector<std::string>& args) {
   Scenario scenario = default_scenario();
   if (o.has("scenario")) {
     std::string error;
-    if (!load_scenario(o.get("scenario"), scenario, error)) {
+    if (!load_scenario(o.get("scenario"), scenario, &error)) {
       std::fprintf(stderr, "nimbra-service-sim: %s\n", error.c_str());
       return 2;
     }
@@ -318,7 +318,7 @@ int run_serve(int argc, char** argv, const std::vector<std::string>& args) {
   po.answer_delay_ms = scenario.answer_delay_ms;
   PipeService pipe(model, po);
   std::string error;
-  if (!pipe.start(error)) {
+  if (!pipe.start(&error)) {
     std::fprintf(stderr, "nimbra-service-sim: %s\n", error.c_str());
     return 1;
   }

@@ -7,12 +7,12 @@
 #include <chrono>
 #include <string>
 
-#include "service-sim/agent-client.h"
 #include "bench/bench-report.h"
-#include "service-sim/device-model.h"
-#include "vantor-core/lib/json-access.h"
-#include "service-sim/pipe-service.h"
 #include "ipc/win-ipc.h"
+#include "service-sim/agent-client.h"
+#include "service-sim/device-model.h"
+#include "service-sim/pipe-service.h"
+#include "vantor-core/lib/json-access.h"
 
 namespace {
 
@@ -21,7 +21,7 @@ const std::string kRequest = "{\n   \"action\" : \"get_status\",\n   \"log_id\" 
 struct Service {
   Service() : model(make_scenario(), std::string(), std::string()), pipe(model, {}) {
     std::string error;
-    ok = pipe.start(error);
+    ok = pipe.start(&error);
     Json::Value r(Json::objectValue);
     r["action"] = "backup_now";
     model.handle(r);

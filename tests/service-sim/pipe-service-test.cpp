@@ -8,14 +8,14 @@
 #include <sstream>
 #include <thread>
 
-#include "tests/ui-agent/hostile/foreign-process.h"
+#include "ipc/win-ipc.h"
 #include "service-sim/agent-client.h"
 #include "service-sim/device-model.h"
 #include "service-sim/pipe-service.h"
 #include "tests/service-sim/sim-test-util.h"
 #include "tests/support/log-capture.h"
 #include "tests/support/temp-dir.h"
-#include "ipc/win-ipc.h"
+#include "tests/ui-agent/hostile/foreign-process.h"
 
 using namespace simtest;
 
@@ -31,7 +31,7 @@ class SimPipeTest : public ::testing::Test {
     o.accept_timeout_ms = 50;
     service_ = std::make_unique<sim::PipeService>(*model_, o);
     std::string error;
-    ASSERT_TRUE(service_->start(error)) << error;
+    ASSERT_TRUE(service_->start(&error)) << error;
   }
   void TearDown() override {
     if (service_) service_->stop();
@@ -159,7 +159,7 @@ TEST_F(SimPipeTest, ManyClientsWhileTheModelMovesAndASecondServiceIsRefused) {
   // Meanwhile a second service on the same name is refused, naming the way out.
   sim::PipeService second(*model_, {});
   std::string error;
-  EXPECT_FALSE(second.start(error));
+  EXPECT_FALSE(second.start(&error));
   EXPECT_THAT(error, ::testing::HasSubstr("NIMBRA_PIPE_NAMESPACE"));
   for (auto& t : clients) t.join();
   done = true;

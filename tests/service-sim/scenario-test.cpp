@@ -40,7 +40,7 @@ class SimEveryScenarioTest : public ::testing::TestWithParam<std::string> {};
 TEST_P(SimEveryScenarioTest, LoadsAndPlaysABackupToAResult) {
   sim::Scenario scenario;
   std::string error;
-  ASSERT_TRUE(sim::load_scenario(scenario_dir() + "/" + GetParam(), scenario, error)) << error;
+  ASSERT_TRUE(sim::load_scenario(scenario_dir() + "/" + GetParam(), scenario, &error)) << error;
   EXPECT_FALSE(scenario.description.empty());
   ASSERT_GT(scenario.sites.size(), 0u);
   ManualClock clock;
@@ -111,7 +111,7 @@ TEST_P(SimBadScenarioTest, RefusedWithAClearError) {
   sim::Scenario s;
   s.name = "untouched";
   std::string error;
-  EXPECT_FALSE(sim::parse_scenario(GetParam().first, "bad.json", s, error));
+  EXPECT_FALSE(sim::parse_scenario(GetParam().first, "bad.json", s, &error));
   EXPECT_THAT(error, ::testing::HasSubstr("bad.json"));
   EXPECT_THAT(error, ::testing::HasSubstr(GetParam().second));
   EXPECT_EQ(s.name, "untouched");  // nothing half-loaded
@@ -144,7 +144,7 @@ TEST(SimScenarios, MembersOverrideTheDefaults) {
   ASSERT_TRUE(sim::parse_scenario(
       R"({"device":{"linked":true,"quota":5000,"used_bytes":10},"backup":{"outcome":"partial","volumes":["X:"]},
           "faults":{"garbage_every":3},"hostile":true,"errors":{"get_auth":{"code":5,"times":2}}})",
-      "ok.json", s, error))
+      "ok.json", s, &error))
       << error;
   EXPECT_TRUE(s.linked && s.hostile);
   EXPECT_EQ(s.quota, 5000u);
