@@ -10,6 +10,12 @@
 // <state dir>/sim-state.json (linked or not, site, account type, client
 // bandwidth settings, last backup result, used bytes, the newest activity-log
 // entries and the log id counter).
+//
+// The class is implemented in one file per job: device-model.cpp (its state,
+// the activity log, notifications, observers), device-requests.cpp (handle()
+// and the answer to each action), device-backup.cpp (a backup's start,
+// progress, result; advance()) and device-persistence.cpp (the state file and
+// the upgrade's service-status file).
 
 #include <json/value.h>
 
@@ -43,6 +49,31 @@ inline constexpr int kBackupFinished = 7;
 inline constexpr int kStorageNearlyFull = 8;
 inline constexpr int kStorageFull = 9;
 }  // namespace notification
+
+// Activity-log event types the model writes.
+namespace event {
+inline constexpr int kTaskStart = 1101;
+inline constexpr int kTaskFinish = 1102;
+inline constexpr int kTaskCancel = 1103;
+inline constexpr int kTaskError = 1104;
+inline constexpr int kTaskPartial = 1108;
+inline constexpr int kTaskStartByEvent = 1115;
+inline constexpr int kTaskSameBackupExists = 1137;
+inline constexpr int kSignedIn = 5001;
+inline constexpr int kCollectDeviceInfo = 7001;
+inline constexpr int kSnapshotStart = 7002;
+inline constexpr int kSnapshotFinish = 7003;
+inline constexpr int kSnapshotError = 7004;
+inline constexpr int kUploadDeviceInfoStart = 7009;
+inline constexpr int kUploadDeviceInfoFinish = 7010;
+inline constexpr int kUploadVolumeStart = 7012;
+inline constexpr int kUploadVolumeFinish = 7013;
+inline constexpr int kUploadVolumeError = 7014;
+inline constexpr int kResumeCancel = 7086;
+inline constexpr int kSnapshotsStartAll = 7096;
+inline constexpr int kSnapshotsFinishAll = 7097;
+inline constexpr int kPlanQuotaExceeded = 8014;
+}  // namespace event
 
 // Milliseconds since the epoch; replaced by a hand-driven clock in tests.
 using Clock = std::function<std::int64_t()>;
@@ -152,10 +183,5 @@ class DeviceModel {
   std::map<std::string, int> error_uses_;
   std::vector<Json::Value> outbox_;
 };
-
-// The hostile service: the same answer with members of the wrong types
-// (numbers as strings, strings as numbers, bools as numbers, objects inside
-// arrays), so the agent's type-tolerant reading is exercised.
-Json::Value make_hostile(const Json::Value& answer);
 
 }  // namespace sim

@@ -13,6 +13,7 @@
 #include <chrono>
 
 #include "ipc/win-ipc.h"
+#include "service-sim/hostile-answer.h"
 #include "service-sim/sim-log.h"
 #include "vantor-core/lib/json-access.h"
 

@@ -7,6 +7,7 @@
 #include <set>
 
 #include "service-sim/device-model.h"
+#include "service-sim/hostile-answer.h"
 #include "tests/service-sim/sim-test-util.h"
 #include "tests/support/temp-dir.h"
 

@@ -1,23 +1,20 @@
 #pragma once
-// Every text the agent shows: the catalogue lookup, {name} placeholders,
-// byte sizes and the rendering of activity-log events.
+// Every text the agent shows: the catalogue lookup, the translations,
+// {name} placeholders and byte sizes. The activity-log event messages are
+// rendered by event-text.h on top of these.
 //
 //   label->setText(string_display::text(Str::btn_cancel));
 //   auto [number, unit] = string_display::format_size(bytes, false);
-//   QString tip = string_display::render_event_message(entry, false, 449);
 //
-// All functions run on the GUI thread (the event rendering measures text
-// with the application font).
-
-#include <json/value.h>
+// All functions run on the GUI thread.
 
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
 
 #include <optional>
+#include <vector>
 
-#include "ui-agent/core/log-entry.h"
 #include "ui-agent/catalogue/string-catalogue.h"
 
 class QTranslator;
@@ -74,30 +71,23 @@ SizeText format_size(quint64 bytes, bool decimal);
 // number + " " + unit
 QString format_size_text(quint64 bytes, bool decimal);
 
-// --- activity events ----------------------------------------------------
+// --- placeholders with their places (the event texts build on these) ---
 
-enum class EventKind {
-  Fixed,    // the catalogue text of one key, no parameters
-  Named,    // placeholders filled from named body members in a fixed order
-  Generic,  // {name} placeholders filled from the body members of that name
-  Unknown,
+// A value inserted into a text: its position and length in the result.
+struct Span {
+  int start;
+  int length;
 };
-
-// The message of one activity-log entry. Plain (rich false): the sentence
-// with its values, for tool tips; `limit` is ignored. Rich: the values
-// HTML-escaped (they are text, whatever markup they hold) in bold and the
-// sentence elided at the right to DPI * (limit - 20) pixels of
-// the application font (plus an allowance for the template's markup); a
-// value cut by the ellipsis stays bold as far as it is shown. The i-th value
-// a type lists lands on the i-th placeholder of its text, in one pass: a
-// value holding "%2" or braces is shown as it is. Members of the wrong type
-// read as empty, as missing ones do. An unknown type gives an empty text and
-// a warning line.
-QString render_event_message(const LogEntry& entry, bool rich, int limit);
-QString render_event_message(quint32 type, const Json::Value& body, bool rich, int limit);
-
-// What kind of event a type is, and its catalogue row (when known).
-EventKind event_kind(quint32 type);
-std::optional<Str> event_row(quint32 type);
+// The template with every placeholder replaced by its value as
+// expand_placeholders reads it, plain (neither escaped nor bold), and where
+// each value went appended to `spans`. The template's own text is copied as it
+// is and values are not looked at again, so a value holding "%1" or braces
+// stays literal.
+QString fill_placeholders(const QString& tmpl, const QJsonObject& values, std::vector<Span>& spans);
+// Wraps the spans in bold, HTML-escaped, keeping only the part of each span
+// that lies before `visible` (a span starting right at `visible` too when
+// `whole`); everything after is copied unchanged, the template's own text is
+// markup and stays as it is.
+QString wrap_bold(const QString& text, const std::vector<Span>& spans, int visible, bool whole);
 
 }  // namespace string_display

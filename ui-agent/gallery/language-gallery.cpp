@@ -14,11 +14,12 @@
 #include <algorithm>
 #include <memory>
 
+#include "ui-agent/core/event-text.h"
+#include "ui-agent/core/string-display.h"
+#include "ui-agent/gallery/screen-gallery.h"
 #include "ui-agent/tray/event-fit.h"
 #include "ui-agent/tray/relative-age.h"
 #include "widgets/dpi-info.h"
-#include "ui-agent/gallery/screen-gallery.h"
-#include "ui-agent/core/string-display.h"
 #include "widgets/style-manager.h"
 #include "widgets/vell-button.h"
 
@@ -82,11 +83,11 @@ std::vector<LogEntry> longest_events(size_t count) {
   std::vector<std::pair<int, LogEntry>> all;
   const QFontMetrics fm(QApplication::font());
   for (quint32 type = 1000; type <= 8300; ++type) {
-    if (string_display::event_kind(type) == string_display::EventKind::Unknown) continue;
+    if (event_text::kind_of(type) == event_text::Kind::Unknown) continue;
     LogEntry e;
     e.type = type;
     e.body = body;
-    all.push_back({fm.horizontalAdvance(string_display::render_event_message(e, false, 449)), e});
+    all.push_back({fm.horizontalAdvance(event_text::render(e, false, 449)), e});
   }
   std::sort(all.begin(), all.end(), [](const auto& a, const auto& b) { return a.first > b.first; });
   std::vector<LogEntry> out;

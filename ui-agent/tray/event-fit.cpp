@@ -5,10 +5,11 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ui-agent/core/event-text.h"
+#include "ui-agent/core/string-display.h"
+#include "ui-agent/tray/relative-age.h"
 #include "widgets/dpi-info.h"
 #include "widgets/style-manager.h"
-#include "ui-agent/tray/relative-age.h"
-#include "ui-agent/core/string-display.h"
 
 namespace event_fit {
 
@@ -132,7 +133,7 @@ Fitter::Result Fitter::fit(const LogEntry& entry) {
   QHash<int, QString> rendered;
   auto render = [&](int limit) -> const QString& {
     auto it = rendered.find(limit);
-    if (it == rendered.end()) it = rendered.insert(limit, string_display::render_event_message(entry, true, limit));
+    if (it == rendered.end()) it = rendered.insert(limit, event_text::render(entry, true, limit));
     return it.value();
   };
   auto fitsAt = [&](int limit) { return fits(render(limit)); };
@@ -156,7 +157,7 @@ Fitter::Result Fitter::fitLinear(const LogEntry& entry) {
   QString message;
   QSize size;
   auto fitsAt = [&](int limit) {
-    message = string_display::render_event_message(entry, true, limit);
+    message = event_text::render(entry, true, limit);
     size = measure(message);
     return within(size);
   };

@@ -1,8 +1,8 @@
 #pragma once
 // Fitting an activity event into a fixed number of lines.
 //
-// An event's rich message is elided to a width limit (string_display::
-// render_event_message); a label shows it word-wrapped. The text shown is the
+// An event's rich message is elided to a width limit (event_text::render);
+// a label shows it word-wrapped. The text shown is the
 // one rendered at the first limit of a descending series, from the top,
 // whose label is low enough: limits 354, 353, ... for the pop-up's two
 // lines of 177, and 1313, 1303, ... for the activity dialog's three lines of

@@ -2,9 +2,10 @@
 
 #include <QLabel>
 
-#include "widgets/dpi-info.h"
-#include "ui-agent/tray/relative-age.h"
+#include "ui-agent/core/event-text.h"
 #include "ui-agent/core/string-display.h"
+#include "ui-agent/tray/relative-age.h"
+#include "widgets/dpi-info.h"
 #include "widgets/web-link.h"
 
 LatestEventLine::LatestEventLine(QWidget* parent, const QString& prefix)
@@ -37,7 +38,7 @@ void LatestEventLine::refresh(qint64 now) {
   if (!entry_) return;
   if (!fitted_) {
     message_ = fitter_.fit(*entry_).message;
-    plain_ = string_display::render_event_message(*entry_, false, 449);
+    plain_ = event_text::render(*entry_, false, 449);
     fitted_ = true;
   }
   // Said again whenever the line is shown: the error page puts its own

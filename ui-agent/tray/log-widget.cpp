@@ -9,12 +9,13 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "logging/logger.h"
+#include "ui-agent/core/event-text.h"
+#include "ui-agent/core/string-display.h"
+#include "ui-agent/tray/relative-age.h"
 #include "widgets/accessible-text.h"
 #include "widgets/copyable-text.h"
 #include "widgets/dpi-info.h"
-#include "logging/logger.h"
-#include "ui-agent/tray/relative-age.h"
-#include "ui-agent/core/string-display.h"
 #include "widgets/style-manager.h"
 #include "widgets/vell-button.h"
 #include "widgets/web-link.h"
@@ -214,7 +215,7 @@ void LogWidget::fillRow(int row, const LogEntry& entry) {
   web_link::route(label, "activity link");
   label->resize(fitted.size);  // what adjustSize() gives, measured by the fit
 
-  const QString plain = string_display::render_event_message(entry, false, 449);
+  const QString plain = event_text::render(entry, false, 449);
   label->setAccessibleName(plain);
   LOG_DEBUG(vlog::kDefaultComponent, "activity row: %s", qUtf8Printable(plain));
   auto* item = new QTableWidgetItem;

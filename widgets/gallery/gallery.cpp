@@ -1,11 +1,13 @@
 // Renders contact sheets of the product's look to PNG files: every picture at
 // 1x and 2x, the tray icons on light and dark panels, and the widgets in their
-// states. Run offscreen: nimbra-gallery <output folder> [resource folder].
+// states, the message sheets. Run offscreen:
+//   nimbra-gallery <output folder> [resource folder] [--only area,...]
+// Areas: pictures, tray-icons, widgets, sheets; names it does not have are
+// left to the screen gallery (scripts/gallery passes --only to both).
 
 #include <QApplication>
 #include <QDir>
 #include <QFrame>
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -13,10 +15,10 @@
 #include <QPainter>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QTextEdit>
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <cstdio>
 #include <functional>
 #include <vector>
@@ -253,37 +255,21 @@ void renderWidgets() {
        QStringLiteral("widgets.png"));
 }
 
-// A message sheet over a masked window, as the wizard shows it.
-QImage sheetOverWindow(int type, const QString& text, const QString& info, bool relabel) {
+// A message sheet over a masked window of its own, with the buttons the
+// sheet's type gives (the agent's real sheets, relabelled and in their
+// windows, are in the screen gallery).
+QImage sheetOverWindow(VellMessageSheet::MessageType type, const QString& text, const QString& info) {
   auto* window = new QWidget;
   window->setFixedSize(620, 300);
   window->setStyleSheet("background: white;");
-  auto* l = new QVBoxLayout(window);
-  auto* title = new QLabel(QStringLiteral("Protect your device with Nimbra Backup"), window);
-  title->setStyleSheet(getStyleSheet("welcome_title"));
-  title->setAlignment(Qt::AlignCenter);
-  l->addWidget(title);
-  auto* start = new QPushButton(QStringLiteral("Let's Start"), window);
-  start->setStyleSheet(getStyleSheet("nimbra_button"));
-  l->addWidget(start, 0, Qt::AlignCenter);
   window->show();
   auto* s = new VellMessageSheet(type, window, true);
   s->setFixedWidth(480);
   s->setText(text, getStyleSheet("wizard_text_17px_1E2832"));
   if (!info.isEmpty()) s->setInformativeText(info, getStyleSheet("wizard_informative_text_15px_1E2832"));
-  if (relabel) {
-    if (QPushButton* b = s->button(QMessageBox::Discard)) {
-      b->setText(QStringLiteral("Not Now"));
-      b->setStyleSheet(getStyleSheet("nimbra_button_normal"));
-      b->setFixedSize(100, 32);
-    }
-    if (QPushButton* b = s->button(QMessageBox::Apply)) {
-      b->setText(QStringLiteral("OK"));
-      b->setStyleSheet(getStyleSheet("nimbra_button_2"));
-      b->setFixedSize(100, 32);
-    }
-  } else if (QPushButton* b = s->button(QMessageBox::Ok)) {
-    b->setStyleSheet(getStyleSheet("nimbra_button_2"));
+  for (QPushButton* b : s->findChildren<QPushButton*>()) {
+    const bool secondary = b == s->button(QMessageBox::Discard);
+    b->setStyleSheet(getStyleSheet(secondary ? "nimbra_button_normal" : "nimbra_button_2"));
     b->setFixedSize(100, 32);
   }
   VellMask::createMask(s, window, QColor(0, 0, 0, 20));
@@ -300,184 +286,59 @@ QImage sheetOverWindow(int type, const QString& text, const QString& info, bool 
 
 void renderSheets() {
   std::vector<std::vector<Cell>> rows;
+  rows.push_back({{"Notice (type 1), with informative text",
+                   sheetOverWindow(VellMessageSheet::Notice, QStringLiteral("A notice sheet"),
+                                   QStringLiteral("The informative text goes below the text, in the "
+                                                  "informative style, and wraps at the sheet's width."))}});
   rows.push_back(
-      {{"type 1 notice (sign-in)",
-        sheetOverWindow(1, QStringLiteral("Sign in on your browser"),
-                        QStringLiteral("We've opened a new browser tab for you to sign in. Then, we will "
-                                       "guide you to the next step."),
-                        false)}});
+      {{"Question (type 3)", sheetOverWindow(VellMessageSheet::Question,
+                                             QStringLiteral("A question sheet: two buttons"), QString())}});
   rows.push_back(
-      {{"type 3 question (relabelled buttons)",
-        sheetOverWindow(3,
-                        QStringLiteral("You're all set for backup. Do you want to back up this device "
-                                       "right now?"),
-                        QString(), true)}});
-  rows.push_back(
-      {{"type 2 error",
-        sheetOverWindow(2,
-                        QStringLiteral("Internet connection error. Check your Internet connection and "
-                                       "try again."),
-                        QString(), false)}});
+      {{"Error (type 2)", sheetOverWindow(VellMessageSheet::Error,
+                                          QStringLiteral("An error sheet with a text long enough to "
+                                                         "wrap onto a second line"),
+                                          QString())}});
   {
     VellMessageSheet box(VellMessageSheet::Error, nullptr, false);
-    box.setWindowTitle(QStringLiteral("Nimbra Backup"));
-    box.setText(QStringLiteral("This application is already opened by another user."));
+    box.setWindowTitle(QStringLiteral("Gallery"));
+    box.setText(QStringLiteral("An error sheet without a parent window."));
     QImage shot;
     QTimer::singleShot(0, [&box, &shot]() {
       shot = box.grab().toImage();
       box.quit();
     });
     box.exec();
-    rows.push_back({{"showWarningMsg (a window of its own)", shot}});
+    rows.push_back({{"Error without a parent (a window of its own)", shot}});
   }
   save(sheet(QStringLiteral("Message sheets over a masked window"), rows, QColor("#F3F5F8")),
        QStringLiteral("sheets.png"));
 }
 
-// The tray pop-up and the welcome page put together from the named pieces.
-void renderCompositions() {
-  std::vector<std::vector<Cell>> rows;
-  {
-    auto* outer = new QWidget;
-    outer->setObjectName("outer");
-    outer->setStyleSheet("QWidget#outer { background: #E9EDF2; }");
-    auto* ol = new QVBoxLayout(outer);
-    ol->setContentsMargins(16, 16, 16, 16);
-    auto* menu = new QFrame;
-    menu->setObjectName("TrayMenu");
-    menu->setStyleSheet(getStyleSheet("tray_menu"));
-    menu->setFixedSize(400, 232);
-    auto* v = new QVBoxLayout(menu);
-    v->setContentsMargins(12, 10, 12, 12);
-    auto* head = new QHBoxLayout;
-    auto* logo = new QLabel;
-    logo->setPixmap(ImageManager::getInstance()->pixmap("app_img", QSize(24, 24)));
-    auto* title = new QLabel("Nimbra Backup");
-    title->setStyleSheet(getStyleSheet("tray_title"));
-    auto* list = new VellIconButton("icn_list");
-    auto* user = new VellIconButton;
-    user->setText("J");
-    user->setStyleSheet(getStyleSheet("tray_user_icon"));
-    user->setFixedSize(24, 24);
-    head->addWidget(logo);
-    head->addSpacing(8);
-    head->addWidget(title);
-    head->addStretch();
-    head->addWidget(list);
-    head->addSpacing(6);
-    head->addWidget(user);
-    v->addLayout(head);
-    auto* div = new QFrame;
-    div->setFrameShape(QFrame::HLine);
-    div->setStyleSheet(getStyleSheet("hline_divider"));
-    v->addWidget(div);
-    auto* body = new QHBoxLayout;
-    auto* pic = new QLabel;
-    pic->setPixmap(ImageManager::getInstance()->pixmap("status_m_backing_up", QSize(48, 48)));
-    body->addWidget(pic, 0, Qt::AlignTop);
-    auto* col = new QVBoxLayout;
-    auto* phase = new QLabel("Backing up...");
-    phase->setStyleSheet(getStyleSheet("tray_status_display"));
-    auto* finish = new QLabel("Estimated to finish at 14:20");
-    finish->setStyleSheet(getStyleSheet("tray_finish_time_display"));
-    auto* bar = new QProgressBar;
-    bar->setRange(0, 10000);
-    bar->setValue(4200);
-    bar->setTextVisible(false);
-    bar->setFixedSize(296, 6);
-    bar->setStyleSheet(getStyleSheet("tray_progressbar"));
-    auto* processed = new QLabel("12.4 GB of 29.6 GB    42%");
-    col->addWidget(phase);
-    col->addWidget(finish);
-    col->addSpacing(6);
-    col->addWidget(bar);
-    col->addWidget(processed);
-    body->addLayout(col);
-    v->addLayout(body);
-    v->addStretch();
-    auto* box = new QFrame;
-    box->setObjectName("BackupScheduleInfoWidget");
-    box->setStyleSheet(
-        "QFrame#BackupScheduleInfoWidget {border-radius: 4px; background-color: rgba(171,181,194,0.1);}");
-    auto* bl = new QGridLayout(box);
-    bl->addWidget(new QLabel("Last backup:"), 0, 0);
-    bl->addWidget(new QLabel("2026/11/20 23:00"), 0, 1);
-    bl->addWidget(new QLabel("Next backup:"), 1, 0);
-    bl->addWidget(new QLabel("2026/11/21 23:00"), 1, 1);
-    v->addWidget(box);
-    ol->addWidget(menu);
-    rows.push_back(
-        {{"tray pop-up (tray_menu, tray_title, status_m_backing_up, tray_progressbar)", grabWidget(outer)}});
-    delete outer;
-  }
-  {
-    std::vector<Cell> row;
-    for (const char* s : {"status_m_idle", "status_m_done", "status_m_cancel", "status_m_error"}) {
-      auto* w = new QFrame;
-      w->setObjectName("TrayMenu");
-      w->setStyleSheet(getStyleSheet("tray_menu"));
-      auto* l = new QHBoxLayout(w);
-      auto* pic = new QLabel;
-      pic->setPixmap(ImageManager::getInstance()->pixmap(s, QSize(48, 48)));
-      auto* t = new QLabel(QString(s) == "status_m_idle"     ? "Ready"
-                           : QString(s) == "status_m_done"   ? "Successful"
-                           : QString(s) == "status_m_cancel" ? "Partially Successful"
-                                                             : "Failed");
-      t->setStyleSheet(getStyleSheet("tray_status_display"));
-      l->addWidget(pic);
-      l->addWidget(t);
-      l->addStretch();
-      w->setFixedWidth(260);
-      row.push_back({s, grabWidget(w)});
-      delete w;
-    }
-    rows.push_back(row);
-  }
-  {
-    auto* page = new QWidget;
-    page->setFixedSize(900, 540);
-    page->setStyleSheet("background: white;");
-    auto* v = new QVBoxLayout(page);
-    v->setContentsMargins(80, 40, 80, 40);
-    auto* ill = new QLabel;
-    ill->setPixmap(getGlobalImage("wz_ill_backup_agent"));
-    ill->setAlignment(Qt::AlignCenter);
-    auto* title = new QLabel("Protect your device with Nimbra Backup");
-    title->setStyleSheet(getStyleSheet("welcome_title"));
-    title->setAlignment(Qt::AlignCenter);
-    auto* intro = new QLabel(
-        "<div style=\"line-height:24px;\">Nimbra Backup provides protection for the entire device. All data, "
-        "applications, and system configurations will be backed up according to your schedules.</div>");
-    intro->setWordWrap(true);
-    intro->setAlignment(Qt::AlignCenter);
-    intro->setStyleSheet(getStyleSheet("welcome_description"));
-    auto* start = new QPushButton("Let's Start");
-    start->setStyleSheet(getStyleSheet("nimbra_button"));
-    v->addWidget(ill);
-    v->addSpacing(16);
-    v->addWidget(title);
-    v->addWidget(intro);
-    v->addSpacing(24);
-    v->addWidget(start, 0, Qt::AlignCenter);
-    v->addStretch();
-    rows.push_back({{"welcome page (wz_ill_backup_agent, welcome_title, welcome_description, nimbra_button)",
-                     grabWidget(page)}});
-    delete page;
-  }
-  save(sheet(QStringLiteral("Pieces put together"), rows, QColor("#F3F5F8")),
-       QStringLiteral("compositions.png"));
-}
+struct Area {
+  const char* name;
+  void (*render)();
+};
+// The areas in the order they are rendered; `--only` picks some by name.
+constexpr Area kAreas[] = {{"pictures", renderPictures},
+                           {"tray-icons", renderTray},
+                           {"widgets", renderWidgets},
+                           {"sheets", renderSheets}};
 
 }  // namespace
 
 int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication app(argc, argv);
-  g_out = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QDir::currentPath() + QStringLiteral("/gallery");
+  QStringList args = QCoreApplication::arguments().mid(1);
+  QStringList only;
+  if (const int at = args.indexOf(QStringLiteral("--only")); at >= 0) {
+    if (at + 1 < args.size()) only = args.at(at + 1).split(QLatin1Char(','), Qt::SkipEmptyParts);
+    args.erase(args.begin() + at, args.begin() + std::min<int>(at + 2, args.size()));
+  }
+  g_out = !args.isEmpty() ? args.at(0) : QDir::currentPath() + QStringLiteral("/gallery");
   QDir().mkpath(g_out);
-  const QString resources = argc > 2
-                                ? QString::fromLocal8Bit(argv[2])
-                                : QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../resource");
+  const QString resources =
+      args.size() > 1 ? args.at(1) : QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../resource");
   UIPathManager::getInstance()->setPath(QStringLiteral("resource_path"), resources);
   app.setStyleSheet(QStringLiteral("QLabel { color: #505A64; }"));
   QFont font(QStringLiteral("Arial"), 9);
@@ -485,10 +346,8 @@ int main(int argc, char** argv) {
   ImageManager::getInstance()->initialize(0);
   StyleManager::getInstance()->initialize({resources + QStringLiteral("/agent.stylesheet"),
                                            resources + QStringLiteral("/component.business.stylesheet")});
-  renderPictures();
-  renderTray();
-  renderWidgets();
-  renderSheets();
-  renderCompositions();
+  for (const Area& area : kAreas) {
+    if (only.isEmpty() || only.contains(QLatin1String(area.name))) area.render();
+  }
   return 0;
 }

@@ -14,6 +14,7 @@
 #include <cstdio>
 
 #include "bench/bench-report.h"
+#include "ui-agent/core/event-text.h"
 #include "ui-agent/core/string-display.h"
 
 namespace {
@@ -31,13 +32,13 @@ Json::Value body() {
 
 // The same sentence as the rendering elides, measured with the same font.
 QString plain_sentence() {
-  return string_display::render_event_message(kType, body(), false, kLimit);
+  return event_text::render(kType, body(), false, kLimit);
 }
 
 void BM_RenderEventRich(benchmark::State& state) {
   const Json::Value b = body();
   for (auto _ : state) {
-    benchmark::DoNotOptimize(string_display::render_event_message(kType, b, true, kLimit));
+    benchmark::DoNotOptimize(event_text::render(kType, b, true, kLimit));
   }
 }
 BENCHMARK(BM_RenderEventRich);
@@ -79,15 +80,13 @@ int main(int argc, char** argv) {
   for (int round = 0; round < 15; ++round) {
     render = std::min(
         render,
-        ns_per_call(
-            [&] { benchmark::DoNotOptimize(string_display::render_event_message(kType, b, true, kLimit)); },
-            kCalls));
+        ns_per_call([&] { benchmark::DoNotOptimize(event_text::render(kType, b, true, kLimit)); }, kCalls));
     elide = std::min(
         elide,
         ns_per_call([&] { benchmark::DoNotOptimize(fm.elidedText(text, Qt::ElideRight, kLimit - 20, 0)); },
                     kCalls));
   }
-  std::printf("render_event_message rich: %.0f ns/call, elidedText: %.0f ns/call\n", render, elide);
+  std::printf("event_text::render rich: %.0f ns/call, elidedText: %.0f ns/call\n", render, elide);
   bench_report::report("rich event message / one elidedText (x)", render / elide, "x", 1.5, false);
   return bench_report::report_summary();
 }

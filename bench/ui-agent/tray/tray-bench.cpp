@@ -17,13 +17,14 @@
 #include <functional>
 
 #include "bench/bench-report.h"
+#include "ui-agent/core/event-text.h"
 #include "ui-agent/core/log-entry.h"
-#include "widgets/image-manager.h"
 #include "ui-agent/core/string-display.h"
-#include "widgets/style-manager.h"
 #include "ui-agent/tray/event-fit.h"
 #include "ui-agent/tray/log-widget.h"
 #include "ui-agent/tray/tray-menu.h"
+#include "widgets/image-manager.h"
+#include "widgets/style-manager.h"
 #include "widgets/ui-path-manager.h"
 
 namespace {
@@ -59,8 +60,8 @@ LogEntry longestEntry() {
   int longest = -1;
   const Json::Value body = longBody();
   for (quint32 type = 1000; type <= 8300; ++type) {
-    if (string_display::event_kind(type) == string_display::EventKind::Unknown) continue;
-    const int n = string_display::render_event_message(type, body, false, 449).size();
+    if (event_text::kind_of(type) == event_text::Kind::Unknown) continue;
+    const int n = event_text::render(type, body, false, 449).size();
     if (n > longest) {
       longest = n;
       best = entryOf(1, type, body);
@@ -73,7 +74,7 @@ LogEntry longestEntry() {
 QList<LogEntry> mixedEntries(quint64 first) {
   std::vector<quint32> types;
   for (quint32 type = 1000; type <= 8300; ++type)
-    if (string_display::event_kind(type) != string_display::EventKind::Unknown) types.push_back(type);
+    if (event_text::kind_of(type) != event_text::Kind::Unknown) types.push_back(type);
   Json::Value shortBody(Json::objectValue);
   shortBody["volume_name"] = "C:";
   shortBody["path"] = "C:\\Users";
@@ -165,7 +166,7 @@ int main(int argc, char** argv) {
 
   const LogEntry longest = longestEntry();
   std::printf("longest message: type %u, %d characters\n", longest.type,
-              string_display::render_event_message(longest, false, 449).size());
+              event_text::render(longest, false, 449).size());
   for (double scale : {1.0, 2.0}) {
     setScale(scale);
     auto fitter = event_fit::Fitter::tray();

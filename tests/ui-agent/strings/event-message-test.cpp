@@ -12,11 +12,12 @@
 #include <cmath>
 #include <map>
 
-#include "tests/ui-agent/agent-test.h"
-#include "ui-agent/core/log-entry.h"
-#include "widgets/dpi-info.h"
-#include "ui-agent/core/string-display.h"
 #include "tests/support/table.h"
+#include "tests/ui-agent/agent-test.h"
+#include "ui-agent/core/event-text.h"
+#include "ui-agent/core/log-entry.h"
+#include "ui-agent/core/string-display.h"
+#include "widgets/dpi-info.h"
 
 using namespace string_display;
 using agent_test::parse;
@@ -95,7 +96,7 @@ bool well_formed(const QString& rich) {
 // One activity event type as event-types.txt lists it.
 struct EventRow {
   quint32 type = 0;
-  EventKind kind = EventKind::Unknown;
+  event_text::Kind kind = event_text::Kind::Unknown;
   QStringList values;  // named kind: members in the order they are supplied; "-" a fixed value
 };
 void PrintTo(const EventRow& row, std::ostream* os) {
@@ -107,10 +108,10 @@ std::vector<EventRow> event_rows() {
   for (const nimbra_test::TableRow& line : nimbra_test::read_table("ui-agent/strings/event-types.txt", 2)) {
     const QString kind = QString::fromStdString(line[0]);
     for (const QString& type : QString::fromStdString(line[1]).split(QLatin1Char(' '))) {
-      EventRow row{type.toUInt(), EventKind::Generic, {}};
-      if (kind == QLatin1String("fixed")) row.kind = EventKind::Fixed;
+      EventRow row{type.toUInt(), event_text::Kind::Generic, {}};
+      if (kind == QLatin1String("fixed")) row.kind = event_text::Kind::Fixed;
       if (kind.startsWith(QLatin1String("named:"))) {
-        row.kind = EventKind::Named;
+        row.kind = event_text::Kind::Named;
         row.values = kind.mid(6).split(QLatin1Char(','));
       }
       rows.push_back(row);
@@ -122,13 +123,13 @@ std::vector<EventRow> event_rows() {
 // Exactly the listed types are known, each of its kind (a type moved by one
 // in the product's table becomes unknown here).
 TEST(EventTypes, TheListedOnesAreKnownEveryOtherIsNot) {
-  std::map<quint32, EventKind> listed;
+  std::map<quint32, event_text::Kind> listed;
   for (const EventRow& row : event_rows()) listed[row.type] = row.kind;
   ASSERT_EQ(listed.size(), 116u);
   for (quint32 type = 0; type < 10000; ++type) {
     const auto it = listed.find(type);
-    ASSERT_EQ(event_kind(type), it == listed.end() ? EventKind::Unknown : it->second) << type;
-    ASSERT_EQ(event_row(type).has_value(), it != listed.end()) << type;
+    ASSERT_EQ(event_text::kind_of(type), it == listed.end() ? event_text::Kind::Unknown : it->second) << type;
+    ASSERT_EQ(event_text::row_of(type).has_value(), it != listed.end()) << type;
   }
 }
 
@@ -136,13 +137,13 @@ class EventTable : public ::testing::TestWithParam<EventRow> {};
 
 TEST_P(EventTable, ValuesLandInTheListedOrderAndWrongTypesReadAsEmpty) {
   const EventRow& row = GetParam();
-  ASSERT_TRUE(event_row(row.type).has_value());
-  const QString tmpl = text(*event_row(row.type));
+  ASSERT_TRUE(event_text::row_of(row.type).has_value());
+  const QString tmpl = text(*event_text::row_of(row.type));
   ASSERT_FALSE(tmpl.isEmpty());
   // Named: the listed members ("-" the one value not taken from the body);
   // generic: the member named by each placeholder; fixed: none.
   QStringList members = row.values;
-  if (row.kind == EventKind::Generic) {
+  if (row.kind == event_text::Kind::Generic) {
     static const QRegularExpression re(QStringLiteral("\\{([^{}]*)\\}"));
     for (auto it = re.globalMatch(tmpl); it.hasNext();) members << it.next().captured(1);
   }
@@ -156,11 +157,11 @@ TEST_P(EventTable, ValuesLandInTheListedOrderAndWrongTypesReadAsEmpty) {
     body[members[i].toStdString()] = values.last().toStdString();
     wrong[members[i].toStdString()] = Json::Value(Json::arrayValue);
   }
-  EXPECT_EQ(render_event_message(row.type, body, false, 449), fill_in_order(tmpl, values, false));
-  EXPECT_EQ(render_event_message(row.type, body, true, kWide), fill_in_order(tmpl, values, true));
+  EXPECT_EQ(event_text::render(row.type, body, false, 449), fill_in_order(tmpl, values, false));
+  EXPECT_EQ(event_text::render(row.type, body, true, kWide), fill_in_order(tmpl, values, true));
   for (const Json::Value& hostile :
        {Json::Value(Json::objectValue), wrong, parse("[1, 2]"), Json::Value("x")})
-    EXPECT_EQ(render_event_message(row.type, hostile, false, 449), fill_in_order(tmpl, empty, false));
+    EXPECT_EQ(event_text::render(row.type, hostile, false, 449), fill_in_order(tmpl, empty, false));
 
   // Markup in every value is text in the rich rendering (escaped inside the
   // bold) and stays as it is in the plain one; at any width nothing of it
@@ -173,10 +174,10 @@ TEST_P(EventTable, ValuesLandInTheListedOrderAndWrongTypesReadAsEmpty) {
     escaped << raw.last().toHtmlEscaped();
     if (!fixed_value) markup_body[members[i].toStdString()] = kMarkup.toStdString();
   }
-  EXPECT_EQ(render_event_message(row.type, markup_body, false, 449), fill_in_order(tmpl, raw, false));
-  EXPECT_EQ(render_event_message(row.type, markup_body, true, kWide), fill_in_order(tmpl, escaped, true));
+  EXPECT_EQ(event_text::render(row.type, markup_body, false, 449), fill_in_order(tmpl, raw, false));
+  EXPECT_EQ(event_text::render(row.type, markup_body, true, kWide), fill_in_order(tmpl, escaped, true));
   for (int limit : {60, 150, 354, kWide}) {
-    const LiveMarkup live = live_markup(render_event_message(row.type, markup_body, true, limit));
+    const LiveMarkup live = live_markup(event_text::render(row.type, markup_body, true, limit));
     EXPECT_EQ(live.images, 0) << limit;
     EXPECT_EQ(live.evil_links, 0) << limit;
   }
@@ -184,14 +185,14 @@ TEST_P(EventTable, ValuesLandInTheListedOrderAndWrongTypesReadAsEmpty) {
   // Every elided rendering is well-formed, down to limits below 0: a cut
   // never falls inside a tag, and what it leaves open is closed.
   for (int limit = 1313; limit >= -300; limit -= 7) {
-    const QString rich = render_event_message(row.type, body, true, limit);
+    const QString rich = event_text::render(row.type, body, true, limit);
     ASSERT_TRUE(well_formed(rich)) << limit << ": " << rich.toStdString();
   }
   // A megabyte value is cut to a sane length, ending in an ellipsis.
   Json::Value huge = body;
   for (const QString& member : members)
     if (member != QLatin1String("-")) huge[member.toStdString()] = std::string(1 << 20, 'x');
-  const QString plain = render_event_message(row.type, huge, false, 449);
+  const QString plain = event_text::render(row.type, huge, false, 449);
   EXPECT_LE(plain.size(), tmpl.size() + 1100 * members.size());
   if (fill_in_order(tmpl, values, false) != fill_in_order(tmpl, empty, false)) {
     EXPECT_TRUE(plain.contains(QStringLiteral("xxx") + kEllipsis)) << plain.left(80).toStdString();
@@ -211,13 +212,13 @@ TEST(EventMessageWidth, BudgetHoldsBackTwentyLogicalPixelsAndScalesWithTheDispla
   ASSERT_GT(w, 0);
   {
     nimbra_test::ScopedEnv scale("NIMBRA_UI_SCALE", "1");
-    EXPECT_EQ(render_event_message(8002, Json::Value(), true, 20 + w), full);
-    const QString cut = render_event_message(8002, Json::Value(), true, 19 + w);
+    EXPECT_EQ(event_text::render(8002, Json::Value(), true, 20 + w), full);
+    const QString cut = event_text::render(8002, Json::Value(), true, 19 + w);
     EXPECT_TRUE(cut.endsWith(kEllipsis) && full.startsWith(cut.chopped(1))) << cut.toStdString();
-    EXPECT_TRUE(render_event_message(8002, Json::Value(), true, 20 + (w * 2) / 3).endsWith(kEllipsis));
+    EXPECT_TRUE(event_text::render(8002, Json::Value(), true, 20 + (w * 2) / 3).endsWith(kEllipsis));
   }
   nimbra_test::ScopedEnv scale("NIMBRA_UI_SCALE", "2");
-  EXPECT_EQ(render_event_message(8002, Json::Value(), true, 20 + (w * 2) / 3), full);
+  EXPECT_EQ(event_text::render(8002, Json::Value(), true, 20 + (w * 2) / 3), full);
 }
 
 TEST(EventMessageWidth, ElisionKeepsBoldTagsBalanced) {
@@ -227,20 +228,20 @@ TEST(EventMessageWidth, ElisionKeepsBoldTagsBalanced) {
   // Cut inside the first value ("Error code <volume>..."): the part still shown stays bold.
   const int limit = 20 + static_cast<int>(fm.horizontalAdvance(QStringLiteral("Error code A very long")) /
                                           DPIinfo::getDPI());
-  const QString rich = render_event_message(7038, body, true, limit);
+  const QString rich = event_text::render(7038, body, true, limit);
   ASSERT_TRUE(rich.endsWith(kEllipsis)) << rich.toStdString();
   EXPECT_EQ(rich.count(QStringLiteral("<b>")), rich.count(QStringLiteral("</b>")));
   EXPECT_TRUE(rich.startsWith(QStringLiteral("Error code <b>A"))) << rich.toStdString();
   EXPECT_FALSE(rich.contains(QStringLiteral("42")));
   QString visible = rich;
   visible.remove(QStringLiteral("<b>")).remove(QStringLiteral("</b>"));
-  EXPECT_TRUE(render_event_message(7038, body, false, 449).startsWith(visible.chopped(1)));
+  EXPECT_TRUE(event_text::render(7038, body, false, 449).startsWith(visible.chopped(1)));
 }
 
 TEST(EventMessageWidth, MarkupOfTheTemplateIsAllowedFor) {
   // 7077's text holds a link: its tags do not count against the width.
   const Json::Value body = parse(R"({"error_code": "7"})");
-  const QString filled = render_event_message(7077, body, false, 449);
+  const QString filled = event_text::render(7077, body, false, 449);
   ASSERT_TRUE(filled.contains(QStringLiteral("</a>")));
   const QFontMetrics fm(QApplication::font());
   QString tmpl = text(Str::windows_read_snapshot_error);
@@ -253,7 +254,7 @@ TEST(EventMessageWidth, MarkupOfTheTemplateIsAllowedFor) {
   const int full_width = fm.horizontalAdvance(filled);
   int limit = 20 + static_cast<int>(std::ceil((full_width - allowance) / dpi));
   while (budget(limit) + allowance < full_width) ++limit;
-  const QString rich = render_event_message(7077, body, true, limit);
+  const QString rich = event_text::render(7077, body, true, limit);
   EXPECT_FALSE(rich.endsWith(kEllipsis)) << rich.toStdString();
   EXPECT_TRUE(rich.contains(QStringLiteral("</a>")));
   EXPECT_TRUE(rich.contains(QStringLiteral("<b>7</b>")));
@@ -266,12 +267,12 @@ TEST(EventMessage, LogEntryOverloadReadsWrongTypesAsZero) {
       parse(R"({"id": 9, "time": 1700000000, "type": 7002, "body": {"volume_name": "E:"}})"));
   EXPECT_EQ(entry.id, 9u);
   EXPECT_EQ(entry.time, 1700000000u);
-  EXPECT_EQ(render_event_message(entry, false, 449), QStringLiteral("Starting to take a snapshot for E:."));
+  EXPECT_EQ(event_text::render(entry, false, 449), QStringLiteral("Starting to take a snapshot for E:."));
   entry = LogEntry::fromJson(parse(R"({"id": "9", "time": -1, "type": "7002", "body": 3})"));
   EXPECT_EQ(entry.id, 0u);
   EXPECT_EQ(entry.time, 0u);
   EXPECT_EQ(entry.type, 0u);
-  EXPECT_TRUE(render_event_message(entry, false, 449).isEmpty());
+  EXPECT_TRUE(event_text::render(entry, false, 449).isEmpty());
 }
 
 class UnknownEvent : public ::testing::TestWithParam<quint32> {};
@@ -279,12 +280,12 @@ class UnknownEvent : public ::testing::TestWithParam<quint32> {};
 TEST_P(UnknownEvent, EmptyTextAndOneWarningLine) {
   const quint32 type = GetParam();
   agent_test::LogCapture log;
-  EXPECT_EQ(event_kind(type), EventKind::Unknown);
-  EXPECT_FALSE(event_row(type).has_value());
-  EXPECT_TRUE(render_event_message(type, parse(R"({"volume_name": "C:"})"), true, 449).isEmpty());
+  EXPECT_EQ(event_text::kind_of(type), event_text::Kind::Unknown);
+  EXPECT_FALSE(event_text::row_of(type).has_value());
+  EXPECT_TRUE(event_text::render(type, parse(R"({"volume_name": "C:"})"), true, 449).isEmpty());
   const std::string text = log.text();
   const std::string line = "unknown log type: " + std::to_string(static_cast<int>(type)) + "\n";
-  EXPECT_THAT(text, ::testing::HasSubstr("[WARNIN][string-display.cpp:"));
+  EXPECT_THAT(text, ::testing::HasSubstr("[WARNIN][event-text.cpp:"));
   EXPECT_THAT(text, ::testing::HasSubstr(line));
   EXPECT_EQ(text.find(line), text.rfind(line)) << "one line only";
 }

@@ -7,11 +7,12 @@
 
 #include <string>
 
+#include "tests/support/table.h"
 #include "tests/ui-agent/agent-test.h"
+#include "ui-agent/core/event-text.h"
 #include "ui-agent/core/notification-text.h"
 #include "ui-agent/core/string-display.h"
 #include "widgets/style-manager.h"
-#include "tests/support/table.h"
 
 using namespace string_display;
 
@@ -40,7 +41,7 @@ TEST_P(Texts, AreWhatTheTableSays) {
   } else if (row[0] == "event") {
     const QStringList how = QString::fromStdString(row[1]).split('|');
     ASSERT_EQ(how.size(), 3);
-    got = render_event_message(how[0].toUInt(), agent_test::parse(row[2]), how[1] == "1", how[2].toInt());
+    got = event_text::render(how[0].toUInt(), agent_test::parse(row[2]), how[1] == "1", how[2].toInt());
   } else {
     FAIL() << "no function " << row[0];
   }

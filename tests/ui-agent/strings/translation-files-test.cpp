@@ -12,8 +12,9 @@
 
 #include <map>
 
-#include "ui-agent/core/string-display.h"
 #include "tests/support/qt-print.h"
+#include "ui-agent/core/event-text.h"
+#include "ui-agent/core/string-display.h"
 
 namespace {
 
@@ -117,8 +118,8 @@ TEST_P(TranslationFile, NamedEventsKeepTheOrderOfTheirPlaceholders) {
   for (const Message& m : read_ts(GetParam())) translations.insert(m.source, m.translation);
   int checked = 0;
   for (quint32 type = 1000; type <= 8300; ++type) {
-    if (event_kind(type) != EventKind::Named) continue;
-    const QString source = source_text(*event_row(type));
+    if (event_text::kind_of(type) != event_text::Kind::Named) continue;
+    const QString source = source_text(*event_text::row_of(type));
     const QStringList order = placeholders_in_order(source);
     if (order.size() < 2) continue;
     ++checked;

@@ -10,10 +10,11 @@
 
 #include <map>
 
+#include "tests/support/qt-print.h"
 #include "tests/ui-agent/agent-test.h"
+#include "ui-agent/core/event-text.h"
 #include "ui-agent/core/language-font.h"
 #include "ui-agent/core/string-display.h"
-#include "tests/support/qt-print.h"
 #include "ui-agent/tray/event-fit.h"
 
 namespace {
@@ -35,9 +36,9 @@ Json::Value sample_body() {
 std::vector<quint32> types_with_values() {
   std::vector<quint32> types;
   for (quint32 type = 1000; type <= 8300; ++type) {
-    const EventKind kind = event_kind(type);
-    if (kind != EventKind::Named && kind != EventKind::Generic) continue;
-    if (!source_text(*event_row(type)).contains(QLatin1Char('{'))) continue;
+    const event_text::Kind kind = event_text::kind_of(type);
+    if (kind != event_text::Kind::Named && kind != event_text::Kind::Generic) continue;
+    if (!source_text(*event_text::row_of(type)).contains(QLatin1Char('{'))) continue;
     types.push_back(type);
   }
   return types;
@@ -83,7 +84,7 @@ std::map<quint32, Fit> fit_all() {
   entry.body = sample_body();
   for (quint32 type : types_with_values()) {
     entry.type = type;
-    const QStringList values = bold_values(render_event_message(entry, true, 100000));
+    const QStringList values = bold_values(event_text::render(entry, true, 100000));
     if (values.isEmpty()) continue;  // placeholders whose members never hold text
     fits[type] = {values, fit_with(popup, entry), fit_with(dialog, entry)};
   }

@@ -9,9 +9,10 @@
 
 #include <QLabel>
 
-#include "ui-agent/core/string-display.h"
 #include "tests/support/temp-dir.h"
 #include "tests/ui-agent/tray/tray-fixture.h"
+#include "ui-agent/core/event-text.h"
+#include "ui-agent/core/string-display.h"
 #include "ui-agent/tray/event-fit.h"
 #include "ui-agent/tray/latest-event.h"
 
@@ -51,7 +52,7 @@ TEST(FitSearch, FindsTheFirstFittingLimitOfAnyThreshold) {
 std::vector<quint32> eventTypes() {
   std::vector<quint32> types;
   for (quint32 type = 1000; type <= 8300; ++type)
-    if (string_display::event_kind(type) != string_display::EventKind::Unknown) types.push_back(type);
+    if (event_text::kind_of(type) != event_text::Kind::Unknown) types.push_back(type);
   return types;
 }
 

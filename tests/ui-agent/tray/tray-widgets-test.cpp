@@ -21,18 +21,19 @@
 #include <QToolButton>
 #include <memory>
 
-#include "ui-agent/core/global-connecter.h"
-#include "ui-agent/core/service-error-text.h"
-#include "ui-agent/dialogs/settings-widget.h"
-#include "widgets/dpi-info.h"
-#include "ui-agent/core/string-display.h"
 #include "tests/support/temp-dir.h"
 #include "tests/ui-agent/tray/tray-fixture.h"
+#include "ui-agent/core/event-text.h"
+#include "ui-agent/core/global-connecter.h"
+#include "ui-agent/core/service-error-text.h"
+#include "ui-agent/core/string-display.h"
+#include "ui-agent/dialogs/settings-widget.h"
 #include "ui-agent/tray/log-widget.h"
 #include "ui-agent/tray/quota-info-widget.h"
 #include "ui-agent/tray/tray-menu.h"
 #include "ui-agent/tray/tray-progress-widget.h"
 #include "ui-agent/tray/tray-status-widget.h"
+#include "widgets/dpi-info.h"
 #include "widgets/vell-label.h"
 
 using agent_test::accessibleName;
@@ -112,7 +113,7 @@ TEST_F(TrayWidgets, StatusPageResultErrorPageAndRepeatedAnswers) {
   EXPECT_EQ(relayed(spy), TrayError);
   EXPECT_EQ(event->width(), DPIinfo::scaled(177));
   EXPECT_TRUE(age->text().contains(QStringLiteral("Just now")));
-  const QString plain = string_display::render_event_message(entry(8), false, 449);
+  const QString plain = event_text::render(entry(8), false, 449);
   EXPECT_EQ(event->toolTip(), plain);
   EXPECT_EQ(accessibleName(event), plain);
 }
@@ -294,8 +295,7 @@ TEST_F(TrayWidgets, ActivityDialogRowsEscapeAndCopy) {
   ASSERT_NE(label, nullptr);
   EXPECT_LE(label->heightForWidth(label->width()), 60);
   EXPECT_TRUE(label->text().contains(QChar(0x2026))) << label->text().toStdString();
-  EXPECT_EQ(table->item(0, 1)->toolTip(),
-            string_display::render_event_message(7039, parse(body), false, 449));
+  EXPECT_EQ(table->item(0, 1)->toolTip(), event_text::render(7039, parse(body), false, 449));
   QGuiApplication::clipboard()->clear();
   table->selectRow(0);
   QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
