@@ -8,27 +8,27 @@
 
 #include <stdexcept>
 
+#include "logging/logger.h"
 #include "ui-agent/app/client-manager-rules.h"
-#include "widgets/component-strings.h"
 #include "ui-agent/core/get-status-worker.h"
 #include "ui-agent/core/global-connecter.h"
+#include "ui-agent/core/service-communicator.h"
 #include "ui-agent/core/service-error-text.h"
 #include "ui-agent/core/status-store.h"
+#include "ui-agent/core/string-display.h"
 #include "ui-agent/dialogs/about-window.h"
 #include "ui-agent/dialogs/notice-box.h"
 #include "ui-agent/dialogs/update-status-dialog.h"
-#include "widgets/dpi-info.h"
-#include "vantor-core/lib/json-access.h"
-#include "logging/logger.h"
-#include "ui-agent/core/service-communicator.h"
-#include "ui-agent/core/string-display.h"
-#include "widgets/style-manager.h"
 #include "ui-agent/tray/system-tray.h"
+#include "ui-agent/wizard/wizard.h"
+#include "vantor-core/lib/json-access.h"
+#include "widgets/component-strings.h"
+#include "widgets/dpi-info.h"
+#include "widgets/style-manager.h"
 #include "widgets/vell-mask.h"
 #include "widgets/vell-message-sheet.h"
 #include "widgets/web-link.h"
 #include "widgets/window-placement.h"
-#include "ui-agent/wizard/wizard.h"
 
 using client_manager_rules::SchemeMessage;
 using string_display::text;
@@ -37,11 +37,6 @@ using string_display::text;
 #define CM_LOG_INFO(...) LOG_INFO(vlog::kClientManager, __VA_ARGS__)
 
 namespace {
-
-// The status category of a device that is not linked to an account.
-constexpr int kNotLinked = 0x1000;
-// What the summary page reads the sites from.
-constexpr int kSiteInfoStatus = 0x1002;
 
 // An answer as it may appear in the log: secrets masked, on one line.
 std::string loggable(const Json::Value& v) {
@@ -249,12 +244,12 @@ void ClientManager::slotLogoutService() {
   box.exec();
   if (box.clickedButton() != apply) return;
   sendAction("logout");
-  if (tray) tray->setConnectionMode(2);
+  if (tray) tray->setConnectionMode(ConnectionMode::NotConnected);
 }
 
 void ClientManager::slotExitApplication() {
   CM_LOG_INFO("exit chosen: the agent tells the user and ends");
-  if (tray) tray->setConnectionMode(0);
+  if (tray) tray->setConnectionMode(ConnectionMode::Inactive);
   QMessageBox box;
   box.setObjectName(QStringLiteral("ExitNotice"));
   box.setWindowTitle(text(Str::app_name));
@@ -311,12 +306,12 @@ void ClientManager::slotHandleStatusChange(ServiceStatus, ServiceStatus current,
                                            const Json::Value& current_content) {
   failureCount = 0;
   StatusStore& store = StatusStore::instance();
-  if ((static_cast<int>(current) & 0xF000) == kNotLinked) {
+  if (service_status::is_not_linked(current)) {
     QGuiApplication::setQuitOnLastWindowClosed(true);
     statusWorker->stopPolling();
     store.clearConnection();
     store.setLastLogId(0);
-    if (tray) tray->setConnectionMode(2);
+    if (tray) tray->setConnectionMode(ConnectionMode::NotConnected);
     wizardWindow()->showWelcomePage();
     wizardWindow()->bringToFront();
     return;
@@ -441,7 +436,7 @@ void ClientManager::onConnectionInfo(const Json::Value& response) {
   }
   if (updateDialog) updateDialog->hide();
   if (!jsonx::has(response, "connection")) {
-    if (tray) tray->setConnectionMode(2);
+    if (tray) tray->setConnectionMode(ConnectionMode::NotConnected);
     wizardWindow()->bringToFront();
     wizardWindow()->showWelcomePage();
     return;
@@ -452,7 +447,7 @@ void ClientManager::onConnectionInfo(const Json::Value& response) {
   failureCount = 0;
   connection = fillConnectionInfo(link, jsonx::member(response, "proxy"), SslTrust::Read);
   StatusStore::instance().setConnectionInfo(connection);
-  if (tray) tray->setConnectionMode(1);
+  if (tray) tray->setConnectionMode(ConnectionMode::Connected);
   QGuiApplication::setQuitOnLastWindowClosed(false);
   statusWorker->startPolling();
   if (tray) {
@@ -505,7 +500,7 @@ void ClientManager::onSiteInfo(const SharedJson& answer) {
     wizardWindow()->showWelcomePage();
     return;
   }
-  StatusStore::instance().setStatus(static_cast<ServiceStatus>(kSiteInfoStatus), answer);
+  StatusStore::instance().setStatus(StatusSiteInfo, answer);
   wizardWindow()->showSummaryPage();
 }
 
@@ -550,7 +545,7 @@ void ClientManager::onCreateDevice(const Json::Value& response) {
   if (wizard) wizard->hide();
   sendAction("get_connection_info");
   statusWorker->startPolling();
-  if (tray) tray->setConnectionMode(1);
+  if (tray) tray->setConnectionMode(ConnectionMode::Connected);
   showMenuAtIcon();
 }
 

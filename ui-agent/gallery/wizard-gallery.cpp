@@ -13,17 +13,17 @@
 #include <functional>
 
 #include "ui-agent/core/status-store.h"
+#include "ui-agent/core/string-display.h"
 #include "ui-agent/dialogs/about-window.h"
 #include "ui-agent/dialogs/update-status-dialog.h"
-#include "widgets/dpi-info.h"
-#include "vantor-core/lib/json-access.h"
 #include "ui-agent/gallery/screen-gallery.h"
-#include "ui-agent/core/string-display.h"
+#include "ui-agent/wizard/nimbra-loading-frame.h"
+#include "ui-agent/wizard/wizard.h"
+#include "vantor-core/lib/json-access.h"
+#include "widgets/dpi-info.h"
 #include "widgets/style-manager.h"
 #include "widgets/vell-mask.h"
 #include "widgets/vell-message-sheet.h"
-#include "ui-agent/wizard/nimbra-loading-frame.h"
-#include "ui-agent/wizard/wizard.h"
 
 namespace {
 
@@ -158,10 +158,10 @@ void renderWizard() {
     Json::Value one = all;
     one["data"].resize(1);
     std::vector<std::vector<Cell>> rows;
-    StatusStore::instance().setStatus(static_cast<ServiceStatus>(0x1002), one);
+    StatusStore::instance().setStatus(StatusSiteInfo, one);
     w.showSummaryPage();
     rows.push_back({{"one site: a plain label, no chooser", shot(w)}});
-    StatusStore::instance().setStatus(static_cast<ServiceStatus>(0x1002), all);
+    StatusStore::instance().setStatus(StatusSiteInfo, all);
     w.showSummaryPage();
     rows.push_back({{"five sites: the first preselected", shot(w)}});
     gallery::save(gallery::sheet(QStringLiteral("Wizard: summary"), rows, kBackdrop),

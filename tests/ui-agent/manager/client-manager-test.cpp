@@ -23,18 +23,18 @@
 #include "ui-agent/app/client-manager.h"
 #include "ui-agent/core/get-status-worker.h"
 #include "ui-agent/core/global-connecter.h"
+#include "ui-agent/core/service-communicator.h"
 #include "ui-agent/core/service-error-text.h"
 #include "ui-agent/core/status-store.h"
 #include "ui-agent/dialogs/update-status-dialog.h"
-#include "ui-agent/core/service-communicator.h"
 #include "ui-agent/tray/log-widget.h"
 #include "ui-agent/tray/system-tray.h"
 #include "ui-agent/tray/tray-menu.h"
-#include "widgets/ui-path-manager.h"
-#include "widgets/vell-message-sheet.h"
 #include "ui-agent/wizard/nimbra-loading-frame.h"
 #include "ui-agent/wizard/summary-page.h"
 #include "ui-agent/wizard/wizard.h"
+#include "widgets/ui-path-manager.h"
+#include "widgets/vell-message-sheet.h"
 
 namespace {
 
@@ -224,11 +224,13 @@ TEST_F(Manager, RegistrationEndToEnd) {
   ServiceStatus status;
   Json::Value content;
   StatusStore::instance().getStatus(status, content);
-  EXPECT_EQ(static_cast<int>(status), 0x1002);
+  EXPECT_EQ(status, StatusSiteInfo);
 
   QTimer::singleShot(0, [] { emit GlobalConnecter::instance().sigCreateDevice("z1", "s1", "vell"); });
-  ASSERT_TRUE(until(
-      [this] { return manager_->systemTray()->connectionMode() == 1 && count("get_connection_info") == 1; }));
+  ASSERT_TRUE(until([this] {
+    return manager_->systemTray()->connectionMode() == ConnectionMode::Connected &&
+           count("get_connection_info") == 1;
+  }));
   EXPECT_EQ(actions(), (std::vector<std::string>{"get_auth", "get_token", "get_site_info", "create_device",
                                                  "backup_now", "get_connection_info"}));
   EXPECT_EQ(requests_.at(3)["zid"].asString(), "z1");
@@ -278,7 +280,7 @@ TEST_F(Manager, SiteInfoWithErrorButDataSucceeds) {
   ServiceStatus status;
   Json::Value content;
   StatusStore::instance().getStatus(status, content);
-  EXPECT_EQ(static_cast<int>(status), 0x1002);
+  EXPECT_EQ(status, StatusSiteInfo);
   EXPECT_TRUE(sheets_.isEmpty());
   EXPECT_EQ(log_.text().find("failed to get site info"), std::string::npos);
   // Without data it fails, with the error sheet.
@@ -310,7 +312,7 @@ TEST_F(Manager, OldLogIdsDroppedNewOnesSortedAndKept) {
   ASSERT_EQ(kept.size(), 2);  // (which ids are new is the rule's table)
   // Not linked any more: back to setup.
   emit bus.sigNotifyStatusChange(ServiceStatus(0x2000), ServiceStatus(0x1005), Json::Value());
-  EXPECT_EQ(manager_->systemTray()->connectionMode(), 2);
+  EXPECT_EQ(manager_->systemTray()->connectionMode(), ConnectionMode::NotConnected);
   EXPECT_FALSE(manager_->statusPoller()->isPolling());
   EXPECT_EQ(StatusStore::instance().getLastLogId(), 0u);
   EXPECT_TRUE(QGuiApplication::quitOnLastWindowClosed());
@@ -406,19 +408,19 @@ TEST_F(Manager, UpdateErrorShowsTheButtonWithoutMinimize) {
   // The record without update_status hides the dialog.
   reply("get_connection_info", "{}");
   EXPECT_FALSE(dialog->isVisible());
-  EXPECT_EQ(manager_->systemTray()->connectionMode(), 2);
+  EXPECT_EQ(manager_->systemTray()->connectionMode(), ConnectionMode::NotConnected);
 }
 
 TEST_F(Manager, LogoutAfterConfirmationExitAfterNotice) {
   connect();
   emit GlobalConnecter::instance().sigLogoutService();
   EXPECT_EQ(count("logout"), 1);
-  EXPECT_EQ(manager_->systemTray()->connectionMode(), 2);
+  EXPECT_EQ(manager_->systemTray()->connectionMode(), ConnectionMode::NotConnected);
   boxRole_ = QMessageBox::RejectRole;
   emit GlobalConnecter::instance().sigLogoutService();
   EXPECT_EQ(count("logout"), 1);
   EXPECT_TRUE(quitsDuring([] { emit GlobalConnecter::instance().sigExitApplication(); }));
-  EXPECT_EQ(manager_->systemTray()->connectionMode(), 0);
+  EXPECT_EQ(manager_->systemTray()->connectionMode(), ConnectionMode::Inactive);
   // (Broken into lines as the font at hand needs.)
   EXPECT_EQ(boxes_.last().replace('\n', ' '),
             QStringLiteral("Closing this application will not stop the backup service."));

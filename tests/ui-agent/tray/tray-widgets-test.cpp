@@ -21,18 +21,18 @@
 #include <QToolButton>
 #include <memory>
 
-#include "ui-agent/core/global-connecter.h"
-#include "ui-agent/core/service-error-text.h"
-#include "ui-agent/dialogs/settings-widget.h"
-#include "widgets/dpi-info.h"
-#include "ui-agent/core/string-display.h"
 #include "tests/support/temp-dir.h"
 #include "tests/ui-agent/tray/tray-fixture.h"
+#include "ui-agent/core/global-connecter.h"
+#include "ui-agent/core/service-error-text.h"
+#include "ui-agent/core/string-display.h"
+#include "ui-agent/dialogs/settings-widget.h"
 #include "ui-agent/tray/log-widget.h"
 #include "ui-agent/tray/quota-info-widget.h"
 #include "ui-agent/tray/tray-menu.h"
 #include "ui-agent/tray/tray-progress-widget.h"
 #include "ui-agent/tray/tray-status-widget.h"
+#include "widgets/dpi-info.h"
 #include "widgets/vell-label.h"
 
 using agent_test::accessibleName;
@@ -73,7 +73,7 @@ TEST_F(TrayWidgets, PageChoiceAndRelayedTrayStatus) {
   EXPECT_EQ(currentPage(), menu_.progressPage());
   EXPECT_EQ(spy.count(), 1);
   EXPECT_EQ(relayed(spy), TrayRunning);
-  show(0xF000, kFailed);
+  show(StatusError, kFailed);
   EXPECT_EQ(currentPage(), menu_.statusPage());
   EXPECT_EQ(relayed(spy), TrayError);
 }
@@ -143,7 +143,7 @@ TEST_F(TrayWidgets, LayoutAtEveryScale) {
     nimbra_test::ScopedEnv env("NIMBRA_UI_SCALE", scale);
     SCOPED_TRACE(scale);
     TrayMenu menu;
-    menu.setFixedSize(DPIinfo::scaled(400), DPIinfo::scaled(232));
+    menu.setFixedSize(TrayMenu::scaledSize());
     menu.show();
     QApplication::processEvents();
     auto* pages = child<QStackedWidget>(&menu, "trayPages");
@@ -180,7 +180,7 @@ class TrayPagesInLanguage : public tray_test::TrayTest, public ::testing::WithPa
 TEST_P(TrayPagesInLanguage, OneLineTextsFitOrAreElided) {
   tray_test::ScopedLanguage language(GetParam());
   TrayMenu menu;
-  menu.setFixedSize(DPIinfo::scaled(400), DPIinfo::scaled(232));
+  menu.setFixedSize(TrayMenu::scaledSize());
   menu.show();
   const std::pair<int, const char*> states[] = {
       {0x2000, R"({"connected":true,"last_backup_result":{"last_backup_status":2,"backed_up":false}})"},

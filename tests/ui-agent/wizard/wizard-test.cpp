@@ -10,16 +10,16 @@
 #include <QStackedWidget>
 #include <QTest>
 
+#include "tests/ui-agent/wizard/wizard-fixture.h"
 #include "ui-agent/core/global-connecter.h"
 #include "ui-agent/core/service-error-text.h"
 #include "ui-agent/core/status-store.h"
-#include "widgets/dpi-info.h"
 #include "ui-agent/core/string-display.h"
-#include "tests/ui-agent/wizard/wizard-fixture.h"
 #include "ui-agent/wizard/nimbra-loading-frame.h"
 #include "ui-agent/wizard/summary-page.h"
 #include "ui-agent/wizard/welcome-page.h"
 #include "ui-agent/wizard/wizard.h"
+#include "widgets/dpi-info.h"
 
 namespace {
 
@@ -47,7 +47,7 @@ class WizardTest : public ::testing::Test {
   }
   // The site list arrives and the summary page is shown.
   void showSummary(const Json::Value& answer = wizard_test::threeSites()) {
-    StatusStore::instance().setStatus(static_cast<ServiceStatus>(0x1002), answer);
+    StatusStore::instance().setStatus(StatusSiteInfo, answer);
     wizard_.showSummaryPage();
   }
   Wizard wizard_;
