@@ -115,9 +115,6 @@ class SystemTray : public QObject {
   // corner where the tray tells its place, else as clickAnchor() without
   // the pointer.
   QPoint openAnchor() const;
-  StatusNotifierItem* statusNotifierItem() const { return sni_; }
-  // Qt's tray icon, once there was no StatusNotifierItem panel to use.
-  QSystemTrayIcon* xembedIcon() const { return xembed_; }
 
   // What a click does, and whether the right-click menu exists (see the
   // class comment).
@@ -143,12 +140,8 @@ class SystemTray : public QObject {
   TrayMenuContainer* container();
   void buildPopup();
   QMenu* rightMenu() const { return rightMenu_; }
-  // What the tool tip and the right-click menu show now.
-  const tray_icon_model::View& iconView() const { return view_; }
-  TrayStatus trayStatus() const { return status_; }
   // The picture name now shown, "_dark" included.
   QString currentIconName() const { return iconName_; }
-  PanelThemeWatcher* themeWatcher() const { return theme_; }
 
   // While it answers true, presses outside do not close the pop-up; by
   // default while the menu's user drop-down is open.

@@ -50,7 +50,6 @@ class Wizard : public QWidget {
   static Qt::WindowFlags windowFlagsOfWizard();
 
  signals:
-  void sigShowSummaryPage();
   void sigCreateDevice(const QString& zid, const QString& sub_id, const QString& account_type);
   void sigGetAuthURL();
 
