@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QProcess>
-#include <QPushButton>
 #include <QTimer>
 
 #include <stdexcept>
@@ -22,10 +21,6 @@
 #include "ui-agent/tray/system-tray.h"
 #include "ui-agent/wizard/wizard.h"
 #include "vantor-core/lib/json-access.h"
-#include "widgets/component-strings.h"
-#include "widgets/dpi-info.h"
-#include "widgets/style-manager.h"
-#include "widgets/vell-mask.h"
 #include "widgets/vell-message-sheet.h"
 #include "widgets/web-link.h"
 #include "widgets/window-placement.h"
@@ -227,22 +222,7 @@ void ClientManager::slotTrayClickedWithoutConnection() {
 }
 
 void ClientManager::slotLogoutService() {
-  QMessageBox box;
-  box.setObjectName(QStringLiteral("LogoutConfirm"));
-  box.setWindowTitle(text(Str::app_name));
-  box.setText(text(Str::desc_confirm_logout));
-  box.setStyleSheet(getStyleSheet(QStringLiteral("component.confirm_message_box")));
-  QPushButton* cancel = box.addButton(QMessageBox::Cancel);
-  cancel->setText(ComponentStrings::getInstance()->string(QStringLiteral("cancel")));
-  cancel->setStyleSheet(getStyleSheet(QStringLiteral("component.cancel_button")));
-  QPushButton* apply =
-      box.addButton(ComponentStrings::getInstance()->string(QStringLiteral("ok")), QMessageBox::ApplyRole);
-  apply->setStyleSheet(getStyleSheet(QStringLiteral("component.apply_button")));
-  box.setDefaultButton(cancel);
-  box.setEscapeButton(cancel);
-  notice_box::finish(box);
-  box.exec();
-  if (box.clickedButton() != apply) return;
+  if (notice_box::ask(*notice_box::logout_question()) != QMessageBox::ApplyRole) return;
   sendAction("logout");
   if (tray) tray->setConnectionMode(ConnectionMode::NotConnected);
 }
@@ -250,16 +230,7 @@ void ClientManager::slotLogoutService() {
 void ClientManager::slotExitApplication() {
   CM_LOG_INFO("exit chosen: the agent tells the user and ends");
   if (tray) tray->setConnectionMode(ConnectionMode::Inactive);
-  QMessageBox box;
-  box.setObjectName(QStringLiteral("ExitNotice"));
-  box.setWindowTitle(text(Str::app_name));
-  box.setStyleSheet(getStyleSheet(QStringLiteral("component.info_message_box")));
-  box.setText(text(Str::desc_exit_app));
-  QPushButton* ok = box.addButton(QMessageBox::Ok);
-  ok->setText(ComponentStrings::getInstance()->string(QStringLiteral("ok")));
-  ok->setStyleSheet(getStyleSheet(QStringLiteral("component.apply_button")));
-  notice_box::finish(box);
-  box.exec();
+  notice_box::ask(*notice_box::exit_notice());
   QCoreApplication::quit();
 }
 
@@ -504,31 +475,6 @@ void ClientManager::onSiteInfo(const SharedJson& answer) {
   wizardWindow()->showSummaryPage();
 }
 
-bool ClientManager::askBackupNow() {
-  VellMessageSheet sheet(VellMessageSheet::Question, wizardWindow(), true,
-                         QMessageBox::Discard | QMessageBox::Apply);
-  sheet.setFixedHeight(DPIinfo::scaled(158));
-  sheet.setMaximumWidth(DPIinfo::scaled(480));
-  VellMask::createMask(&sheet, wizardWindow(), QColor(0, 0, 0, 20));
-  sheet.setText(text(Str::desc_backup_confirm));
-  const QSize buttonSize(DPIinfo::scaled(100), DPIinfo::scaled(32));
-  if (QPushButton* notNow = sheet.button(QMessageBox::Discard)) {
-    notNow->setText(text(Str::btn_not_now));
-    notNow->setStyleSheet(getStyleSheet(QStringLiteral("nimbra_button_normal")));
-    notNow->setFixedSize(buttonSize);
-  }
-  if (QPushButton* ok = sheet.button(QMessageBox::Apply)) {
-    ok->setText(text(Str::btn_ok));
-    ok->setStyleSheet(getStyleSheet(QStringLiteral("nimbra_button_2")));
-    ok->setFixedSize(buttonSize);
-  }
-  LOG_DEBUG(vlog::kClientManager, "asking whether to back up now");
-  const bool now = sheet.exec() == QMessageBox::Apply;
-  sheet.quit();
-  LOG_DEBUG(vlog::kClientManager, "back up now: %s", now ? "yes" : "not now");
-  return now;
-}
-
 void ClientManager::onCreateDevice(const Json::Value& response) {
   wizardWindow()->hideConnecting();
   if (jsonx::has(response, "error")) {
@@ -538,7 +484,7 @@ void ClientManager::onCreateDevice(const Json::Value& response) {
     return;
   }
   QGuiApplication::setQuitOnLastWindowClosed(false);
-  if (askBackupNow()) {
+  if (wizardWindow()->askBackupNow()) {
     showMenuWhenConnected = true;
     sendAction("backup_now");
   }
