@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include <QAbstractButton>
 #include <QApplication>
 #include <QFontMetrics>
@@ -53,36 +51,18 @@ TEST(NoticeBox, WrapLinesFitAndKeepEveryCharacter) {
 TEST(NoticeBox, BoxesWrapInTheStyleSheetsFontAndButtonsLoseThemeIcons) {
   qputenv("NIMBRA_UI_SCALE", "1");
   agent_test::loadLook();
-  const auto logout = notice_box::logout_question();
-  const auto exit = notice_box::exit_notice();
-  const struct {
-    QMessageBox* box;
-    Str text;
-    int min_lines;
-    QList<QMessageBox::ButtonRole> roles;
-  } rows[] = {
-      {logout.get(), Str::desc_confirm_logout, 2, {QMessageBox::RejectRole, QMessageBox::ApplyRole}},
-      {exit.get(), Str::desc_exit_app, 1, {QMessageBox::AcceptRole}},
-  };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.box->objectName().toStdString());
-    auto* label = row.box->findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+  for (const auto& [box, text] : {std::pair{notice_box::logout_question(), Str::desc_confirm_logout},
+                                  std::pair{notice_box::exit_notice(), Str::desc_exit_app}}) {
+    auto* label = box->findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
     ASSERT_NE(label, nullptr);
     const QStringList lines = label->text().split('\n');
-    EXPECT_EQ(lines.join(' '), string_display::text(row.text));
-    EXPECT_GE(lines.size(), row.min_lines);
+    EXPECT_EQ(lines.join(' '), string_display::text(text));
     const QFontMetrics fm(label->font());
     for (const QString& line : lines) {
       EXPECT_LE(fm.horizontalAdvance(line), notice_box::kTextWidth) << line.toStdString();
       EXPECT_LE(fm.horizontalAdvance(line) + 2, label->minimumWidth()) << line.toStdString();
     }
-    QList<QMessageBox::ButtonRole> roles;
-    for (QAbstractButton* b : row.box->buttons()) {
-      roles << row.box->buttonRole(b);
-      EXPECT_TRUE(b->icon().isNull());
-    }
-    std::sort(roles.begin(), roles.end());
-    EXPECT_EQ(roles, row.roles);
+    for (QAbstractButton* b : box->buttons()) EXPECT_TRUE(b->icon().isNull());
   }
 }
 
