@@ -11,12 +11,12 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "logging/logger.h"
 #include "widgets/accessible-text.h"
 #include "widgets/component-strings.h"
 #include "widgets/copyable-text.h"
 #include "widgets/dpi-info.h"
 #include "widgets/image-manager.h"
-#include "logging/logger.h"
 #include "widgets/style-manager.h"
 #include "widgets/vell-button.h"
 #include "widgets/web-link.h"
@@ -27,6 +27,11 @@ namespace {
 QList<VellMessageSheet*>& running() {
   static QList<VellMessageSheet*> sheets;
   return sheets;
+}
+
+QList<int>& nextAnswers() {
+  static QList<int> answers;
+  return answers;
 }
 
 // Buttons in the order they are laid out, secondary first.
@@ -220,10 +225,25 @@ QList<VellMessageSheet*> VellMessageSheet::runningSheets() {
   return running();
 }
 
+void VellMessageSheet::setNextAnswer(int answer) {
+  nextAnswers().append(answer);
+}
+
+int VellMessageSheet::clearNextAnswers() {
+  const int left = nextAnswers().size();
+  nextAnswers().clear();
+  return left;
+}
+
 int VellMessageSheet::exec() {
   if (loop_) {
     LOG_WARN(vlog::kDefaultComponent, "message sheet is already running, second exec ignored");
     return QMessageBox::NoButton;
+  }
+  if (!nextAnswers().isEmpty()) {
+    const int answer = nextAnswers().takeFirst();
+    emit finished(answer);
+    return answer;
   }
   result_ = QMessageBox::NoButton;
   adjustSize();

@@ -58,8 +58,15 @@ class VellMessageSheet : public QFrame {
   bool isRunning() const { return loop_ != nullptr; }
 
   // Sheets whose exec() is running now, innermost last (tests and tools use
-  // it to answer a sheet).
+  // it to see and answer a sheet).
   static QList<VellMessageSheet*> runningSheets();
+
+  // A test hook: the next exec() returns `answer` at once, without showing
+  // the sheet (it still emits finished). Called again before that, the
+  // answers are taken in the order given, one per exec().
+  static void setNextAnswer(int answer);
+  // Drops the answers no exec() has taken yet and tells how many there were.
+  static int clearNextAnswers();
 
  signals:
   void buttonClicked(int which);

@@ -3,32 +3,27 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QProcess>
-#include <QPushButton>
 #include <QTimer>
 
 #include <stdexcept>
 
+#include "logging/logger.h"
 #include "ui-agent/app/client-manager-rules.h"
-#include "widgets/component-strings.h"
 #include "ui-agent/core/get-status-worker.h"
 #include "ui-agent/core/global-connecter.h"
+#include "ui-agent/core/service-communicator.h"
 #include "ui-agent/core/service-error-text.h"
 #include "ui-agent/core/status-store.h"
+#include "ui-agent/core/string-display.h"
 #include "ui-agent/dialogs/about-window.h"
 #include "ui-agent/dialogs/notice-box.h"
 #include "ui-agent/dialogs/update-status-dialog.h"
-#include "widgets/dpi-info.h"
-#include "vantor-core/lib/json-access.h"
-#include "logging/logger.h"
-#include "ui-agent/core/service-communicator.h"
-#include "ui-agent/core/string-display.h"
-#include "widgets/style-manager.h"
 #include "ui-agent/tray/system-tray.h"
-#include "widgets/vell-mask.h"
+#include "ui-agent/wizard/wizard.h"
+#include "vantor-core/lib/json-access.h"
 #include "widgets/vell-message-sheet.h"
 #include "widgets/web-link.h"
 #include "widgets/window-placement.h"
-#include "ui-agent/wizard/wizard.h"
 
 using client_manager_rules::SchemeMessage;
 using string_display::text;
@@ -37,11 +32,6 @@ using string_display::text;
 #define CM_LOG_INFO(...) LOG_INFO(vlog::kClientManager, __VA_ARGS__)
 
 namespace {
-
-// The status category of a device that is not linked to an account.
-constexpr int kNotLinked = 0x1000;
-// What the summary page reads the sites from.
-constexpr int kSiteInfoStatus = 0x1002;
 
 // An answer as it may appear in the log: secrets masked, on one line.
 std::string loggable(const Json::Value& v) {
@@ -232,39 +222,15 @@ void ClientManager::slotTrayClickedWithoutConnection() {
 }
 
 void ClientManager::slotLogoutService() {
-  QMessageBox box;
-  box.setObjectName(QStringLiteral("LogoutConfirm"));
-  box.setWindowTitle(text(Str::app_name));
-  box.setText(text(Str::desc_confirm_logout));
-  box.setStyleSheet(getStyleSheet(QStringLiteral("component.confirm_message_box")));
-  QPushButton* cancel = box.addButton(QMessageBox::Cancel);
-  cancel->setText(ComponentStrings::getInstance()->string(QStringLiteral("cancel")));
-  cancel->setStyleSheet(getStyleSheet(QStringLiteral("component.cancel_button")));
-  QPushButton* apply =
-      box.addButton(ComponentStrings::getInstance()->string(QStringLiteral("ok")), QMessageBox::ApplyRole);
-  apply->setStyleSheet(getStyleSheet(QStringLiteral("component.apply_button")));
-  box.setDefaultButton(cancel);
-  box.setEscapeButton(cancel);
-  notice_box::finish(box);
-  box.exec();
-  if (box.clickedButton() != apply) return;
+  if (notice_box::ask(*notice_box::logout_question()) != QMessageBox::ApplyRole) return;
   sendAction("logout");
-  if (tray) tray->setConnectionMode(2);
+  if (tray) tray->setConnectionMode(ConnectionMode::NotConnected);
 }
 
 void ClientManager::slotExitApplication() {
   CM_LOG_INFO("exit chosen: the agent tells the user and ends");
-  if (tray) tray->setConnectionMode(0);
-  QMessageBox box;
-  box.setObjectName(QStringLiteral("ExitNotice"));
-  box.setWindowTitle(text(Str::app_name));
-  box.setStyleSheet(getStyleSheet(QStringLiteral("component.info_message_box")));
-  box.setText(text(Str::desc_exit_app));
-  QPushButton* ok = box.addButton(QMessageBox::Ok);
-  ok->setText(ComponentStrings::getInstance()->string(QStringLiteral("ok")));
-  ok->setStyleSheet(getStyleSheet(QStringLiteral("component.apply_button")));
-  notice_box::finish(box);
-  box.exec();
+  if (tray) tray->setConnectionMode(ConnectionMode::Inactive);
+  notice_box::ask(*notice_box::exit_notice());
   QCoreApplication::quit();
 }
 
@@ -311,12 +277,12 @@ void ClientManager::slotHandleStatusChange(ServiceStatus, ServiceStatus current,
                                            const Json::Value& current_content) {
   failureCount = 0;
   StatusStore& store = StatusStore::instance();
-  if ((static_cast<int>(current) & 0xF000) == kNotLinked) {
+  if (service_status::is_not_linked(current)) {
     QGuiApplication::setQuitOnLastWindowClosed(true);
     statusWorker->stopPolling();
     store.clearConnection();
     store.setLastLogId(0);
-    if (tray) tray->setConnectionMode(2);
+    if (tray) tray->setConnectionMode(ConnectionMode::NotConnected);
     wizardWindow()->showWelcomePage();
     wizardWindow()->bringToFront();
     return;
@@ -441,7 +407,7 @@ void ClientManager::onConnectionInfo(const Json::Value& response) {
   }
   if (updateDialog) updateDialog->hide();
   if (!jsonx::has(response, "connection")) {
-    if (tray) tray->setConnectionMode(2);
+    if (tray) tray->setConnectionMode(ConnectionMode::NotConnected);
     wizardWindow()->bringToFront();
     wizardWindow()->showWelcomePage();
     return;
@@ -452,7 +418,7 @@ void ClientManager::onConnectionInfo(const Json::Value& response) {
   failureCount = 0;
   connection = fillConnectionInfo(link, jsonx::member(response, "proxy"), SslTrust::Read);
   StatusStore::instance().setConnectionInfo(connection);
-  if (tray) tray->setConnectionMode(1);
+  if (tray) tray->setConnectionMode(ConnectionMode::Connected);
   QGuiApplication::setQuitOnLastWindowClosed(false);
   statusWorker->startPolling();
   if (tray) {
@@ -505,33 +471,8 @@ void ClientManager::onSiteInfo(const SharedJson& answer) {
     wizardWindow()->showWelcomePage();
     return;
   }
-  StatusStore::instance().setStatus(static_cast<ServiceStatus>(kSiteInfoStatus), answer);
+  StatusStore::instance().setStatus(StatusSiteInfo, answer);
   wizardWindow()->showSummaryPage();
-}
-
-bool ClientManager::askBackupNow() {
-  VellMessageSheet sheet(VellMessageSheet::Question, wizardWindow(), true,
-                         QMessageBox::Discard | QMessageBox::Apply);
-  sheet.setFixedHeight(DPIinfo::scaled(158));
-  sheet.setMaximumWidth(DPIinfo::scaled(480));
-  VellMask::createMask(&sheet, wizardWindow(), QColor(0, 0, 0, 20));
-  sheet.setText(text(Str::desc_backup_confirm));
-  const QSize buttonSize(DPIinfo::scaled(100), DPIinfo::scaled(32));
-  if (QPushButton* notNow = sheet.button(QMessageBox::Discard)) {
-    notNow->setText(text(Str::btn_not_now));
-    notNow->setStyleSheet(getStyleSheet(QStringLiteral("nimbra_button_normal")));
-    notNow->setFixedSize(buttonSize);
-  }
-  if (QPushButton* ok = sheet.button(QMessageBox::Apply)) {
-    ok->setText(text(Str::btn_ok));
-    ok->setStyleSheet(getStyleSheet(QStringLiteral("nimbra_button_2")));
-    ok->setFixedSize(buttonSize);
-  }
-  LOG_DEBUG(vlog::kClientManager, "asking whether to back up now");
-  const bool now = sheet.exec() == QMessageBox::Apply;
-  sheet.quit();
-  LOG_DEBUG(vlog::kClientManager, "back up now: %s", now ? "yes" : "not now");
-  return now;
 }
 
 void ClientManager::onCreateDevice(const Json::Value& response) {
@@ -543,14 +484,14 @@ void ClientManager::onCreateDevice(const Json::Value& response) {
     return;
   }
   QGuiApplication::setQuitOnLastWindowClosed(false);
-  if (askBackupNow()) {
+  if (wizardWindow()->askBackupNow()) {
     showMenuWhenConnected = true;
     sendAction("backup_now");
   }
   if (wizard) wizard->hide();
   sendAction("get_connection_info");
   statusWorker->startPolling();
-  if (tray) tray->setConnectionMode(1);
+  if (tray) tray->setConnectionMode(ConnectionMode::Connected);
   showMenuAtIcon();
 }
 

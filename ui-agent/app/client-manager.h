@@ -84,7 +84,6 @@ class ClientManager : public QObject {
   void onToken(const Json::Value& response);
   void onSiteInfo(const SharedJson& answer);
   void onCreateDevice(const Json::Value& response);
-  bool askBackupNow();
   void runNotifier(const Json::Value& notifications);
 
   SystemTray* tray = nullptr;

@@ -2,8 +2,9 @@
 // The service's status word and the categories the agent interprets.
 //
 // The value is the integer the service reports as `status`, kept unchanged;
-// only bits 12 to 15 (the category) and the two "preparing" values carry a
-// meaning here. Every other value passes through untouched.
+// only bits 12 to 15 (the category), the two "preparing" values and the
+// agent's own site-list value carry a meaning here. Every other value passes
+// through untouched.
 
 #include <cstdint>
 
@@ -12,6 +13,8 @@
 enum ServiceStatus : std::int32_t {
   StatusUnknown = 0,
   StatusNotLinked = 0x1000,         // category: device not linked (setup needed)
+  StatusSiteInfo = 0x1002,          // not linked, the store holding a "get_site_info" answer
+                                    // (set by the agent itself; the summary page reads it)
   StatusIdle = 0x2000,              // category: idle between backups
   StatusBackupRunning = 0x3000,     // category: a backup is running
   StatusBackupPreparing = 0x3001,   // running, still preparing

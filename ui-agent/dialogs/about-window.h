@@ -30,8 +30,6 @@ class AboutWindow : public QFrame {
  public:
   explicit AboutWindow(QWidget* parent = nullptr);
 
-  // The address each link opens.
-  QUrl urlOf(const QWidget* link) const { return links_.value(link); }
   static QUrl termsUrl();
   static QUrl privacyUrl();
 

@@ -4,13 +4,78 @@
 #include <QFontMetrics>
 #include <QIcon>
 #include <QLabel>
-#include <QMessageBox>
+#include <QList>
+#include <QPushButton>
 #include <QTextDocument>
 #include <QTextLayout>
 
+#include "ui-agent/core/string-display.h"
+#include "widgets/component-strings.h"
 #include "widgets/dpi-info.h"
+#include "widgets/style-manager.h"
 
 namespace notice_box {
+
+namespace {
+
+QList<QMessageBox::ButtonRole>& nextAnswers() {
+  static QList<QMessageBox::ButtonRole> roles;
+  return roles;
+}
+
+QString component(const char* key) {
+  return ComponentStrings::getInstance()->string(QLatin1String(key));
+}
+
+std::unique_ptr<QMessageBox> box_of(const char* name, const char* style, Str text) {
+  auto box = std::make_unique<QMessageBox>();
+  box->setObjectName(QLatin1String(name));
+  box->setWindowTitle(string_display::text(Str::app_name));
+  box->setText(string_display::text(text));
+  box->setStyleSheet(getStyleSheet(QLatin1String(style)));
+  return box;
+}
+
+}  // namespace
+
+std::unique_ptr<QMessageBox> logout_question() {
+  auto box = box_of("LogoutConfirm", "component.confirm_message_box", Str::desc_confirm_logout);
+  QPushButton* cancel = box->addButton(QMessageBox::Cancel);
+  cancel->setText(component("cancel"));
+  cancel->setStyleSheet(getStyleSheet(QStringLiteral("component.cancel_button")));
+  QPushButton* apply = box->addButton(component("ok"), QMessageBox::ApplyRole);
+  apply->setStyleSheet(getStyleSheet(QStringLiteral("component.apply_button")));
+  box->setDefaultButton(cancel);
+  box->setEscapeButton(cancel);
+  finish(*box);
+  return box;
+}
+
+std::unique_ptr<QMessageBox> exit_notice() {
+  auto box = box_of("ExitNotice", "component.info_message_box", Str::desc_exit_app);
+  QPushButton* ok = box->addButton(QMessageBox::Ok);
+  ok->setText(component("ok"));
+  ok->setStyleSheet(getStyleSheet(QStringLiteral("component.apply_button")));
+  finish(*box);
+  return box;
+}
+
+QMessageBox::ButtonRole ask(QMessageBox& box) {
+  if (!nextAnswers().isEmpty()) return nextAnswers().takeFirst();
+  box.exec();
+  QAbstractButton* clicked = box.clickedButton();
+  return clicked ? box.buttonRole(clicked) : QMessageBox::InvalidRole;
+}
+
+void setNextAnswer(QMessageBox::ButtonRole role) {
+  nextAnswers().append(role);
+}
+
+int clearNextAnswers() {
+  const int left = nextAnswers().size();
+  nextAnswers().clear();
+  return left;
+}
 
 QStringList wrap_lines(const QString& text, const QFont& font, int width) {
   QStringList lines;

@@ -1,15 +1,33 @@
 #pragma once
 // The agent's plain message boxes (the log-out question, the exit notice):
-// their text broken into lines that fit a width, and the box finished so
-// that it sizes itself from those lines.
+// how each is built, how it is run, their text broken into lines that fit
+// a width, and the box finished so that it sizes itself from those lines.
 
 #include <QFont>
+#include <QMessageBox>
 #include <QString>
 #include <QStringList>
 
-class QMessageBox;
+#include <memory>
 
 namespace notice_box {
+
+// The log-out question (object name "LogoutConfirm"): a Cancel button, the
+// default and the Escape button, and an "OK" button of the Apply role.
+std::unique_ptr<QMessageBox> logout_question();
+// The notice that closing the agent leaves the backup service running
+// (object name "ExitNotice"), with one OK button.
+std::unique_ptr<QMessageBox> exit_notice();
+
+// Runs `box` modally and returns the role of the button that closed it
+// (RejectRole for the Escape button, InvalidRole when none did).
+QMessageBox::ButtonRole ask(QMessageBox& box);
+// A test hook, as VellMessageSheet::setNextAnswer: the next ask() returns
+// `role` at once without showing its box; called again before that, the
+// roles are taken in the order given.
+void setNextAnswer(QMessageBox::ButtonRole role);
+// Drops the roles no ask() has taken yet and tells how many there were.
+int clearNextAnswers();
 
 // The widest a box's text runs before it breaks into lines, in logical pixels.
 constexpr int kTextWidth = 420;

@@ -14,15 +14,14 @@
 #include <json/value.h>
 
 #include "ui-agent/core/global-connecter.h"
-#include "widgets/dpi-info.h"
-#include "vantor-core/lib/json-access.h"
 #include "ui-agent/gallery/screen-gallery.h"
-#include "widgets/style-manager.h"
 #include "ui-agent/tray/log-widget.h"
 #include "ui-agent/tray/quota-info-widget.h"
 #include "ui-agent/tray/system-tray.h"
 #include "ui-agent/tray/tray-menu.h"
 #include "ui-agent/tray/tray-progress-widget.h"
+#include "vantor-core/lib/json-access.h"
+#include "widgets/style-manager.h"
 
 namespace {
 
@@ -47,7 +46,7 @@ LogEntry event(quint64 id, qint64 age, quint32 type, const char* body = "{}") {
 
 std::unique_ptr<TrayMenu> popup() {
   auto menu = std::make_unique<TrayMenu>();
-  menu->setFixedSize(DPIinfo::scaled(400), DPIinfo::scaled(232));
+  menu->setFixedSize(TrayMenu::scaledSize());
   menu->setClock([] { return kNow; });
   menu->quotaInfoWidget()->setAccount(QStringLiteral("morgan.ellis@example.com"));
   return menu;
@@ -80,7 +79,8 @@ void renderStatus() {
        R"js({"connected":true,"last_backup_result":{"last_backup_status":5,"last_backup_time":1795420800},
            "next_backup_time":0})js",
        event(4, 200000, 1103)},
-      {"Ready (other code)", R"js({"connected":true,"last_backup_result":{"last_backup_status":1,"last_backup_time":0},
+      {"Ready (other code)",
+       R"js({"connected":true,"last_backup_result":{"last_backup_status":1,"last_backup_time":0},
            "schedule_type":1})js",
        event(5, 10, 5001, R"js({"email":"morgan.ellis@example.com"})js")},
       {"Ready (backed_up false, code 2)",
@@ -112,15 +112,17 @@ void renderProgress() {
   {
     auto menu = popup();
     menu->appendLogEntries({latest});
-    menu->updateServiceStatus(StatusBackupPreparing,
-                              json(R"js({"connected":true,"transfer":{"transfer":0,"delta_upload":0,"total":0,"speed":0}})js"));
+    menu->updateServiceStatus(
+        StatusBackupPreparing,
+        json(R"js({"connected":true,"transfer":{"transfer":0,"delta_upload":0,"total":0,"speed":0}})js"));
     add("Preparing", *menu);
   }
   {
     auto menu = popup();
     menu->appendLogEntries({latest});
-    menu->updateServiceStatus(static_cast<ServiceStatus>(0x3003),
-                              json(R"js({"connected":true,"transfer":{"transfer":48318382080,"delta_upload":2254857830,
+    menu->updateServiceStatus(
+        static_cast<ServiceStatus>(0x3003),
+        json(R"js({"connected":true,"transfer":{"transfer":48318382080,"delta_upload":2254857830,
                                       "total":128849018880,"speed":41943040}})js"));
     add("Running", *menu);
   }
@@ -129,8 +131,9 @@ void renderProgress() {
     menu->appendLogEntries({latest});
     const char* stalled =
         R"js({"connected":true,"transfer":{"transfer":48318382080,"delta_upload":2254857830,"total":128849018880,"speed":0}})js";
-    menu->updateServiceStatus(static_cast<ServiceStatus>(0x3003),
-                              json(R"js({"connected":true,"transfer":{"transfer":48318382080,"delta_upload":2254857830,
+    menu->updateServiceStatus(
+        static_cast<ServiceStatus>(0x3003),
+        json(R"js({"connected":true,"transfer":{"transfer":48318382080,"delta_upload":2254857830,
                                       "total":128849018880,"speed":41943040}})js"));
     for (int i = 0; i < 30; ++i) menu->updateServiceStatus(static_cast<ServiceStatus>(0x3003), json(stalled));
     add("Stalled (speed 0, counting down)", *menu);
@@ -175,7 +178,8 @@ void renderUserMenu() {
   }
   {
     auto menu = popup();
-    menu->quotaInfoWidget()->setAccount(QStringLiteral("a.very.long.account.name.for.testing@subsidiary.example.com"));
+    menu->quotaInfoWidget()->setAccount(
+        QStringLiteral("a.very.long.account.name.for.testing@subsidiary.example.com"));
     menu->setMenuEntriesVisible(false, true, 0);
     row.push_back({QStringLiteral("Auth fork, long account"), grabMenu(*menu)});
   }
@@ -236,7 +240,7 @@ void renderIconMenu() {
     const bool high = StyleManager::getInstance()->highContrast();
     SystemTray tray;
     StyleManager::getInstance()->setHighContrast(high);
-    tray.setConnectionMode(1);
+    tray.setConnectionMode(ConnectionMode::Connected);
     tray.updateServiceStatus(s.status, json(s.content));
     if (!s.reachable) emit GlobalConnecter::instance().sigQueryServiceFailed();
     QMenu* m = tray.rightMenu();

@@ -7,23 +7,19 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QPushButton>
 #include <QTimer>
 
 #include <functional>
 
 #include "ui-agent/core/status-store.h"
+#include "ui-agent/core/string-display.h"
 #include "ui-agent/dialogs/about-window.h"
 #include "ui-agent/dialogs/update-status-dialog.h"
-#include "widgets/dpi-info.h"
-#include "vantor-core/lib/json-access.h"
 #include "ui-agent/gallery/screen-gallery.h"
-#include "ui-agent/core/string-display.h"
-#include "widgets/style-manager.h"
-#include "widgets/vell-mask.h"
-#include "widgets/vell-message-sheet.h"
 #include "ui-agent/wizard/nimbra-loading-frame.h"
 #include "ui-agent/wizard/wizard.h"
+#include "vantor-core/lib/json-access.h"
+#include "widgets/vell-message-sheet.h"
 
 namespace {
 
@@ -77,40 +73,19 @@ const char* kSites = R"({"data":[
   "web_console_link":"https://console.nimbrabackup.com","web_console_url":"https://br.console.nimbrabackup.com"}
 ]})";
 
-QImage errorOver(Wizard& w, int code, const Json::Value& response) {
+// The wizard while `open` holds a sheet up over it (the sheet is then quit).
+QImage sheetOver(Wizard& w, const std::function<void()>& open) {
   QImage img;
   fromInside([&] {
     img = shot(w);
     if (auto sheets = VellMessageSheet::runningSheets(); !sheets.isEmpty()) sheets.last()->quit();
   });
-  w.showError(code, response);
+  open();
   return img;
 }
 
-// The question the client manager asks on the wizard once the device exists.
-QImage backupNowOver(Wizard& w) {
-  VellMessageSheet sheet(VellMessageSheet::Question, &w, true);
-  sheet.setFixedHeight(DPIinfo::scaled(158));
-  sheet.setMaximumWidth(DPIinfo::scaled(480));
-  sheet.setText(text(Str::desc_backup_confirm));
-  if (QPushButton* b = sheet.button(QMessageBox::Discard)) {
-    b->setText(text(Str::btn_not_now));
-    b->setStyleSheet(getStyleSheet(QStringLiteral("nimbra_button_normal")));
-    b->setFixedSize(DPIinfo::scaled(100), DPIinfo::scaled(32));
-  }
-  if (QPushButton* b = sheet.button(QMessageBox::Apply)) {
-    b->setText(text(Str::btn_ok));
-    b->setStyleSheet(getStyleSheet(QStringLiteral("nimbra_button_2")));
-    b->setFixedSize(DPIinfo::scaled(100), DPIinfo::scaled(32));
-  }
-  VellMask::createMask(&sheet, &w, QColor(0, 0, 0, 20));
-  QImage img;
-  fromInside([&] {
-    img = shot(w);
-    sheet.quit();
-  });
-  sheet.exec();
-  return img;
+QImage errorOver(Wizard& w, int code, const Json::Value& response) {
+  return sheetOver(w, [&] { w.showError(code, response); });
 }
 
 void renderWizard() {
@@ -158,10 +133,10 @@ void renderWizard() {
     Json::Value one = all;
     one["data"].resize(1);
     std::vector<std::vector<Cell>> rows;
-    StatusStore::instance().setStatus(static_cast<ServiceStatus>(0x1002), one);
+    StatusStore::instance().setStatus(StatusSiteInfo, one);
     w.showSummaryPage();
     rows.push_back({{"one site: a plain label, no chooser", shot(w)}});
-    StatusStore::instance().setStatus(static_cast<ServiceStatus>(0x1002), all);
+    StatusStore::instance().setStatus(StatusSiteInfo, all);
     w.showSummaryPage();
     rows.push_back({{"five sites: the first preselected", shot(w)}});
     gallery::save(gallery::sheet(QStringLiteral("Wizard: summary"), rows, kBackdrop),
@@ -180,7 +155,8 @@ void renderWizard() {
 
     rows.clear();
     chooser->setCurrentIndex(0);
-    rows.push_back({{"backup-now question after the device was created", backupNowOver(w)}});
+    rows.push_back(
+        {{"backup-now question after the device was created", sheetOver(w, [&] { w.askBackupNow(); })}});
     gallery::save(gallery::sheet(QStringLiteral("Wizard: back up now?"), rows, kBackdrop),
                   QStringLiteral("wizard-backup-now.png"));
   }

@@ -4,10 +4,9 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "ui-agent/core/string-display.h"
 #include "widgets/accessible-text.h"
 #include "widgets/dpi-info.h"
-#include "ui-agent/tray/status-page-model.h"
-#include "ui-agent/core/string-display.h"
 #include "widgets/vell-label.h"
 
 namespace {
@@ -65,14 +64,6 @@ BackupScheduleInfoWidget::BackupScheduleInfoWidget(QWidget* parent) : QFrame(par
   addRow(last_caption_, last_value_);
   layout->addSpacing(DPIinfo::scaled(4));
   addRow(next_caption_, next_value_);
-}
-
-void BackupScheduleInfoWidget::setLastBackupTime(quint64 secs) {
-  setLastBackupText(tray_status_page::last_backup_text(secs));
-}
-
-void BackupScheduleInfoWidget::setNextBackupTime(quint64 secs) {
-  setNextBackupText(tray_status_page::next_backup_text(secs));
 }
 
 void BackupScheduleInfoWidget::setLastBackupText(const QString& text) {

@@ -12,16 +12,11 @@ class BackupScheduleInfoWidget : public QFrame {
  public:
   explicit BackupScheduleInfoWidget(QWidget* parent = nullptr);
 
-  // Seconds since the epoch; 0 shows "Not backed up yet" / "No backup schedule".
-  void setLastBackupTime(quint64 secs);
-  void setNextBackupTime(quint64 secs);
-  // The status page writes the schedule-type texts straight into the value.
-  // A value wider than its label is elided, with the whole text as tool tip.
-  // The values as shown (and as screen readers hear them, with the captions).
+  // The values as the status page words them (status-page-model.h). A value
+  // wider than its label is elided, with the whole text as tool tip; screen
+  // readers hear it whole, with its caption.
   void setLastBackupText(const QString& text);
   void setNextBackupText(const QString& text);
-  VellLabel* nextBackupLabel() const { return next_value_; }
-  VellLabel* lastBackupLabel() const { return last_value_; }
 
  private:
   VellLabel* last_caption_;

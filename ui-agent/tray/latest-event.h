@@ -23,7 +23,6 @@ class LatestEventLine {
   QLabel* ageLabel() const { return age_; }
 
   void setEntry(const LogEntry& entry);
-  bool hasEntry() const { return entry_.has_value(); }
   // Shows the fitted message (fitting it first if the entry changed) and
   // the age at `now`.
   void refresh(qint64 now);

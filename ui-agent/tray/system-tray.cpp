@@ -13,15 +13,10 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include "widgets/accessible-text.h"
+#include "logging/logger.h"
 #include "ui-agent/core/global-connecter.h"
 #include "ui-agent/core/notification-text.h"
-#include "widgets/dpi-info.h"
-#include "widgets/image-manager.h"
-#include "vantor-core/lib/json-access.h"
-#include "logging/logger.h"
 #include "ui-agent/core/string-display.h"
-#include "widgets/style-manager.h"
 #include "ui-agent/tray/popup-surface.h"
 #include "ui-agent/tray/quota-info-widget.h"
 #include "ui-agent/tray/status-notifier-item.h"
@@ -29,6 +24,11 @@
 #include "ui-agent/tray/tray-menu.h"
 #include "ui-agent/tray/tray-placement.h"
 #include "ui-agent/tray/tray-theme.h"
+#include "vantor-core/lib/json-access.h"
+#include "widgets/accessible-text.h"
+#include "widgets/dpi-info.h"
+#include "widgets/image-manager.h"
+#include "widgets/style-manager.h"
 #include "widgets/window-placement.h"
 
 // ---- TrayMenuContainer ----------------------------------------------------
@@ -217,7 +217,7 @@ void SystemTray::buildPopup() {
   if (menu_) return;
   menu_ = new TrayMenu();
   container_ = new TrayMenuContainer(menu_);
-  menu_->setFixedSize(DPIinfo::scaled(400), DPIinfo::scaled(232));
+  menu_->setFixedSize(TrayMenu::scaledSize());
   connect(menu_, &TrayMenu::sigTrayStatusChanged, this, &SystemTray::slotStatusChanged);
 }
 
@@ -334,10 +334,10 @@ void SystemTray::slotStatusChanged(TrayStatus s) {
   applyIcon();
 }
 
-void SystemTray::setConnectionMode(int mode) {
+void SystemTray::setConnectionMode(ConnectionMode mode) {
   mode_ = mode;
   facts_.mode = mode;
-  if (mode != 1 && rightMenu_) {
+  if (mode != ConnectionMode::Connected && rightMenu_) {
     setContextMenu(nullptr);
     rightMenu_->deleteLater();
     rightMenu_ = nullptr;
@@ -347,7 +347,7 @@ void SystemTray::setConnectionMode(int mode) {
     facts_.status = StatusUnknown;
     facts_.content = Json::Value();
     applyIcon();
-  } else if (mode == 1 && !rightMenu_) {
+  } else if (mode == ConnectionMode::Connected && !rightMenu_) {
     buildRightMenu();
   }
   applyView();
@@ -404,7 +404,7 @@ void SystemTray::applyView() {
 }
 
 void SystemTray::showMenuAt(QPoint p) {
-  if (mode_ != 1) return;
+  if (mode_ != ConnectionMode::Connected) return;
   if (!trayAvailable()) {
     container()->showAsWindow();
     return;
@@ -428,9 +428,9 @@ bool SystemTray::trayAvailable() const {
 }
 
 void SystemTray::click(bool pointerCounts) {
-  if (mode_ == 2) {
+  if (mode_ == ConnectionMode::NotConnected) {
     emit sigTrayClickedWithoutConnection();
-  } else if (mode_ == 1) {
+  } else if (mode_ == ConnectionMode::Connected) {
     if (!trayAvailable()) {
       container()->showAsWindow();
       return;

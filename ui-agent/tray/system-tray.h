@@ -5,7 +5,7 @@
 // colour deciding between the light and the dark picture), opens the pop-up
 // on a click while connected or asks for the wizard while not, closes the
 // pop-up on a press outside it, shows balloons and carries the right-click
-// menu, which exists exactly while connected (mode 1): open the pop-up,
+// menu, which exists exactly while connected (ConnectionMode::Connected): open the pop-up,
 // "Back up now" (with why it is disabled), the activity dialog, settings and
 // "Exit". The tool tip names the state (tray-icon-model.h).
 //
@@ -115,14 +115,12 @@ class SystemTray : public QObject {
   // corner where the tray tells its place, else as clickAnchor() without
   // the pointer.
   QPoint openAnchor() const;
-  StatusNotifierItem* statusNotifierItem() const { return sni_; }
-  // Qt's tray icon, once there was no StatusNotifierItem panel to use.
-  QSystemTrayIcon* xembedIcon() const { return xembed_; }
 
-  // 0 no action on click, 1 connected, 2 not connected (see the class comment).
-  void setConnectionMode(int mode);
-  int connectionMode() const { return mode_; }
-  // In mode 1: places and shows the pop-up at `p`, raises and activates it;
+  // What a click does, and whether the right-click menu exists (see the
+  // class comment).
+  void setConnectionMode(ConnectionMode mode);
+  ConnectionMode connectionMode() const { return mode_; }
+  // While connected: places and shows the pop-up at `p`, raises and activates it;
   // as a window when there is no notification area.
   void showMenuAt(QPoint p);
   // One balloon per notification, each replacing the one before.
@@ -142,12 +140,8 @@ class SystemTray : public QObject {
   TrayMenuContainer* container();
   void buildPopup();
   QMenu* rightMenu() const { return rightMenu_; }
-  // What the tool tip and the right-click menu show now.
-  const tray_icon_model::View& iconView() const { return view_; }
-  TrayStatus trayStatus() const { return status_; }
   // The picture name now shown, "_dark" included.
   QString currentIconName() const { return iconName_; }
-  PanelThemeWatcher* themeWatcher() const { return theme_; }
 
   // While it answers true, presses outside do not close the pop-up; by
   // default while the menu's user drop-down is open.
@@ -192,7 +186,7 @@ class SystemTray : public QObject {
 
   TrayMenu* menu_ = nullptr;
   TrayMenuContainer* container_ = nullptr;
-  int mode_ = 0;
+  ConnectionMode mode_ = ConnectionMode::Inactive;
   TrayStatus status_ = TrayIdle;
   QMenu* rightMenu_ = nullptr;
   QAction* backupNow_ = nullptr;

@@ -1,10 +1,10 @@
 #include "ui-agent/tray/tray-icon-model.h"
 
-#include "vantor-core/lib/json-access.h"
 #include "ui-agent/core/string-display.h"
 #include "ui-agent/tray/progress-page-model.h"
 #include "ui-agent/tray/status-page-model.h"
 #include "ui-agent/tray/tray-menu-model.h"
+#include "vantor-core/lib/json-access.h"
 
 namespace tray_icon_model {
 
@@ -12,8 +12,8 @@ namespace {
 
 QString state_line(const Facts& f, bool running) {
   using string_display::text;
-  if (f.mode == 2) return text(Str::tray_tip_not_set_up);
-  if (f.mode != 1) return QString();
+  if (f.mode == ConnectionMode::NotConnected) return text(Str::tray_tip_not_set_up);
+  if (f.mode != ConnectionMode::Connected) return QString();
   if (!f.reachable) return text(Str::tray_tip_unreachable);
   if (running) {
     const tray_progress_page::View p = tray_progress_page::view_for(f.status, f.content, 0, 0);
@@ -32,11 +32,12 @@ QString state_line(const Facts& f, bool running) {
 
 View view_for(const Facts& f) {
   View v;
-  const bool running = f.mode == 1 && tray_menu_model::shows_progress_page(f.status, f.content);
+  const bool running =
+      f.mode == ConnectionMode::Connected && tray_menu_model::shows_progress_page(f.status, f.content);
   const QString line = state_line(f, running);
   v.tool_tip = string_display::text(Str::app_name);
   if (!line.isEmpty()) v.tool_tip += QLatin1Char('\n') + line;
-  if (f.mode != 1) {
+  if (f.mode != ConnectionMode::Connected) {
     v.backup_reason = Str::tray_tip_not_set_up;
   } else if (!f.reachable) {
     v.backup_reason = Str::tray_tip_unreachable;

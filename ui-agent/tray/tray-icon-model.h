@@ -7,15 +7,24 @@
 
 #include <QString>
 
+#include <cstdint>
 #include <optional>
 
-#include "ui-agent/core/service-status.h"
 #include "ui-agent/catalogue/string-catalogue.h"
+#include "ui-agent/core/service-status.h"
+
+// The tray's connection mode, set by the client manager; the numbers are the
+// ones the mode has always carried (logs and the tests' tables show them).
+enum class ConnectionMode : std::int32_t {
+  Inactive = 0,      // a click does nothing: before the connection record, and after "Exit"
+  Connected = 1,     // a click opens the pop-up; the right-click menu exists
+  NotConnected = 2,  // the device is not linked: a click asks for the wizard
+};
 
 namespace tray_icon_model {
 
 struct Facts {
-  int mode = 0;           // the tray's connection mode: 1 connected, 2 not set up, 0 neither yet
+  ConnectionMode mode = ConnectionMode::Inactive;
   bool reachable = true;  // the latest request reached the service
   ServiceStatus status = StatusUnknown;
   Json::Value content;  // the latest status content

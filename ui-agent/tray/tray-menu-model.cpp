@@ -5,10 +5,8 @@
 namespace tray_menu_model {
 
 bool shows_progress_page(ServiceStatus status, const Json::Value& content) {
-  const std::int32_t category = service_status::category(status);
-  const bool connected = jsonx::get_bool(content, "connected");
-  // The category is a 4-bit field, compared as the unsigned number it is.
-  return category != StatusIdle && static_cast<std::uint32_t>(category) < 0xF000u && connected;
+  return !service_status::is_idle(status) && !service_status::is_error(status) &&
+         jsonx::get_bool(content, "connected");
 }
 
 bool keep_entries(QList<LogEntry>& kept, const QList<LogEntry>& incoming) {

@@ -10,19 +10,19 @@
 #include <QVBoxLayout>
 #include <QWidgetAction>
 
-#include "ui-agent/core/global-connecter.h"
-#include "ui-agent/dialogs/settings-widget.h"
-#include "widgets/dpi-info.h"
-#include "widgets/image-manager.h"
-#include "vantor-core/lib/json-access.h"
-#include "ui-agent/tray/log-widget.h"
 #include "logging/logger.h"
-#include "ui-agent/tray/quota-info-widget.h"
+#include "ui-agent/core/global-connecter.h"
 #include "ui-agent/core/string-display.h"
-#include "widgets/style-manager.h"
+#include "ui-agent/dialogs/settings-widget.h"
+#include "ui-agent/tray/log-widget.h"
+#include "ui-agent/tray/quota-info-widget.h"
 #include "ui-agent/tray/tray-menu-model.h"
 #include "ui-agent/tray/tray-progress-widget.h"
 #include "ui-agent/tray/tray-status-widget.h"
+#include "vantor-core/lib/json-access.h"
+#include "widgets/dpi-info.h"
+#include "widgets/image-manager.h"
+#include "widgets/style-manager.h"
 #include "widgets/vell-button.h"
 #include "widgets/window-placement.h"
 
@@ -46,6 +46,10 @@ QString readable(const QLabel* label) {
   return document.toPlainText().simplified();
 }
 }  // namespace
+
+QSize TrayMenu::scaledSize() {
+  return {DPIinfo::scaled(kSize.width()), DPIinfo::scaled(kSize.height())};
+}
 
 TrayMenu::TrayMenu(QWidget* parent) : QFrame(parent) {
   setObjectName(QStringLiteral("TrayMenu"));

@@ -9,6 +9,7 @@
 
 #include <QFrame>
 #include <QList>
+#include <QSize>
 
 #include "ui-agent/core/log-entry.h"
 #include "ui-agent/core/service-status.h"
@@ -30,6 +31,11 @@ class TrayMenu : public QFrame {
   Q_OBJECT
 
  public:
+  // The pop-up's size in logical pixels; the tray shows it at
+  // scaledSize(), this size times the interface scale.
+  static constexpr QSize kSize{400, 232};
+  static QSize scaledSize();
+
   explicit TrayMenu(QWidget* parent = nullptr);
   ~TrayMenu() override;
 

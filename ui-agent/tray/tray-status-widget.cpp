@@ -7,17 +7,15 @@
 #include <QTextDocumentFragment>
 #include <QVBoxLayout>
 
+#include "ui-agent/core/string-display.h"
 #include "ui-agent/tray/backup-schedule-info-widget.h"
+#include "ui-agent/tray/latest-event.h"
+#include "ui-agent/tray/status-page-model.h"
 #include "widgets/copyable-text.h"
 #include "widgets/dpi-info.h"
 #include "widgets/image-manager.h"
-#include "ui-agent/tray/latest-event.h"
-#include "ui-agent/tray/status-page-model.h"
-#include "ui-agent/core/string-display.h"
 #include "widgets/style-manager.h"
 #include "widgets/vell-label.h"
-
-namespace {}  // namespace
 
 TrayStatusWidget::TrayStatusWidget(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("TrayStatusWidget"));

@@ -14,9 +14,6 @@ class WelcomePage : public QWidget {
 
   QPushButton* startButton() const { return start_; }
 
- signals:
-  void sigNextPage();
-
  protected:
   void showEvent(QShowEvent* event) override;
 

@@ -8,21 +8,21 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
-#include "widgets/accessible-text.h"
+#include "logging/logger.h"
 #include "ui-agent/core/global-connecter.h"
 #include "ui-agent/core/service-error-text.h"
 #include "ui-agent/core/status-store.h"
+#include "ui-agent/core/string-display.h"
+#include "ui-agent/wizard/nimbra-loading-frame.h"
+#include "ui-agent/wizard/summary-page.h"
+#include "ui-agent/wizard/welcome-page.h"
+#include "vantor-core/lib/json-access.h"
+#include "widgets/accessible-text.h"
 #include "widgets/dpi-info.h"
 #include "widgets/image-manager.h"
-#include "vantor-core/lib/json-access.h"
-#include "logging/logger.h"
-#include "ui-agent/wizard/nimbra-loading-frame.h"
-#include "ui-agent/core/string-display.h"
 #include "widgets/style-manager.h"
-#include "ui-agent/wizard/summary-page.h"
 #include "widgets/vell-mask.h"
 #include "widgets/vell-message-sheet.h"
-#include "ui-agent/wizard/welcome-page.h"
 #include "widgets/window-placement.h"
 
 namespace {
@@ -163,6 +163,30 @@ void Wizard::showError(int code, const Json::Value& response) {
   sheet.setAccessibleName(message);
   VellMask::createMask(&sheet, this, kMaskColour);
   sheet.exec();
+}
+
+bool Wizard::askBackupNow() {
+  VellMessageSheet sheet(VellMessageSheet::Question, this, true, QMessageBox::Discard | QMessageBox::Apply);
+  sheet.setFixedHeight(DPIinfo::scaled(158));
+  sheet.setMaximumWidth(DPIinfo::scaled(480));
+  VellMask::createMask(&sheet, this, kMaskColour);
+  sheet.setText(text(Str::desc_backup_confirm));
+  const QSize buttonSize(DPIinfo::scaled(100), DPIinfo::scaled(32));
+  if (QPushButton* notNow = sheet.button(QMessageBox::Discard)) {
+    notNow->setText(text(Str::btn_not_now));
+    notNow->setStyleSheet(getStyleSheet(QStringLiteral("nimbra_button_normal")));
+    notNow->setFixedSize(buttonSize);
+  }
+  if (QPushButton* ok = sheet.button(QMessageBox::Apply)) {
+    ok->setText(text(Str::btn_ok));
+    ok->setStyleSheet(getStyleSheet(QStringLiteral("nimbra_button_2")));
+    ok->setFixedSize(buttonSize);
+  }
+  LOG_DEBUG(vlog::kDefaultComponent, "wizard: asking whether to back up now");
+  const bool now = sheet.exec() == QMessageBox::Apply;
+  sheet.quit();
+  LOG_DEBUG(vlog::kDefaultComponent, "wizard: back up now: %s", now ? "yes" : "not now");
+  return now;
 }
 
 void Wizard::slotReviewSummaryDone() {

@@ -1,7 +1,8 @@
 #pragma once
 // The first-run wizard that links this device to a cloud account. It holds
 // the welcome page and the summary page and the modal sheets that cover it
-// while the agent waits for the browser sign-in or for the service. It never
+// while the agent waits for the browser sign-in or for the service, and
+// asks whether to back up once the device is linked. It never
 // talks to the service: the client manager sends every request and calls
 // the operations below on each answer; the user's choices go out on the bus.
 
@@ -37,6 +38,9 @@ class Wizard : public QWidget {
   // Ends the connecting frame, then shows the message for `code` in an
   // error sheet and waits for the user.
   void showError(int code, const Json::Value& response = Json::Value());
+  // Once the device is linked: whether to back up now ("OK") or not yet
+  // ("Not Now", Escape), in a question sheet over the wizard.
+  bool askBackupNow();
 
   WelcomePage* welcomePage() const { return welcome_; }
   SummaryPage* summaryPage() const { return summary_; }
@@ -50,7 +54,6 @@ class Wizard : public QWidget {
   static Qt::WindowFlags windowFlagsOfWizard();
 
  signals:
-  void sigShowSummaryPage();
   void sigCreateDevice(const QString& zid, const QString& sub_id, const QString& account_type);
   void sigGetAuthURL();
 

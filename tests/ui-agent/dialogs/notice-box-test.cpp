@@ -1,18 +1,20 @@
-// The message boxes' text broken into lines that fit: the lines rule, and a
-// finished box whose label is as wide as its widest line.
+// The message boxes' text broken into lines that fit: the lines rule, the
+// boxes as the agent builds them (labels as wide as their widest line), and
+// what running one returns.
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QFontMetrics>
 #include <QLabel>
 #include <QMessageBox>
-#include <QPushButton>
+#include <QTest>
+#include <QTimer>
 
 #include "tests/ui-agent/agent-test.h"
-#include "ui-agent/dialogs/notice-box.h"
 #include "ui-agent/core/string-display.h"
-#include "widgets/style-manager.h"
+#include "ui-agent/dialogs/notice-box.h"
 
 namespace {
 
@@ -46,25 +48,34 @@ TEST(NoticeBox, WrapLinesFitAndKeepEveryCharacter) {
   }
 }
 
-TEST(NoticeBox, LongQuestionWrapsInTheStyleSheetsFontAndButtonsLoseThemeIcons) {
+TEST(NoticeBox, BoxesWrapInTheStyleSheetsFontAndButtonsLoseThemeIcons) {
   qputenv("NIMBRA_UI_SCALE", "1");
   agent_test::loadLook();
-  QMessageBox box;
-  box.setText(string_display::text(Str::desc_confirm_logout));
-  box.setStyleSheet(getStyleSheet(QStringLiteral("component.confirm_message_box")));
-  QPushButton* cancel = box.addButton(QMessageBox::Cancel);
-  notice_box::finish(box);
-
-  auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
-  ASSERT_NE(label, nullptr);
-  const QStringList lines = label->text().split('\n');
-  ASSERT_GE(lines.size(), 2) << "the question is wider than a box line";
-  const QFontMetrics fm(label->font());
-  for (const QString& line : lines) {
-    EXPECT_LE(fm.horizontalAdvance(line), notice_box::kTextWidth) << line.toStdString();
-    EXPECT_LE(fm.horizontalAdvance(line) + 2, label->minimumWidth()) << line.toStdString();
+  for (const auto& [box, text] : {std::pair{notice_box::logout_question(), Str::desc_confirm_logout},
+                                  std::pair{notice_box::exit_notice(), Str::desc_exit_app}}) {
+    auto* label = box->findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    ASSERT_NE(label, nullptr);
+    const QStringList lines = label->text().split('\n');
+    EXPECT_EQ(lines.join(' '), string_display::text(text));
+    const QFontMetrics fm(label->font());
+    for (const QString& line : lines) {
+      EXPECT_LE(fm.horizontalAdvance(line), notice_box::kTextWidth) << line.toStdString();
+      EXPECT_LE(fm.horizontalAdvance(line) + 2, label->minimumWidth()) << line.toStdString();
+    }
+    for (QAbstractButton* b : box->buttons()) EXPECT_TRUE(b->icon().isNull());
   }
-  EXPECT_TRUE(cancel->icon().isNull());
+}
+
+// Escape is "Cancel"; the role of the pressed button is the answer.
+TEST(NoticeBox, AskReturnsTheRoleOfThePressedButton) {
+  const auto box = notice_box::logout_question();
+  QTimer::singleShot(0, box.get(), [&box] { QTest::keyClick(box.get(), Qt::Key_Escape); });
+  EXPECT_EQ(notice_box::ask(*box), QMessageBox::RejectRole);
+  QTimer::singleShot(0, box.get(), [&box] {
+    for (QAbstractButton* b : box->buttons())
+      if (box->buttonRole(b) == QMessageBox::ApplyRole) b->click();
+  });
+  EXPECT_EQ(notice_box::ask(*box), QMessageBox::ApplyRole);
 }
 
 }  // namespace

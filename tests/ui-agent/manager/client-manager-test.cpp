@@ -1,6 +1,7 @@
 // The client manager driven through the bus: a scripted service end answers
-// its requests, sheets and boxes are answered like a user would, and the
-// effects are read from the requests, the store, the tray and the log.
+// its requests, each test gives the answers to the sheets and boxes it
+// expects, and the effects are read from the requests, the store, the tray
+// and the log.
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
@@ -9,7 +10,6 @@
 #include <QDesktopServices>
 #include <QElapsedTimer>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QStackedWidget>
 #include <QTest>
 #include <QTimer>
@@ -23,18 +23,18 @@
 #include "ui-agent/app/client-manager.h"
 #include "ui-agent/core/get-status-worker.h"
 #include "ui-agent/core/global-connecter.h"
-#include "ui-agent/core/service-error-text.h"
-#include "ui-agent/core/status-store.h"
-#include "ui-agent/dialogs/update-status-dialog.h"
 #include "ui-agent/core/service-communicator.h"
+#include "ui-agent/core/status-store.h"
+#include "ui-agent/dialogs/notice-box.h"
+#include "ui-agent/dialogs/update-status-dialog.h"
 #include "ui-agent/tray/log-widget.h"
 #include "ui-agent/tray/system-tray.h"
 #include "ui-agent/tray/tray-menu.h"
-#include "widgets/ui-path-manager.h"
-#include "widgets/vell-message-sheet.h"
 #include "ui-agent/wizard/nimbra-loading-frame.h"
 #include "ui-agent/wizard/summary-page.h"
 #include "ui-agent/wizard/wizard.h"
+#include "widgets/ui-path-manager.h"
+#include "widgets/vell-message-sheet.h"
 
 namespace {
 
@@ -67,25 +67,11 @@ class Manager : public ::testing::Test {
     QObject::connect(&bus, &GlobalConnecter::sigQueryService, &script_,
                      [this](const QObject* sender, Json::Value request) { serve(sender, request); });
     QDesktopServices::setUrlHandler("https", &urls_, "open");
-    // Answers question and error sheets as a user would, and notes their texts.
-    QObject::connect(&answerer_, &QTimer::timeout, [this] {
-      for (VellMessageSheet* sheet : VellMessageSheet::runningSheets()) {
-        if (sheet->messageType() == VellMessageSheet::Notice) continue;
-        sheets_ << sheet->text();
-        sheet->quit(sheet->messageType() == VellMessageSheet::Question ? questionAnswer_ : QMessageBox::Ok);
-      }
-      if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-        boxes_ << box->text();
-        QAbstractButton* pick = nullptr;
-        for (QAbstractButton* b : box->buttons())
-          if (box->buttonRole(b) == boxRole_ || (!pick && box->buttons().size() == 1)) pick = b;
-        if (pick) pick->click();
-      }
-    });
-    answerer_.start(20);
   }
   ~Manager() override {
-    answerer_.stop();
+    // Every answer a test gave was taken: each sheet or box it expected came.
+    EXPECT_EQ(VellMessageSheet::clearNextAnswers(), 0);
+    EXPECT_EQ(notice_box::clearNextAnswers(), 0);
     QDesktopServices::unsetUrlHandler("https");
     manager_.reset();
     StatusStore::instance().clearConnection();
@@ -159,26 +145,22 @@ class Manager : public ::testing::Test {
   agent_test::LogCapture log_;
   std::unique_ptr<ClientManager> manager_;
   QObject script_;
-  QTimer answerer_;
   UrlCatcher urls_;
   std::map<std::string, Json::Value> answers_;
   std::set<std::string> failing_;  // actions whose exchange fails
   std::vector<Json::Value> requests_;
-  QStringList sheets_, boxes_;
-  int questionAnswer_ = QMessageBox::Apply;
-  QMessageBox::ButtonRole boxRole_ = QMessageBox::ApplyRole;
 };
 
 TEST_F(Manager, TokenWithoutSignInUnderWayIsIgnored) {
   manager_->start(false);
   send(QString(kScheme) + "?access_token=abc");
   EXPECT_EQ(count("get_token"), 0);
-  // Also after a failed "get_auth".
+  // Also after a failed "get_auth" (the sign-in notice, then the error).
   answer("get_auth", R"({"error":{"code":5}})");
-  QTimer::singleShot(0, [] { emit GlobalConnecter::instance().sigGetAuthURL(); });
-  ASSERT_TRUE(until([this] { return !sheets_.isEmpty(); }));
-  ASSERT_TRUE(
-      until([this] { return !manager_->isAuthPending() && VellMessageSheet::runningSheets().isEmpty(); }));
+  VellMessageSheet::setNextAnswer(QMessageBox::NoButton);
+  VellMessageSheet::setNextAnswer(QMessageBox::Ok);
+  emit GlobalConnecter::instance().sigGetAuthURL();
+  ASSERT_TRUE(until([this] { return !manager_->isAuthPending(); }));
   send(QString(kScheme) + "?access_token=abc");
   EXPECT_EQ(count("get_token"), 0);
   EXPECT_NE(log_.text().find("failed to get auth URL"), std::string::npos);
@@ -224,18 +206,19 @@ TEST_F(Manager, RegistrationEndToEnd) {
   ServiceStatus status;
   Json::Value content;
   StatusStore::instance().getStatus(status, content);
-  EXPECT_EQ(static_cast<int>(status), 0x1002);
+  EXPECT_EQ(status, StatusSiteInfo);
 
-  QTimer::singleShot(0, [] { emit GlobalConnecter::instance().sigCreateDevice("z1", "s1", "vell"); });
-  ASSERT_TRUE(until(
-      [this] { return manager_->systemTray()->connectionMode() == 1 && count("get_connection_info") == 1; }));
+  VellMessageSheet::setNextAnswer(QMessageBox::Apply);  // back up now
+  emit GlobalConnecter::instance().sigCreateDevice("z1", "s1", "vell");
+  ASSERT_TRUE(until([this] {
+    return manager_->systemTray()->connectionMode() == ConnectionMode::Connected &&
+           count("get_connection_info") == 1;
+  }));
   EXPECT_EQ(actions(), (std::vector<std::string>{"get_auth", "get_token", "get_site_info", "create_device",
                                                  "backup_now", "get_connection_info"}));
   EXPECT_EQ(requests_.at(3)["zid"].asString(), "z1");
   EXPECT_EQ(requests_.at(3)["subscription_id"].asString(), "s1");
   EXPECT_EQ(requests_.at(3)["account_type"].asString(), "vell");
-  EXPECT_TRUE(sheets_.contains(
-      QStringLiteral("You're all set for backup. Do you want to back up this device right now?")));
   EXPECT_FALSE(manager_->wizardWindow()->isVisible());
   EXPECT_TRUE(manager_->statusPoller()->isPolling());
   EXPECT_FALSE(QGuiApplication::quitOnLastWindowClosed());
@@ -253,16 +236,15 @@ TEST_P(RegistrationFailure, ReturnsToTheWelcomePageWithTheGenericError) {
   answer("get_token", "{}");
   failing_.insert(failing);
   urls_.then = [] { send(QString(kScheme) + "?access_token=tok"); };
-  QTimer::singleShot(0, [failing] {
-    if (failing == "create_device")
-      emit GlobalConnecter::instance().sigCreateDevice("z1", "s1", "vell");
-    else
-      emit GlobalConnecter::instance().sigGetAuthURL();
-  });
-  const QString generic = service_error::message(-1);
-  ASSERT_TRUE(until([&] { return sheets_.contains(generic); })) << sheets_.join('|').toStdString();
+  if (failing != "create_device") VellMessageSheet::setNextAnswer(QMessageBox::NoButton);  // sign-in notice
+  VellMessageSheet::setNextAnswer(QMessageBox::Ok);                                        // the error
+  if (failing == "create_device")
+    emit GlobalConnecter::instance().sigCreateDevice("z1", "s1", "vell");
+  else
+    emit GlobalConnecter::instance().sigGetAuthURL();
+  ASSERT_TRUE(until([this] { return log_.text().find("wizard shows error -1:") != std::string::npos; }))
+      << log_.text();
   Wizard* wizard = manager_->wizardWindow();
-  ASSERT_TRUE(until([&] { return VellMessageSheet::runningSheets().isEmpty(); }));
   EXPECT_TRUE(wizard->connectingFrame() == nullptr || !wizard->connectingFrame()->isVisible());
   EXPECT_EQ(wizard->pageStack()->currentWidget(), reinterpret_cast<QWidget*>(wizard->welcomePage()));
   EXPECT_FALSE(manager_->isAuthPending());
@@ -274,16 +256,17 @@ INSTANTIATE_TEST_SUITE_P(Requests, RegistrationFailure,
 
 TEST_F(Manager, SiteInfoWithErrorButDataSucceeds) {
   manager_->start(false);
+  VellMessageSheet::setNextAnswer(QMessageBox::Ok);
   reply("get_site_info", R"({"error":{"code":7},"data":[{"zid":"z"}]})");
   ServiceStatus status;
   Json::Value content;
   StatusStore::instance().getStatus(status, content);
-  EXPECT_EQ(static_cast<int>(status), 0x1002);
-  EXPECT_TRUE(sheets_.isEmpty());
+  EXPECT_EQ(status, StatusSiteInfo);
+  EXPECT_EQ(VellMessageSheet::clearNextAnswers(), 1) << "an error sheet was shown";
   EXPECT_EQ(log_.text().find("failed to get site info"), std::string::npos);
   // Without data it fails, with the error sheet.
-  QTimer::singleShot(0, [this] { reply("get_site_info", R"({"error":{"code":7},"data":[]})"); });
-  ASSERT_TRUE(until([this] { return !sheets_.isEmpty(); }));
+  VellMessageSheet::setNextAnswer(QMessageBox::Ok);
+  reply("get_site_info", R"({"error":{"code":7},"data":[]})");
   EXPECT_NE(log_.text().find("failed to get site info"), std::string::npos);
 }
 
@@ -310,7 +293,7 @@ TEST_F(Manager, OldLogIdsDroppedNewOnesSortedAndKept) {
   ASSERT_EQ(kept.size(), 2);  // (which ids are new is the rule's table)
   // Not linked any more: back to setup.
   emit bus.sigNotifyStatusChange(ServiceStatus(0x2000), ServiceStatus(0x1005), Json::Value());
-  EXPECT_EQ(manager_->systemTray()->connectionMode(), 2);
+  EXPECT_EQ(manager_->systemTray()->connectionMode(), ConnectionMode::NotConnected);
   EXPECT_FALSE(manager_->statusPoller()->isPolling());
   EXPECT_EQ(StatusStore::instance().getLastLogId(), 0u);
   EXPECT_TRUE(QGuiApplication::quitOnLastWindowClosed());
@@ -338,17 +321,19 @@ TEST_F(Manager, FailuresWhilePollingResetByStatusFatalAtThirtyOne) {
   EXPECT_EQ(manager_->failures(), 29);
   emit bus.sigNotifyStatusChange(ServiceStatus(0), ServiceStatus(0x2000), Json::Value());
   EXPECT_EQ(manager_->failures(), 0);
+  VellMessageSheet::setNextAnswer(QMessageBox::Ok);
   for (int i = 0; i < 30; ++i) emit bus.sigQueryServiceFailed();
-  EXPECT_TRUE(sheets_.isEmpty());
+  EXPECT_EQ(VellMessageSheet::clearNextAnswers(), 1) << "a warning before the 31st failure";
+  VellMessageSheet::setNextAnswer(QMessageBox::Ok);
   EXPECT_TRUE(quitsDuring([&bus] { emit bus.sigQueryServiceFailed(); }));
-  ASSERT_EQ(sheets_.size(), 1);
-  EXPECT_TRUE(sheets_.first().startsWith(QStringLiteral("The service cannot be activated normally.")));
+  EXPECT_NE(log_.text().find("warning shown: [Nimbra Backup] The service cannot be activated normally."),
+            std::string::npos);
   // Nothing more is asked while the warning is up.
   EXPECT_FALSE(manager_->statusPoller()->isPolling());
   // No longer listening: a further failure shows nothing.
+  VellMessageSheet::setNextAnswer(QMessageBox::Ok);
   emit bus.sigQueryServiceFailed();
-  QTest::qWait(100);
-  EXPECT_EQ(sheets_.size(), 1);
+  EXPECT_EQ(VellMessageSheet::clearNextAnswers(), 1);
 }
 
 TEST_F(Manager, FailureBeforeTheConnectionRetriesInASecondAndTheRecordResetsTheCount) {
@@ -369,9 +354,10 @@ TEST_F(Manager, ErrorAnswersAreLoggedMasked) {
   // (Which names and parameters are secret is json-access's table.)
   const char* const answer = R"({"error":{"code":17,"base_url":"https://c.example/k?x=1&ACCESS_TOKEN=S1"},
       "token":"S2","sessionKey":"S6"})";
-  for (const char* action : {"get_auth", "get_token", "get_site_info", "create_device"})
+  for (const char* action : {"get_auth", "get_token", "get_site_info", "create_device"}) {
+    VellMessageSheet::setNextAnswer(QMessageBox::Ok);
     reply(action, answer);
-  ASSERT_TRUE(until([this] { return sheets_.size() >= 4 && VellMessageSheet::runningSheets().isEmpty(); }));
+  }
   const std::string logged = log_.text();
   EXPECT_NE(logged.find("failed to create device"), std::string::npos);
   for (const char* secret : {"S1", "S2", "S6"})
@@ -406,22 +392,21 @@ TEST_F(Manager, UpdateErrorShowsTheButtonWithoutMinimize) {
   // The record without update_status hides the dialog.
   reply("get_connection_info", "{}");
   EXPECT_FALSE(dialog->isVisible());
-  EXPECT_EQ(manager_->systemTray()->connectionMode(), 2);
+  EXPECT_EQ(manager_->systemTray()->connectionMode(), ConnectionMode::NotConnected);
 }
 
 TEST_F(Manager, LogoutAfterConfirmationExitAfterNotice) {
   connect();
+  notice_box::setNextAnswer(QMessageBox::ApplyRole);
   emit GlobalConnecter::instance().sigLogoutService();
   EXPECT_EQ(count("logout"), 1);
-  EXPECT_EQ(manager_->systemTray()->connectionMode(), 2);
-  boxRole_ = QMessageBox::RejectRole;
+  EXPECT_EQ(manager_->systemTray()->connectionMode(), ConnectionMode::NotConnected);
+  notice_box::setNextAnswer(QMessageBox::RejectRole);
   emit GlobalConnecter::instance().sigLogoutService();
   EXPECT_EQ(count("logout"), 1);
+  notice_box::setNextAnswer(QMessageBox::AcceptRole);
   EXPECT_TRUE(quitsDuring([] { emit GlobalConnecter::instance().sigExitApplication(); }));
-  EXPECT_EQ(manager_->systemTray()->connectionMode(), 0);
-  // (Broken into lines as the font at hand needs.)
-  EXPECT_EQ(boxes_.last().replace('\n', ' '),
-            QStringLiteral("Closing this application will not stop the backup service."));
+  EXPECT_EQ(manager_->systemTray()->connectionMode(), ConnectionMode::Inactive);
 }
 
 // A push of thousands: the notifier gets the last five, the GUI thread does

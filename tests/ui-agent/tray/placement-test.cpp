@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "ui-agent/tray/layer-placement.h"
+#include "ui-agent/tray/tray-menu.h"
 #include "ui-agent/tray/tray-placement.h"
 
 namespace {
@@ -11,7 +12,7 @@ using tray_placement::AboveAnchor;
 using tray_placement::NotPlaced;
 using tray_placement::TopEdge;
 
-const QSize kPopup(400, 232);
+const QSize kPopup = TrayMenu::kSize;
 
 TEST(PopupPlacement, LandsWhereTheRuleSays) {
   // A 1280 x 800 screen; the taskbar takes 40 pixels (60 on the sides).
@@ -55,7 +56,7 @@ TEST(PopupPlacement, LandsWhereTheRuleSays) {
 }
 
 TEST(OutsidePress, BothBoundsInclusive) {
-  const QRect popup(100, 200, 400, 232);
+  const QRect popup(QPoint(100, 200), kPopup);
   for (const QPoint p : {QPoint(100, 200), QPoint(500, 300), QPoint(300, 432), QPoint(500, 432)})
     EXPECT_TRUE(tray_placement::pressInside(popup, p)) << p.x() << "," << p.y();
   for (const QPoint p : {QPoint(501, 300), QPoint(300, 433), QPoint(99, 300), QPoint(300, 199)})

@@ -9,10 +9,10 @@
 
 #include <memory>
 
+#include "tests/support/qt-print.h"
 #include "tests/ui-agent/agent-test.h"
 #include "ui-agent/core/global-connecter.h"
 #include "ui-agent/core/json-meta-type.h"
-#include "tests/support/qt-print.h"
 #include "ui-agent/tray/quota-info-widget.h"
 #include "ui-agent/tray/system-tray.h"
 #include "ui-agent/tray/tray-menu.h"
@@ -95,7 +95,7 @@ class TrayIcon : public ::testing::Test {
 
 TEST_F(TrayIcon, BuiltIdleAsksForTheConnectionAfterASecond) {
   QSignalSpy asked(&GlobalConnecter::instance(), &GlobalConnecter::sigGetConnectionInfo);
-  EXPECT_EQ(tray_->connectionMode(), 0);
+  EXPECT_EQ(tray_->connectionMode(), ConnectionMode::Inactive);
   EXPECT_EQ(tray_->rightMenu(), nullptr);
   EXPECT_EQ(tray_->toolTip(), QStringLiteral("Nimbra Backup"));
   EXPECT_EQ(tray_->currentIconName(), onPanel("logo_tray_icn_connect"));
@@ -111,12 +111,12 @@ TEST_F(TrayIcon, StateFromSlotAndMenuPicksThePictureAndLeavingConnectedClears) {
   EXPECT_EQ(tray_->currentIconName(), onPanel("logo_tray_icn_blue"));
   emit tray_->trayMenu()->sigTrayStatusChanged(TrayWarning);
   EXPECT_EQ(tray_->currentIconName(), onPanel("logo_tray_icn_orange"));
-  tray_->setConnectionMode(1);
+  tray_->setConnectionMode(ConnectionMode::Connected);
   tray_->appendLogEntries({LogEntry{7, 1700000000, 3, Json::Value(Json::objectValue)}});
   EXPECT_EQ(tray_->trayMenu()->logEntries().size(), 1);
   tray_->setAccountName(QStringLiteral("ann@example.com"));
   EXPECT_EQ(tray_->trayMenu()->quotaInfoWidget()->account(), QStringLiteral("ann@example.com"));
-  tray_->setConnectionMode(2);
+  tray_->setConnectionMode(ConnectionMode::NotConnected);
   EXPECT_TRUE(tray_->trayMenu()->logEntries().isEmpty());
   EXPECT_EQ(tray_->currentIconName(), onPanel("logo_tray_icn_connect"));
 }
@@ -124,7 +124,7 @@ TEST_F(TrayIcon, StateFromSlotAndMenuPicksThePictureAndLeavingConnectedClears) {
 TEST_F(TrayIcon, RightMenuExistsExactlyInModeOne) {
   QSignalSpy exit(&GlobalConnecter::instance(), &GlobalConnecter::sigExitApplication);
   QSignalSpy sent(&GlobalConnecter::instance(), &GlobalConnecter::sigQueryService);
-  tray_->setConnectionMode(1);
+  tray_->setConnectionMode(ConnectionMode::Connected);
   QMenu* menu = tray_->rightMenu();
   ASSERT_NE(menu, nullptr);
   EXPECT_EQ(tray_->contextMenu(), menu);
@@ -133,7 +133,7 @@ TEST_F(TrayIcon, RightMenuExistsExactlyInModeOne) {
   for (QAction* a : menu->actions()) names << (a->isSeparator() ? QStringLiteral("-") : a->objectName());
   EXPECT_EQ(names, QStringList({"OpenAction", "BackupNowAction", "BackupNowReason", "-", "ActivityAction",
                                 "SettingsAction", "-", "ExitAction"}));
-  tray_->setConnectionMode(1);
+  tray_->setConnectionMode(ConnectionMode::Connected);
   EXPECT_EQ(tray_->rightMenu(), menu);  // the same menu, not a second one
   auto* backup = menu->findChild<QAction*>("BackupNowAction");
   auto* reason = menu->findChild<QAction*>("BackupNowReason");
@@ -157,12 +157,12 @@ TEST_F(TrayIcon, RightMenuExistsExactlyInModeOne) {
   menu->findChild<QAction*>("ExitAction")->trigger();
   EXPECT_EQ(exit.count(), 1);
 
-  tray_->setConnectionMode(2);
+  tray_->setConnectionMode(ConnectionMode::NotConnected);
   EXPECT_EQ(tray_->rightMenu(), nullptr);
   EXPECT_EQ(tray_->contextMenu(), nullptr);
-  tray_->setConnectionMode(1);
+  tray_->setConnectionMode(ConnectionMode::Connected);
   ASSERT_NE(tray_->rightMenu(), nullptr);
-  tray_->setConnectionMode(0);
+  tray_->setConnectionMode(ConnectionMode::Inactive);
   EXPECT_EQ(tray_->rightMenu(), nullptr);
 }
 
@@ -173,14 +173,14 @@ TEST_F(TrayIcon, ClicksPerMode) {
   EXPECT_FALSE(activeOpensThePopup());
   EXPECT_EQ(wizard.count(), 0);
   // Mode 2: asks for the wizard, never opens the pop-up.
-  tray_->setConnectionMode(2);
+  tray_->setConnectionMode(ConnectionMode::NotConnected);
   tray_->slotIconActivated(QSystemTrayIcon::Trigger);
   EXPECT_FALSE(activeOpensThePopup());
   EXPECT_EQ(wizard.count(), 2);
   tray_->showMenuAt(QPoint(640, 780));
   EXPECT_FALSE(popup()->isVisible());
   // Mode 1: other reasons do nothing, a plain click opens the pop-up.
-  tray_->setConnectionMode(1);
+  tray_->setConnectionMode(ConnectionMode::Connected);
   for (auto reason : {QSystemTrayIcon::Context, QSystemTrayIcon::DoubleClick, QSystemTrayIcon::MiddleClick})
     tray_->slotIconActivated(reason);
   tray_->slotApplicationStateChanged(Qt::ApplicationInactive);
@@ -198,7 +198,7 @@ TEST_F(TrayIcon, ClicksPerMode) {
 // system may name the active window only after the application turned
 // active.
 TEST_F(TrayIcon, FocusTakenByTheAgentsOwnWindowsIsNoClick) {
-  tray_->setConnectionMode(1);
+  tray_->setConnectionMode(ConnectionMode::Connected);
   QWidget about;
   about.show();
   QApplication::setActiveWindow(&about);
@@ -221,7 +221,7 @@ TEST_F(TrayIcon, FocusTakenByTheAgentsOwnWindowsIsNoClick) {
 // A second show leaves the pop-up where it is; placed below its anchor or
 // above it, it is placed again from its anchor when its size changes.
 TEST_F(TrayIcon, PlacedOnceAndAgainOnResize) {
-  tray_->setConnectionMode(1);
+  tray_->setConnectionMode(ConnectionMode::Connected);
   tray_->showMenuAt(QPoint(640, 780));
   const QPoint first = popup()->pos();
   EXPECT_EQ(popup()->side(), 2);
@@ -242,7 +242,7 @@ TEST_F(TrayIcon, PlacedOnceAndAgainOnResize) {
 }
 
 TEST_F(TrayIcon, PressOnTheEdgeKeepsItOpenOnePastCloses) {
-  tray_->setConnectionMode(1);
+  tray_->setConnectionMode(ConnectionMode::Connected);
   tray_->showMenuAt(QPoint(640, 780));
   ASSERT_TRUE(popup()->isVisible());
   const QRect g = popup()->geometry();
@@ -266,7 +266,7 @@ TEST_F(TrayIcon, PressOnTheEdgeKeepsItOpenOnePastCloses) {
 
 TEST_F(TrayIcon, WithoutANotificationAreaShowsAnOrdinaryWindow) {
   trayAvailable_ = false;
-  tray_->setConnectionMode(1);
+  tray_->setConnectionMode(ConnectionMode::Connected);
   tray_->showMenuAt(QPoint());
   ASSERT_TRUE(popup()->isVisible());
   EXPECT_TRUE(popup()->isWindowMode());

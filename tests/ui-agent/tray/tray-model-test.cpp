@@ -9,10 +9,10 @@
 
 #include <QRegularExpression>
 
-#include "ui-agent/core/service-error-text.h"
-#include "ui-agent/core/string-display.h"
 #include "tests/support/table.h"
 #include "tests/ui-agent/tray/tray-fixture.h"
+#include "ui-agent/core/service-error-text.h"
+#include "ui-agent/core/string-display.h"
 #include "ui-agent/tray/progress-page-model.h"
 #include "ui-agent/tray/quota-model.h"
 #include "ui-agent/tray/relative-age.h"
@@ -111,8 +111,9 @@ const std::map<std::string, std::function<QString(const QStringList&)>> kFunctio
      }},
     {"icon",
      [](const QStringList& in) {
-       const auto v = tray_icon_model::view_for({in[0].toInt(), in[1] == QLatin1String("1"), status(in[2]),
-                                                 parse(in.mid(3).join('|').toStdString())});
+       const auto v =
+           tray_icon_model::view_for({static_cast<ConnectionMode>(in[0].toInt()), in[1] == QLatin1String("1"),
+                                      status(in[2]), parse(in.mid(3).join('|').toStdString())});
        QString line = v.tool_tip;
        if (!line.startsWith(QLatin1String("Nimbra Backup"))) return "tool tip without the product: " + line;
        line = line.mid(14);

@@ -74,7 +74,7 @@ TEST_F(TrayWidgets, PageChoiceAndRelayedTrayStatus) {
   EXPECT_EQ(currentPage(), menu_.progressPage());
   EXPECT_EQ(spy.count(), 1);
   EXPECT_EQ(relayed(spy), TrayRunning);
-  show(0xF000, kFailed);
+  show(StatusError, kFailed);
   EXPECT_EQ(currentPage(), menu_.statusPage());
   EXPECT_EQ(relayed(spy), TrayError);
 }
@@ -144,7 +144,7 @@ TEST_F(TrayWidgets, LayoutAtEveryScale) {
     nimbra_test::ScopedEnv env("NIMBRA_UI_SCALE", scale);
     SCOPED_TRACE(scale);
     TrayMenu menu;
-    menu.setFixedSize(DPIinfo::scaled(400), DPIinfo::scaled(232));
+    menu.setFixedSize(TrayMenu::scaledSize());
     menu.show();
     QApplication::processEvents();
     auto* pages = child<QStackedWidget>(&menu, "trayPages");
@@ -181,7 +181,7 @@ class TrayPagesInLanguage : public tray_test::TrayTest, public ::testing::WithPa
 TEST_P(TrayPagesInLanguage, OneLineTextsFitOrAreElided) {
   tray_test::ScopedLanguage language(GetParam());
   TrayMenu menu;
-  menu.setFixedSize(DPIinfo::scaled(400), DPIinfo::scaled(232));
+  menu.setFixedSize(TrayMenu::scaledSize());
   menu.show();
   const std::pair<int, const char*> states[] = {
       {0x2000, R"({"connected":true,"last_backup_result":{"last_backup_status":2,"backed_up":false}})"},

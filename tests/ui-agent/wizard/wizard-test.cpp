@@ -1,7 +1,7 @@
 // The wizard's operations as the client manager drives them, by keyboard
 // where a user would: the sign-in sheet made once and ended from outside,
 // the connecting frame ended by an error and deaf to keys, error sheets, the
-// summary from the store, "Done" on the bus, and closing that ends the
+// back-up-now question, the summary from the store, "Done" on the bus, and closing that ends the
 // application.
 
 #include <QComboBox>
@@ -10,16 +10,16 @@
 #include <QStackedWidget>
 #include <QTest>
 
+#include "tests/ui-agent/wizard/wizard-fixture.h"
 #include "ui-agent/core/global-connecter.h"
 #include "ui-agent/core/service-error-text.h"
 #include "ui-agent/core/status-store.h"
-#include "widgets/dpi-info.h"
 #include "ui-agent/core/string-display.h"
-#include "tests/ui-agent/wizard/wizard-fixture.h"
 #include "ui-agent/wizard/nimbra-loading-frame.h"
 #include "ui-agent/wizard/summary-page.h"
 #include "ui-agent/wizard/welcome-page.h"
 #include "ui-agent/wizard/wizard.h"
+#include "widgets/dpi-info.h"
 
 namespace {
 
@@ -47,7 +47,7 @@ class WizardTest : public ::testing::Test {
   }
   // The site list arrives and the summary page is shown.
   void showSummary(const Json::Value& answer = wizard_test::threeSites()) {
-    StatusStore::instance().setStatus(static_cast<ServiceStatus>(0x1002), answer);
+    StatusStore::instance().setStatus(StatusSiteInfo, answer);
     wizard_.showSummaryPage();
   }
   Wizard wizard_;
@@ -194,6 +194,24 @@ TEST_F(WizardTest, ShowErrorEndsTheConnectingFrameFirst) {
   EXPECT_TRUE(wizard_.connectingFrame()->text().startsWith(text(Str::desc_wizard_connecting).trimmed()));
   EXPECT_TRUE(wizard_.connectingFrame()->text().endsWith(QChar(0x00A0)));
   EXPECT_FALSE(wizard_.connectingFrame()->text().endsWith(QString(2, QChar(0x00A0))));
+}
+
+// Once the device exists: the question's text and buttons; Return is "OK",
+// Escape "Not Now".
+TEST_F(WizardTest, BackupNowQuestionByKey) {
+  for (const auto& [key, now] : {std::pair{Qt::Key_Return, true}, std::pair{Qt::Key_Escape, false}}) {
+    QStringList shown;
+    later([&, key = key] {
+      VellMessageSheet* sheet = topSheet();
+      ASSERT_NE(sheet, nullptr);
+      shown << sheet->text() << sheet->button(QMessageBox::Discard)->text()
+            << sheet->button(QMessageBox::Apply)->text();
+      QTest::keyClick(sheet, key);
+    });
+    EXPECT_EQ(wizard_.askBackupNow(), now) << key;
+    EXPECT_EQ(shown,
+              QStringList({text(Str::desc_backup_confirm), text(Str::btn_not_now), text(Str::btn_ok)}));
+  }
 }
 
 // Which text a code gets is service_error's table; here the sheet shows it
