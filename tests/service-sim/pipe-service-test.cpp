@@ -8,14 +8,14 @@
 #include <sstream>
 #include <thread>
 
-#include "tests/ui-agent/hostile/foreign-process.h"
+#include "ipc/win-ipc.h"
 #include "service-sim/agent-client.h"
 #include "service-sim/device-model.h"
 #include "service-sim/pipe-service.h"
 #include "tests/service-sim/sim-test-util.h"
+#include "tests/support/foreign-process.h"
 #include "tests/support/log-capture.h"
 #include "tests/support/temp-dir.h"
-#include "ipc/win-ipc.h"
 
 using namespace simtest;
 

@@ -2,10 +2,10 @@
 // notifier's arguments.
 #include <gtest/gtest.h>
 
-#include "tests/ui-agent/agent-test.h"
-#include "ui-agent/app/client-manager-rules.h"
 #include "tests/support/qt-print.h"
 #include "tests/support/table.h"
+#include "tests/ui-agent/agent-test.h"
+#include "ui-agent/app/client-manager-rules.h"
 
 namespace {
 
@@ -26,7 +26,7 @@ TEST_P(SchemeMessages, SplitAsTheTableSays) {
   }
 }
 
-NIMBRA_TABLE_SUITE(SchemeMessages, "ui-agent/manager/scheme-messages.tsv", 4);
+NIMBRA_TABLE_SUITE(SchemeMessages, "ui-agent/app/scheme-messages.tsv", 4);
 
 TEST(NewLogEntries, OnlyAboveTheLastIdAscending) {
   const Json::Value logs = agent_test::parse(

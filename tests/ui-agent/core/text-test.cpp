@@ -7,11 +7,11 @@
 
 #include <string>
 
+#include "tests/support/table.h"
 #include "tests/ui-agent/agent-test.h"
 #include "ui-agent/core/notification-text.h"
 #include "ui-agent/core/string-display.h"
 #include "widgets/style-manager.h"
-#include "tests/support/table.h"
 
 using namespace string_display;
 
@@ -47,7 +47,7 @@ TEST_P(Texts, AreWhatTheTableSays) {
   EXPECT_EQ(got, QString::fromStdString(row[3]));
 }
 
-NIMBRA_TABLE_SUITE(Texts, "ui-agent/strings/text.tsv", 4);
+NIMBRA_TABLE_SUITE(Texts, "ui-agent/core/text.tsv", 4);
 
 }  // namespace
 

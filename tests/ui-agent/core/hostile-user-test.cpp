@@ -23,15 +23,15 @@
 #include <memory>
 #include <vector>
 
+#include "ipc/win-ipc.h"
+#include "tests/support/foreign-process.h"
 #include "tests/ui-agent/agent-test.h"
 #include "ui-agent/core/global-connecter.h"
-#include "tests/ui-agent/hostile/foreign-process.h"
+#include "ui-agent/core/service-communicator.h"
 #include "vantor-core/lib/json-access.h"
 #include "widgets/machine-lock.h"
-#include "ui-agent/core/service-communicator.h"
 #include "widgets/single-application.h"
 #include "widgets/user-identity.h"
-#include "ipc/win-ipc.h"
 
 using ::testing::HasSubstr;
 using ::testing::Not;

@@ -8,10 +8,10 @@
 #include <map>
 #include <string>
 
+#include "tests/support/table.h"
 #include "tests/ui-agent/agent-test.h"
 #include "ui-agent/dialogs/settings-rules.h"
 #include "vantor-core/lib/json-access.h"
-#include "tests/support/table.h"
 
 using agent_test::parse;
 using nimbra_test::TableRow;
@@ -99,6 +99,6 @@ TEST_P(SettingsRules, GiveWhatTheTableSays) {
     EXPECT_EQ(got, row[2]);
 }
 
-NIMBRA_TABLE_SUITE(SettingsRules, "ui-agent/settings/settings-rules.tsv", 3);
+NIMBRA_TABLE_SUITE(SettingsRules, "ui-agent/dialogs/settings-rules.tsv", 3);
 
 }  // namespace

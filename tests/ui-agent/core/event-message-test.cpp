@@ -12,11 +12,11 @@
 #include <cmath>
 #include <map>
 
+#include "tests/support/table.h"
 #include "tests/ui-agent/agent-test.h"
 #include "ui-agent/core/log-entry.h"
-#include "widgets/dpi-info.h"
 #include "ui-agent/core/string-display.h"
-#include "tests/support/table.h"
+#include "widgets/dpi-info.h"
 
 using namespace string_display;
 using agent_test::parse;
@@ -104,7 +104,7 @@ void PrintTo(const EventRow& row, std::ostream* os) {
 
 std::vector<EventRow> event_rows() {
   std::vector<EventRow> rows;
-  for (const nimbra_test::TableRow& line : nimbra_test::read_table("ui-agent/strings/event-types.txt", 2)) {
+  for (const nimbra_test::TableRow& line : nimbra_test::read_table("ui-agent/core/event-types.txt", 2)) {
     const QString kind = QString::fromStdString(line[0]);
     for (const QString& type : QString::fromStdString(line[1]).split(QLatin1Char(' '))) {
       EventRow row{type.toUInt(), EventKind::Generic, {}};
