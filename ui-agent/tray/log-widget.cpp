@@ -228,7 +228,7 @@ void LogWidget::fillRow(int row, const LogEntry& entry) {
   if (fitted.size.height() > 20)
     table_->setRowHeight(row, static_cast<int>(DPIinfo::getDPI() * (fitted.size.height() + 20)));
 
-  const QString when = tray_text::second_time(static_cast<qint64>(entry.time));
+  const QString when = relative_age::second_time(static_cast<qint64>(entry.time));
   auto* time = new QLabel(when);
   time->setObjectName(QStringLiteral("logTimeText"));  // styled by the table
   time->setToolTip(when);

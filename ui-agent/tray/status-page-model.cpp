@@ -29,12 +29,12 @@ Result result_for(int last_status, bool backed_up) {
 
 QString last_backup_text(quint64 secs) {
   if (secs == 0) return string_display::text(Str::desc_no_backup_yet);
-  return tray_text::minute_time(static_cast<qint64>(secs));
+  return relative_age::minute_time(static_cast<qint64>(secs));
 }
 
 QString next_backup_text(quint64 secs) {
   if (secs == 0) return string_display::text(Str::desc_no_schedule);
-  return tray_text::minute_time(static_cast<qint64>(secs));
+  return relative_age::minute_time(static_cast<qint64>(secs));
 }
 
 std::optional<QString> schedule_type_text(qint64 type) {

@@ -113,7 +113,7 @@ void TrayStatusWidget::updateStatus(const Json::Value& content) {
                               : QFontMetrics(event_->font())
                                     .elidedText(message, Qt::ElideRight, DPIinfo::scaled(556))
                                     .toHtmlEscaped();
-    event_->setText(tray_text::line_div(shown));
+    event_->setText(relative_age::line_div(shown));
     const QString plain = QTextDocumentFragment::fromHtml(message).toPlainText();
     event_->setToolTip(message);
     event_->setAccessibleName(plain);

@@ -51,7 +51,7 @@ const std::map<std::string, std::function<QString(const QStringList&)>> kFunctio
      [](const QStringList& in) {
        const quint64 then =
            in[0] == QLatin1String("max") ? ~0ull : quint64(tray_test::kMoment - in[0].toLongLong());
-       return tray_text::relative_age_text(tray_test::kMoment, then);
+       return relative_age::relative_age_text(tray_test::kMoment, then);
      }},
     {"result",
      [](const QStringList& in) {
