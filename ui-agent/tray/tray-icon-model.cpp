@@ -16,7 +16,7 @@ QString state_line(const Facts& f, bool running) {
   if (f.mode != 1) return QString();
   if (!f.reachable) return text(Str::tray_tip_unreachable);
   if (running) {
-    const tray_progress_page::View p = tray_progress_page::view_for(f.status, f.content, 0, 0);
+    const progress_page_model::View p = progress_page_model::view_for(f.status, f.content, 0, 0);
     const QString phase = text(p.phase);
     return p.has_transfer ? phase + QLatin1Char(' ') + p.percent_text : phase;
   }

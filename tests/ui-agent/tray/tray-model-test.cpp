@@ -80,20 +80,20 @@ const std::map<std::string, std::function<QString(const QStringList&)>> kFunctio
      }},
     {"percent",
      [](const QStringList& in) {
-       const double p = tray_progress_page::round_three_significant(in[0].toDouble());
-       return QString::number(p) + '|' + QString::number(tray_progress_page::bar_value(p));
+       const double p = progress_page_model::round_three_significant(in[0].toDouble());
+       return QString::number(p) + '|' + QString::number(progress_page_model::bar_value(p));
      }},
     {"finish",
      [](const QStringList& in) {
        const auto f =
-           tray_progress_page::finish_for({in[0].toULongLong(), 0, in[1].toULongLong(), in[2].toLongLong()},
-                                          in[3].toDouble(), tray_test::kMoment);
+           progress_page_model::finish_for({in[0].toULongLong(), 0, in[1].toULongLong(), in[2].toLongLong()},
+                                           in[3].toDouble(), tray_test::kMoment);
        return QString::number(f.estimate) + '|' + opt(f.text);
      }},
     {"progress",
      [](const QStringList& in) {
-       const auto v = tray_progress_page::view_for(status(in[0]), parse(in.mid(2).join('|').toStdString()),
-                                                   in[1].toDouble(), tray_test::kMoment);
+       const auto v = progress_page_model::view_for(status(in[0]), parse(in.mid(2).join('|').toStdString()),
+                                                    in[1].toDouble(), tray_test::kMoment);
        return QStringList{yes(v.has_transfer),
                           v.percent_text,
                           QString::number(v.bar),
@@ -102,7 +102,7 @@ const std::map<std::string, std::function<QString(const QStringList&)>> kFunctio
                           QString(v.processed_text).remove(QRegularExpression(QStringLiteral("<[^>]*>")))}
            .join('|');
      }},
-    {"phase", [](const QStringList& in) { return text(tray_progress_page::phase_for(status(in[0]))); }},
+    {"phase", [](const QStringList& in) { return text(progress_page_model::phase_for(status(in[0]))); }},
     {"page",
      [](const QStringList& in) {
        Json::Value c(Json::objectValue);
