@@ -68,11 +68,11 @@ BackupScheduleInfoWidget::BackupScheduleInfoWidget(QWidget* parent) : QFrame(par
 }
 
 void BackupScheduleInfoWidget::setLastBackupTime(quint64 secs) {
-  setLastBackupText(tray_status_page::last_backup_text(secs));
+  setLastBackupText(status_page_model::last_backup_text(secs));
 }
 
 void BackupScheduleInfoWidget::setNextBackupTime(quint64 secs) {
-  setNextBackupText(tray_status_page::next_backup_text(secs));
+  setNextBackupText(status_page_model::next_backup_text(secs));
 }
 
 void BackupScheduleInfoWidget::setLastBackupText(const QString& text) {

@@ -7,7 +7,7 @@
 #include "ui-agent/tray/relative-age.h"
 #include "ui-agent/core/string-display.h"
 
-namespace tray_status_page {
+namespace status_page_model {
 
 Result result_for(int last_status, bool backed_up) {
   if (backed_up) {
@@ -77,4 +77,4 @@ View view_for(const Json::Value& content) {
   return view;
 }
 
-}  // namespace tray_status_page
+}  // namespace status_page_model

@@ -71,7 +71,7 @@ TrayStatusWidget::TrayStatusWidget(QWidget* parent) : QWidget(parent) {
   layout->addWidget(schedule_);
   layout->addStretch();
 
-  const auto ready = tray_status_page::result_for(0, true);
+  const auto ready = status_page_model::result_for(0, true);
   setPicture(ready.picture);
   result_->setText(string_display::text(ready.text));
   result_->setAccessibleName(result_->fullText());
@@ -96,7 +96,7 @@ void TrayStatusWidget::updateStatus(const Json::Value& content) {
     return;
   }
   shownContent_ = content;
-  const auto view = tray_status_page::view_for(content);
+  const auto view = status_page_model::view_for(content);
   shownTray_ = view.error ? TrayError : view.result.tray;
   setPicture(view.result.picture);
   result_->setText(string_display::text(view.result.text));

@@ -58,18 +58,18 @@ const std::map<std::string, std::function<QString(const QStringList&)>> kFunctio
        Json::Value c = parse(R"({"connected":true})");
        c["last_backup_result"]["last_backup_status"] = in[0].toInt();
        if (in[1] == QLatin1String("0")) c["last_backup_result"]["backed_up"] = false;
-       const auto v = tray_status_page::view_for(c);
+       const auto v = status_page_model::view_for(c);
        return QStringList{v.error ? "error page" : text(v.result.text), v.result.picture, tray(v.result.tray)}
            .join('|');
      }},
     {"schedule",
      [](const QStringList& in) {
-       const auto v = tray_status_page::view_for(parse(in.join('|').toStdString()));
+       const auto v = status_page_model::view_for(parse(in.join('|').toStdString()));
        return opt(v.last_backup) + '|' + opt(v.next_backup);
      }},
     {"error",
      [](const QStringList& in) {
-       const auto v = tray_status_page::view_for(parse(in.join('|').toStdString()));
+       const auto v = status_page_model::view_for(parse(in.join('|').toStdString()));
        if (!v.error) return "0|" + tray(v.result.tray) + "|-";
        int code = -1;
        for (int c : {0, 5, 13})
