@@ -469,7 +469,8 @@ void ClientManager::onPortalLink(const Json::Value& response) {
   if (jsonx::has(response, "url")) {
     openInBrowser(jsonx::get_string(response, "url"), "portal link");
   } else if (jsonx::has(response, "error")) {
-    showWarningMsg(text(Str::app_name), service_error::message(service_error::code_of(response), response));
+    showWarningMsg(text(Str::app_name),
+                   service_error_text::message(service_error_text::code_of(response), response));
   }
 }
 
@@ -481,7 +482,7 @@ void ClientManager::onAuth(const Json::Value& response) {
   CM_LOG_ERROR("failed to get auth URL [%s]", loggable(response).c_str());
   authPending.exchange(false);
   wizardWindow()->closeSignInSheet();
-  wizardWindow()->showError(service_error::code_of(response), response);
+  wizardWindow()->showError(service_error_text::code_of(response), response);
   wizardWindow()->showWelcomePage();
 }
 
@@ -489,7 +490,7 @@ void ClientManager::onToken(const Json::Value& response) {
   if (jsonx::has(response, "error")) {
     CM_LOG_ERROR("failed to get token [%s]", loggable(response).c_str());
     wizardWindow()->hideConnecting();
-    wizardWindow()->showError(service_error::code_of(response), response);
+    wizardWindow()->showError(service_error_text::code_of(response), response);
     wizardWindow()->showWelcomePage();
     return;
   }
@@ -501,7 +502,7 @@ void ClientManager::onSiteInfo(const SharedJson& answer) {
   wizardWindow()->hideConnecting();
   if (jsonx::has(response, "error") && jsonx::member(response, "data").empty()) {
     CM_LOG_ERROR("failed to get site info [%s]", loggable(response).c_str());
-    wizardWindow()->showError(service_error::code_of(response), response);
+    wizardWindow()->showError(service_error_text::code_of(response), response);
     wizardWindow()->showWelcomePage();
     return;
   }
@@ -538,7 +539,7 @@ void ClientManager::onCreateDevice(const Json::Value& response) {
   wizardWindow()->hideConnecting();
   if (jsonx::has(response, "error")) {
     CM_LOG_ERROR("failed to create device [%s]", loggable(response).c_str());
-    wizardWindow()->showError(service_error::code_of(response), response);
+    wizardWindow()->showError(service_error_text::code_of(response), response);
     wizardWindow()->showWelcomePage();
     return;
   }

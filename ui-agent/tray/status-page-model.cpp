@@ -63,7 +63,7 @@ View view_for(const Json::Value& content) {
   if (jsonx::has(content, "error") || !jsonx::get_bool(content, "connected")) {
     view.error = true;
     view.result = {Str::desc_status_error, "status_m_error", TrayError};
-    view.error_message = service_error::message(error_code_of(content), content);
+    view.error_message = service_error_text::message(error_code_of(content), content);
     return view;
   }
   const Json::Value& r = jsonx::get_object(content, "last_backup_result");

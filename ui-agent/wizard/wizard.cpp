@@ -146,7 +146,7 @@ void Wizard::hideConnecting() {
 
 void Wizard::showError(int code, const Json::Value& response) {
   hideConnecting();
-  const QString message = service_error::message(code, response);
+  const QString message = service_error_text::message(code, response);
   LOG_INFO(vlog::kDefaultComponent, "wizard shows error %d: %s", code,
            jsonx::masked_text(message.toStdString()).c_str());
   VellMessageSheet sheet(VellMessageSheet::Error, this, true);

@@ -259,7 +259,7 @@ TEST_P(RegistrationFailure, ReturnsToTheWelcomePageWithTheGenericError) {
     else
       emit GlobalConnecter::instance().sigGetAuthURL();
   });
-  const QString generic = service_error::message(-1);
+  const QString generic = service_error_text::message(-1);
   ASSERT_TRUE(until([&] { return sheets_.contains(generic); })) << sheets_.join('|').toStdString();
   Wizard* wizard = manager_->wizardWindow();
   ASSERT_TRUE(until([&] { return VellMessageSheet::runningSheets().isEmpty(); }));

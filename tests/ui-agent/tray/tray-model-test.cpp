@@ -73,7 +73,7 @@ const std::map<std::string, std::function<QString(const QStringList&)>> kFunctio
        if (!v.error) return "0|" + tray(v.result.tray) + "|-";
        int code = -1;
        for (int c : {0, 5, 13})
-         if (v.error_message == service_error::message(c)) code = c;
+         if (v.error_message == service_error_text::message(c)) code = c;
        const QString shown =
            v.result.text == Str::desc_status_error ? tray(v.result.tray) : "not the error text";
        return "1|" + shown + '|' + QString::number(code);
