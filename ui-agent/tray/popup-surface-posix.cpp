@@ -125,8 +125,8 @@ class PopupShellIntegration : public wl::QWaylandShellIntegration {
                                                      parentSurface->margins(), parentRect.topLeft()};
     const QRect rect = q->geometry();
     setLayer(q,
-             layer_placement::nestedIn(parentPlacement, parentRect.size(),
-                                       rect.topLeft() - parentRect.topLeft(), rect.size()),
+             layer_placement::nested_in(parentPlacement, parentRect.size(),
+                                        rect.topLeft() - parentRect.topLeft(), rect.size()),
              LayerWindow::LayerOverlay,
              q->type() == Qt::ToolTip ? LayerWindow::KeyboardInteractivityNone
                                       : LayerWindow::KeyboardInteractivityOnDemand);

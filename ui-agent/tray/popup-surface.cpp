@@ -49,7 +49,7 @@ bool placeOnLayer(QWidget* popup, QPoint anchor) {
     return false;
   }
   const layer_placement::Placement placement =
-      layer_placement::anchoredAt(screen->geometry(), popup->sizeHint(), anchor);
+      layer_placement::anchored_at(screen->geometry(), popup->sizeHint(), anchor);
   popup->createWinId();
   QWindow* window = popup->windowHandle();
   window->setScreen(screen);

@@ -181,7 +181,7 @@ SystemTray::SystemTray(QObject* parent) : QObject(parent) {
   connect(sni_, &StatusNotifierItem::contextMenuRequested, this, [this](QPoint p) {
     // The panel's point, kept on a screen (any peer on the bus may call).
     if (contextMenu_)
-      contextMenu_->popup(tray_anchor::anchorFor({QRect(), p, std::nullopt, screenGeometries(), QRect()}));
+      contextMenu_->popup(tray_anchor::anchor_for({QRect(), p, std::nullopt, screenGeometries(), QRect()}));
   });
   connect(sni_, &StatusNotifierItem::hostChanged, this, &SystemTray::applyHost);
   connect(&bus, &GlobalConnecter::sigShowMessage, this, &SystemTray::slotShowMessage);
@@ -290,13 +290,13 @@ QPoint SystemTray::clickAnchor(bool pointerCounts) const {
   const QString platform = QGuiApplication::platformName();
   if (pointerCounts && (platform == QLatin1String("xcb") || platform == QLatin1String("windows")))
     facts.pointer = QCursor::pos();
-  return tray_anchor::anchorFor(facts);
+  return tray_anchor::anchor_for(facts);
 }
 
 QPoint SystemTray::openAnchor() const {
   // Not the pointer: "open" from a second launch has nothing to do with it.
   const tray_anchor::Facts facts = anchorFacts();
-  return tray_anchor::iconOnScreen(facts) ? facts.icon.topLeft() : tray_anchor::anchorFor(facts);
+  return tray_anchor::icon_on_screen(facts) ? facts.icon.topLeft() : tray_anchor::anchor_for(facts);
 }
 
 void SystemTray::setContextMenu(QMenu* menu) {
@@ -474,7 +474,7 @@ void SystemTray::actOnActivation() {
 void SystemTray::slotPositionClicked(QPoint p) {
   if (!container_ || !container_->isVisible() || container_->isWindowMode()) return;
   if (holdOpen_ && holdOpen_()) return;
-  if (tray_placement::pressInside(container_->geometry(), p)) return;
+  if (tray_placement::press_inside(container_->geometry(), p)) return;
   container_->hide();
 }
 
