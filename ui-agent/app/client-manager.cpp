@@ -50,7 +50,7 @@ std::string loggable(const Json::Value& v) {
 
 // A message as it may appear in the log: the sign-in token masked.
 QString loggable(const QString& msg) {
-  const SchemeMessage m = client_manager_rules::parseSchemeMessage(msg);
+  const SchemeMessage m = client_manager_rules::parse_scheme_message(msg);
   if (m.kind == SchemeMessage::Pair && m.key == QLatin1String("access_token"))
     return QString::fromLatin1(client_manager_rules::kSchemePrefix) + QStringLiteral("?access_token=***");
   if (m.kind == SchemeMessage::Malformed && msg.contains(QLatin1String("access_token")))
@@ -282,7 +282,7 @@ void ClientManager::slotMessageReceived(const QString& msg) {
     openLogPending = true;
     return;
   }
-  const SchemeMessage m = client_manager_rules::parseSchemeMessage(msg);
+  const SchemeMessage m = client_manager_rules::parse_scheme_message(msg);
   if (m.kind == SchemeMessage::NotScheme) return;
   if (m.kind == SchemeMessage::Malformed) {
     CM_LOG_ERROR("Message content is wrong: %s", qUtf8Printable(loggable(msg)));
@@ -329,7 +329,7 @@ void ClientManager::slotHandleStatusChange(ServiceStatus, ServiceStatus current,
     if (jsonx::has(current_content, "billing")) tray->updateQuota(jsonx::member(current_content, "billing"));
   }
   const QList<LogEntry> entries =
-      client_manager_rules::newLogEntries(jsonx::member(current_content, "logs"), store.getLastLogId());
+      client_manager_rules::new_log_entries(jsonx::member(current_content, "logs"), store.getLastLogId());
   if (!entries.isEmpty()) {
     store.setLastLogId(entries.last().id);
     if (tray) tray->appendLogEntries(entries);
@@ -342,7 +342,7 @@ void ClientManager::slotHandleStatusChange(ServiceStatus, ServiceStatus current,
 
 void ClientManager::slotHandleNotifications(const Json::Value& pushed) {
   int leftOut = 0;
-  const Json::Value notifications = client_manager_rules::boundedNotifications(pushed, leftOut);
+  const Json::Value notifications = client_manager_rules::bounded_notifications(pushed, leftOut);
   if (leftOut > 0)
     CM_LOG_ERROR("%d notifications in one push: the last %d shown, the first %d left out",
                  leftOut + client_manager_rules::kNotificationsPerPush,
@@ -351,7 +351,7 @@ void ClientManager::slotHandleNotifications(const Json::Value& pushed) {
     runNotifier(notifications);
   } else if (tray) {
     tray->showNotifications(
-        client_manager_rules::balloonNotifications(jsonx::member(notifications, "notifications")));
+        client_manager_rules::balloon_notifications(jsonx::member(notifications, "notifications")));
   }
 }
 
@@ -361,14 +361,14 @@ void ClientManager::slotHandleNotifications(const Json::Value& pushed) {
 // logged when it ends; one that has not ended after 30 s is stopped.
 void ClientManager::runNotifier(const Json::Value& notifications) {
   QStringList arguments;
-  if (!client_manager_rules::notifierArguments(notifications, arguments)) {
+  if (!client_manager_rules::notifier_arguments(notifications, arguments)) {
     CM_LOG_ERROR("format invalid");
     return;
   }
   auto* notifier = new QProcess(this);
   notifier->setProcessChannelMode(QProcess::MergedChannels);
   const Json::Value list =
-      client_manager_rules::balloonNotifications(jsonx::member(notifications, "notifications"));
+      client_manager_rules::balloon_notifications(jsonx::member(notifications, "notifications"));
   // Balloons instead when there is no notifier to show them.
   const auto balloons = [this, list] {
     if (tray) tray->showNotifications(list);
@@ -568,7 +568,7 @@ void ClientManager::slotQueryServiceFailed() {
     wizardWindow()->showWelcomePage();
   }
   const client_manager_rules::Failure verdict =
-      client_manager_rules::countFailure(failureCount, statusWorker->isPolling());
+      client_manager_rules::count_failure(failureCount, statusWorker->isPolling());
   if (verdict == client_manager_rules::Failure::Retry) {
     QTimer::singleShot(1000, this, &ClientManager::slotGetConnectionInfo);
     return;
