@@ -182,7 +182,7 @@ void AboutWindow::keyPressEvent(QKeyEvent* event) {
 
 AboutWindowContainer::AboutWindowContainer(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("AboutWindowContainer"));
-  window_placement::centreWhenShown(this);
+  window_placement::centre_when_shown(this);
   setAttribute(Qt::WA_TranslucentBackground);
   setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
   setWindowTitle(text(Str::app_name));

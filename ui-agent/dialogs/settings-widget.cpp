@@ -55,7 +55,7 @@ QString withLineHeight(const QString& html, int logicalLineHeight) {
 
 SettingsWidget::SettingsWidget(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("SettingsWidget"));
-  window_placement::centreWhenShown(this);
+  window_placement::centre_when_shown(this);
   setWindowFlags(Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint);
   setWindowTitle(text(Str::act_settings));
   setAccessibleName(text(Str::act_settings));

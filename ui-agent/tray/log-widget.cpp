@@ -66,7 +66,7 @@ QLabel* cellLabel(const QString& text, const QString& style) {
 
 LogWidget::LogWidget(QWidget* parent) : QWidget(parent), fitter_(event_fit::Fitter::activity()) {
   setObjectName(QStringLiteral("LogWidget"));
-  window_placement::centreWhenShown(this);
+  window_placement::centre_when_shown(this);
   setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint);
   setFixedSize(DPIinfo::scaled(700), DPIinfo::scaled(442));
   QPalette pal = palette();

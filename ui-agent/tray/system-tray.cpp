@@ -71,7 +71,7 @@ QRect TrayMenuContainer::availableGeometry() const {
 
 void TrayMenuContainer::placeAt(QPoint anchor) {
   // The work area of the screen the anchor is on (a panel on a second screen).
-  const QRect area = available_ ? available_() : window_placement::workAreaAt(anchor);
+  const QRect area = available_ ? available_() : window_placement::work_area_at(anchor);
   const tray_placement::Placement p = tray_placement::place(area, sizeHint(), anchor, side_);
   side_ = p.side;
   anchor_ = anchor;

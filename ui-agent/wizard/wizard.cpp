@@ -40,7 +40,7 @@ Qt::WindowFlags Wizard::windowFlagsOfWizard() {
 Wizard::Wizard(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("Wizard"));
   // Once: bringing it to the front shows it again where the user left it.
-  window_placement::centreWhenShown(this, true);
+  window_placement::centre_when_shown(this, true);
   stack_ = new QStackedWidget(this);
   stack_->setObjectName(QStringLiteral("WizardPages"));
   stack_->setContentsMargins(0, 0, 0, 0);
