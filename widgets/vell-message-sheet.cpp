@@ -111,7 +111,7 @@ VellMessageSheet::VellMessageSheet(int messageType, QWidget* parent, bool sheet,
     setAttribute(Qt::WA_StyledBackground);
   }
   // A dialog to screen readers, also as a sheet over its window.
-  accessible_text::setWindowRole(this, accessible_text::WindowRole::Dialog);
+  accessible_text::set_window_role(this, accessible_text::WindowRole::Dialog);
   hide();
 
   const int s24 = DPIinfo::scaled(24);

@@ -188,7 +188,7 @@ AboutWindowContainer::AboutWindowContainer(QWidget* parent) : QWidget(parent) {
   setWindowTitle(text(Str::app_name));
   setWindowIcon(QIcon(getGlobalImage(QStringLiteral("app_img"))));
   setAccessibleName(text(Str::app_name));
-  accessible_text::setWindowRole(this, accessible_text::WindowRole::Dialog);
+  accessible_text::set_window_role(this, accessible_text::WindowRole::Dialog);
   frame_ = new AboutWindow(this);
   auto* v = new QVBoxLayout(this);
   // Room for the card's shadow.

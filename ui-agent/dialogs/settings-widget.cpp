@@ -59,7 +59,7 @@ SettingsWidget::SettingsWidget(QWidget* parent) : QWidget(parent) {
   setWindowFlags(Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint);
   setWindowTitle(text(Str::act_settings));
   setAccessibleName(text(Str::act_settings));
-  accessible_text::setWindowRole(this, accessible_text::WindowRole::Dialog);
+  accessible_text::set_window_role(this, accessible_text::WindowRole::Dialog);
   setFixedSize(px(700), px(442));
   setAutoFillBackground(true);
   QPalette pal = palette();

@@ -75,7 +75,7 @@ LogWidget::LogWidget(QWidget* parent) : QWidget(parent), fitter_(event_fit::Fitt
   setAutoFillBackground(true);
   setWindowTitle(string_display::text(Str::title_activities));
   setAccessibleName(windowTitle());
-  accessible_text::setWindowRole(this, accessible_text::WindowRole::Frame);
+  accessible_text::set_window_role(this, accessible_text::WindowRole::Frame);
 
   header_ = new QTableWidget(1, 2, this);
   header_->setObjectName(QStringLiteral("logHeaderTable"));

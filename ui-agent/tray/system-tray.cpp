@@ -36,7 +36,7 @@
 TrayMenuContainer::TrayMenuContainer(QWidget* content, QWidget* parent) : QWidget(parent), content_(content) {
   setObjectName(QStringLiteral("TrayMenuContainer"));
   setAccessibleName(string_display::text(Str::app_name));
-  accessible_text::setWindowRole(this, accessible_text::WindowRole::Frame);
+  accessible_text::set_window_role(this, accessible_text::WindowRole::Frame);
   setWindowTitle(string_display::text(Str::app_name));
   setAttribute(Qt::WA_TranslucentBackground);
   setPopupMode(true);

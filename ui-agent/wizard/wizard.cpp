@@ -69,7 +69,7 @@ Wizard::Wizard(QWidget* parent) : QWidget(parent) {
   // The wizard owns its size: 900 x 540.
   setFixedSize(DPIinfo::scaled(900), DPIinfo::scaled(540));
   setAccessibleName(text(Str::app_name));
-  accessible_text::setWindowRole(this, accessible_text::WindowRole::Frame);
+  accessible_text::set_window_role(this, accessible_text::WindowRole::Frame);
 }
 
 void Wizard::bringToFront() {
