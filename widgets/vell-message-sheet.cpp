@@ -140,8 +140,8 @@ VellMessageSheet::VellMessageSheet(int messageType, QWidget* parent, bool sheet,
   informative_->setTextInteractionFlags(Qt::TextBrowserInteraction);
   web_link::route(informative_, "message sheet link");
   informative_->hide();
-  copyable_text::enableLabel(text_);
-  copyable_text::enableLabel(informative_);
+  copyable_text::enable_label(text_);
+  copyable_text::enable_label(informative_);
   texts->addWidget(text_);
   texts->addWidget(informative_);
   texts->addStretch(1);

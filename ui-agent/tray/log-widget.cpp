@@ -122,7 +122,7 @@ LogWidget::LogWidget(QWidget* parent) : QWidget(parent), fitter_(event_fit::Fitt
   // The columns' names for screen readers (the header itself is hidden).
   table_->setHorizontalHeaderLabels(
       {string_display::text(Str::desc_time), string_display::text(Str::desc_event)});
-  copyable_text::enableRows(table_);
+  copyable_text::enable_rows(table_);
 
   close_ = new VellButton(string_display::text(Str::btn_close), VellButton::Secondary, this);
   close_->setObjectName(QStringLiteral("logCloseButton"));

@@ -33,7 +33,7 @@ TrayStatusWidget::TrayStatusWidget(QWidget* parent) : QWidget(parent) {
 
   latest_ = std::make_unique<LatestEventLine>(this, QStringLiteral("status"));
   event_ = latest_->eventLabel();
-  copyable_text::enableLabel(event_);  // the error message, for a support request
+  copyable_text::enable_label(event_);  // the error message, for a support request
   age_ = latest_->ageLabel();
 
   schedule_ = new BackupScheduleInfoWidget(this);
