@@ -418,13 +418,13 @@ TEST_F(Hostile, OnlyAPeerOfTheSameUserCountsAsSameUser) {
   QLocalSocket toThem;
   toThem.connectToServer(QString::fromStdString(path));
   ASSERT_TRUE(toThem.waitForConnected(3000));
-  EXPECT_FALSE(user_identity::peerIsSameUser(toThem.socketDescriptor()));
+  EXPECT_FALSE(user_identity::peer_is_same_user(toThem.socketDescriptor()));
   QLocalServer mine;
   ASSERT_TRUE(mine.listen(QString::fromStdString(root.file("mine.sock"))));
   QLocalSocket toMe;
   toMe.connectToServer(mine.fullServerName());
   ASSERT_TRUE(toMe.waitForConnected(3000));
-  EXPECT_TRUE(user_identity::peerIsSameUser(toMe.socketDescriptor()));
+  EXPECT_TRUE(user_identity::peer_is_same_user(toMe.socketDescriptor()));
   other->tell('q');
 }
 
