@@ -314,7 +314,7 @@ void SystemTray::showMessage(const QString& title, const QString& text, int ms) 
 }
 
 void SystemTray::applyIcon() {
-  const QString name = tray_theme::iconName(status_, theme_->isSystemDarkTheme());
+  const QString name = tray_theme::icon_name(status_, theme_->isSystemDarkTheme());
   if (name == iconName_ && !icon().isNull()) return;
   iconName_ = name;
   LOG_DEBUG(vlog::kDefaultComponent, "tray icon: %s (status %d)", name.toUtf8().constData(),
