@@ -143,7 +143,7 @@ QtWaylandClient::QWaylandShellIntegration* newShellIntegration() {
   return new PopupShellIntegration();
 }
 
-void prepareApplication() {
+void prepare_application() {
   if (qEnvironmentVariableIsEmpty(kShellVariable)) qputenv(kShellVariable, kShells);
 }
 
@@ -158,7 +158,7 @@ Kind kind() {
   return loaded && layerShellActive ? Kind::Layer : Kind::Framed;
 }
 
-void markLayer(QWindow* window, const layer_placement::Placement& placement) {
+void mark_layer(QWindow* window, const layer_placement::Placement& placement) {
   setLayer(window, placement, LayerWindow::LayerTop, LayerWindow::KeyboardInteractivityOnDemand);
   LayerWindow::get(window)->setDesiredOutput(window->screen());
 }

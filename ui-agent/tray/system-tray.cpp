@@ -44,7 +44,7 @@ TrayMenuContainer::TrayMenuContainer(QWidget* content, QWidget* parent) : QWidge
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
   if (content_) layout->addWidget(content_);
-  popup_surface::closeOnFocusLoss(this);
+  popup_surface::close_on_focus_loss(this);
 }
 
 void TrayMenuContainer::setPopupMode(bool popup) {
@@ -89,7 +89,7 @@ void TrayMenuContainer::showAt(QPoint anchor) {
   }
   side_ = tray_placement::NotPlaced;
   adjustSize();
-  if (!popup_surface::placeOnLayer(this, anchor)) placeAt(anchor);
+  if (!popup_surface::place_on_layer(this, anchor)) placeAt(anchor);
   show();
 }
 
