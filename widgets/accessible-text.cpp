@@ -90,7 +90,7 @@ void install() {
   (void)installed;
 }
 
-void setWindowRole(QWidget* window, WindowRole role) {
+void set_window_role(QWidget* window, WindowRole role) {
   install();
   window->setProperty(kRoleProperty, static_cast<int>(role));
   // Qt makes a window's interface as soon as something about it changes
@@ -101,7 +101,7 @@ void setWindowRole(QWidget* window, WindowRole role) {
   if (made && made->role() != wanted) QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(made));
 }
 
-Spoken forValue(const QString& caption, const QString& value) {
+Spoken for_value(const QString& caption, const QString& value) {
   const QString plain =
       Qt::mightBeRichText(value) ? QTextDocumentFragment::fromHtml(value).toPlainText() : value;
   return {plain.simplified(), withoutColon(caption)};
@@ -115,8 +115,8 @@ void apply(QWidget* widget, const Spoken& spoken) {
 }
 }  // namespace
 
-void describeValue(QWidget* value, const QString& caption, const QString& text) {
-  apply(value, forValue(caption, text));
+void describe_value(QWidget* value, const QString& caption, const QString& text) {
+  apply(value, for_value(caption, text));
 }
 
 }  // namespace accessible_text

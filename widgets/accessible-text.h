@@ -21,14 +21,14 @@ enum class WindowRole {
 
 // The roles below, and the application's list of windows with the tray
 // pop-up in it (Qt lists no pop-up window). Before the application object
-// is made, so that its interface is ours from the start; setWindowRole()
+// is made, so that its interface is ours from the start; set_window_role()
 // calls it too.
 void install();
 
 // Announces `window` (a top-level widget, before it is first shown) with
 // `role`, whatever its class; a pop-up window so announced is listed among
 // the application's windows.
-void setWindowRole(QWidget* window, WindowRole role);
+void set_window_role(QWidget* window, WindowRole role);
 
 struct Spoken {
   QString name;
@@ -39,9 +39,9 @@ struct Spoken {
 // A value shown beside its caption: its whole text (plain text when it is
 // markup, runs of white space as one space) as name; the caption without its
 // colon as description.
-Spoken forValue(const QString& caption, const QString& value);
+Spoken for_value(const QString& caption, const QString& value);
 
-// Applies forValue() to `value`.
-void describeValue(QWidget* value, const QString& caption, const QString& text);
+// Applies for_value() to `value`.
+void describe_value(QWidget* value, const QString& caption, const QString& text);
 
 }  // namespace accessible_text

@@ -68,7 +68,7 @@ class CopyHandler : public QObject {
 
 }  // namespace
 
-QString plainText(const QString& html) {
+QString plain_text(const QString& html) {
   QTextDocument doc;
   doc.setHtml(html);
   QString out = doc.toPlainText();
@@ -76,20 +76,20 @@ QString plainText(const QString& html) {
   return out;
 }
 
-void enableLabel(QLabel* label) {
+void enable_label(QLabel* label) {
   // Not selectable by keyboard: that would put the label into the tab
   // order of the buttons beside it. A click gives it the focus for Ctrl+C.
   label->setTextInteractionFlags(label->textInteractionFlags() | Qt::TextSelectableByMouse);
   new CopyHandler(label, [label] {
-    if (label->hasSelectedText()) return plainText(label->selectedText());
+    if (label->hasSelectedText()) return plain_text(label->selectedText());
     if (!label->accessibleName().isEmpty()) return label->accessibleName();
     const bool rich = label->textFormat() == Qt::RichText ||
                       (label->textFormat() == Qt::AutoText && Qt::mightBeRichText(label->text()));
-    return rich ? plainText(label->text()) : label->text();
+    return rich ? plain_text(label->text()) : label->text();
   });
 }
 
-void enableRows(QTableWidget* table) {
+void enable_rows(QTableWidget* table) {
   table->setSelectionMode(QAbstractItemView::ExtendedSelection);
   table->setSelectionBehavior(QAbstractItemView::SelectRows);
   auto* handler = new CopyHandler(table, [table] {

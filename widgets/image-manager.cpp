@@ -18,7 +18,7 @@ ImageManager* ImageManager::getInstance() {
 
 int ImageManager::initialize(int flags) {
   Q_UNUSED(flags);
-  return initializeFrom(resource_paths::imagesFolder());
+  return initializeFrom(resource_paths::images_folder());
 }
 
 int ImageManager::initializeFrom(const QString& folder) {

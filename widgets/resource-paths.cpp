@@ -7,14 +7,14 @@
 
 namespace resource_paths {
 
-QString resourceFolder() {
+QString resource_folder() {
   UIPathManager* paths = UIPathManager::getInstance();
   if (paths->hasPath(QStringLiteral("resource_path"))) return paths->getPath(QStringLiteral("resource_path"));
   return QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../resource"));
 }
 
-QString imagesFolder() {
-  return resourceFolder() + QStringLiteral("/images");
+QString images_folder() {
+  return resource_folder() + QStringLiteral("/images");
 }
 
 }  // namespace resource_paths

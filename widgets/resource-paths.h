@@ -8,8 +8,8 @@
 
 namespace resource_paths {
 
-QString resourceFolder();
-// resourceFolder() + "/images"
-QString imagesFolder();
+QString resource_folder();
+// resource_folder() + "/images"
+QString images_folder();
 
 }  // namespace resource_paths

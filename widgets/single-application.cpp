@@ -36,14 +36,14 @@ QString SingleInstance::maskedForLog(const QString& message) {
 
 SingleInstance::SingleInstance(const QString& appId, QObject* parent) : QObject(parent) {
   const QString base = qEnvironmentVariable("NIMBRA_PIPE_NAMESPACE") + appId + QLatin1Char('-') +
-                       user_identity::currentUserTag();
-  const QString folder = user_identity::runtimeFolder();
+                       user_identity::current_user_tag();
+  const QString folder = user_identity::runtime_folder();
   if (folder.isEmpty()) {
     LOG_ERROR(vlog::kDefaultComponent, "single instance: no private folder; this process runs on its own");
     return;
   }
   lockPath_ = QDir(folder).filePath(base + QStringLiteral(".lock"));
-  serverName_ = user_identity::localServerName(base);
+  serverName_ = user_identity::local_server_name(base);
   lock_.reset(new QLockFile(lockPath_));
   lock_->setStaleLockTime(0);  // only a dead holder makes the lock stale
 }
@@ -105,7 +105,7 @@ bool SingleInstance::sendMessage(const QString& message, int timeoutMs) {
     if (socket.waitForConnected(qMax(1, qMin(left, 250)))) {
       // The name is reachable; the message (it may carry a token) goes only
       // to a process of this user.
-      if (user_identity::peerIsSameUser(socket.socketDescriptor())) break;
+      if (user_identity::peer_is_same_user(socket.socketDescriptor())) break;
       LOG_ERROR(vlog::kDefaultComponent, "single instance: [%s] is served by another user, message not sent",
                 qUtf8Printable(serverName_));
       socket.abort();
@@ -140,7 +140,7 @@ bool SingleInstance::sendMessage(const QString& message, int timeoutMs) {
 
 void SingleInstance::onNewConnection() {
   while (QLocalSocket* socket = server_ ? server_->nextPendingConnection() : nullptr) {
-    if (!user_identity::peerIsSameUser(socket->socketDescriptor())) {
+    if (!user_identity::peer_is_same_user(socket->socketDescriptor())) {
       LOG_ERROR(vlog::kDefaultComponent, "single instance: refused a process of another user");
       socket->abort();
       socket->deleteLater();

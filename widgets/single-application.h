@@ -6,15 +6,14 @@
 // a local server; both are named per user (uid on Linux, session and SID on
 // Windows) with $NIMBRA_PIPE_NAMESPACE before the name, so that tests never
 // meet the user's own agent. On Linux both live in a folder private to the
-// user (user_identity::runtimeFolder(): mode 0700, checked with lstat), never
+// user (user_identity::runtime_folder(): mode 0700, checked with lstat), never
 // loose in /tmp, so no other user can plant a lock or take the socket's name;
 // on Windows the pipe admits only the user. A message goes only to a primary
 // of the same user, and only such a process is heard. A process that holds
-// the lock but cannot listen gives the lock back and is not the primary. isRunning() is cheap and may be asked again and
-// again: it answers false as soon as no other live process holds the lock, and
-// this process then becomes the primary instance. This is why Debian's
-// libsingleapplication is not used: it settles primary or secondary once, in
-// its constructor, and cannot let a newcomer wait for a first instance that is
+// the lock but cannot listen gives the lock back and is not the primary. isRunning() is cheap and may be
+// asked again and again: it answers false as soon as no other live process holds the lock, and this process
+// then becomes the primary instance. This is why Debian's libsingleapplication is not used: it settles
+// primary or secondary once, in its constructor, and cannot let a newcomer wait for a first instance that is
 // just exiting.
 //
 // Messages: sendMessage() connects, writes the UTF-8 text with a 4-byte

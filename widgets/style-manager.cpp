@@ -43,7 +43,7 @@ int StyleManager::initialize(const QStringList& files) {
 int StyleManager::loadFromString(const QString& text, const QString& origin) {
   static const QRegularExpression header(QStringLiteral("^\\s*@@\\s*([A-Za-z0-9_.\\-]+)\\s*$"));
   static const QRegularExpression badHeader(QStringLiteral("^\\s*@@"));
-  const QString images = resource_paths::imagesFolder();
+  const QString images = resource_paths::images_folder();
 
   QHash<QString, QString> parsed;
   QStringList order;

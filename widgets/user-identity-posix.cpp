@@ -13,11 +13,11 @@
 
 namespace user_identity {
 
-QString currentUserTag() {
+QString current_user_tag() {
   return QString::number(static_cast<qulonglong>(::geteuid()));
 }
 
-bool isPrivateFolder(const QString& path, bool create) {
+bool is_private_folder(const QString& path, bool create) {
   if (path.isEmpty()) return false;
   const QByteArray native = QFile::encodeName(path);
   if (create && ::mkdir(native.constData(), S_IRWXU) != 0 && errno != EEXIST) return false;
@@ -27,33 +27,33 @@ bool isPrivateFolder(const QString& path, bool create) {
   return S_ISDIR(st.st_mode) && st.st_uid == ::geteuid() && (st.st_mode & (S_IRWXG | S_IRWXO)) == 0;
 }
 
-QString runtimeFolder() {
+QString runtime_folder() {
   const QString xdg = qEnvironmentVariable("XDG_RUNTIME_DIR");
-  if (isPrivateFolder(xdg, false)) return xdg;
-  const QString tag = currentUserTag();
+  if (is_private_folder(xdg, false)) return xdg;
+  const QString tag = current_user_tag();
   const QString candidates[] = {
       QDir(QDir::tempPath()).filePath(QStringLiteral("nimbra-backup-agent-") + tag),
       QDir::home().filePath(QStringLiteral(".cache/nimbra-backup-agent-runtime")),
   };
   for (const QString& dir : candidates) {
     if (dir.contains(QStringLiteral("/.cache/"))) QDir::home().mkpath(QStringLiteral(".cache"));
-    if (isPrivateFolder(dir, true)) return dir;
+    if (is_private_folder(dir, true)) return dir;
     LOG_WARN(vlog::kDefaultComponent, "single instance: [%s] is not a private folder of this user",
              qUtf8Printable(dir));
   }
   return QString();
 }
 
-QString localServerName(const QString& base) {
+QString local_server_name(const QString& base) {
   // Always inside the private folder: a long name is shortened to its hash
   // rather than left to Qt, which would put it loose in the temporary folder.
-  const QDir folder(runtimeFolder());
+  const QDir folder(runtime_folder());
   const QString full = folder.filePath(base + QStringLiteral(".sock"));
   if (full.toUtf8().size() < 100) return full;
   return folder.filePath(QString::number(qHash(base), 16) + QStringLiteral(".sock"));
 }
 
-bool peerIsSameUser(qintptr descriptor) {
+bool peer_is_same_user(qintptr descriptor) {
   ucred cred{};
   socklen_t length = sizeof cred;
   if (descriptor < 0 ||

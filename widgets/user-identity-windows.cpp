@@ -43,7 +43,7 @@ QString userName() {
 
 }  // namespace
 
-QString currentUserTag() {
+QString current_user_tag() {
   // Session and SID: another user's, or another session's, agent never
   // shares the name.
   DWORD session = 0;
@@ -60,20 +60,20 @@ QString currentUserTag() {
   return QString::number(static_cast<qulonglong>(session)) + QLatin1Char('-') + sid;
 }
 
-bool isPrivateFolder(const QString& path, bool) {
+bool is_private_folder(const QString& path, bool) {
   return !path.isEmpty() && QDir(path).exists();
 }
 
-QString runtimeFolder() {
+QString runtime_folder() {
   // The user's own temporary folder, under the profile.
   return QDir::tempPath();
 }
 
-QString localServerName(const QString& base) {
+QString local_server_name(const QString& base) {
   return base;
 }
 
-bool peerIsSameUser(qintptr descriptor) {
+bool peer_is_same_user(qintptr descriptor) {
   // The local socket is a named pipe. On the client end the other process is
   // the pipe's server (whoever created the name first serves it); on the
   // server end it is the client that connected.

@@ -116,7 +116,7 @@ VellMessageSheet::VellMessageSheet(int messageType, QWidget* parent, bool sheet,
     setAttribute(Qt::WA_StyledBackground);
   }
   // A dialog to screen readers, also as a sheet over its window.
-  accessible_text::setWindowRole(this, accessible_text::WindowRole::Dialog);
+  accessible_text::set_window_role(this, accessible_text::WindowRole::Dialog);
   hide();
 
   const int s24 = DPIinfo::scaled(24);
@@ -145,8 +145,8 @@ VellMessageSheet::VellMessageSheet(int messageType, QWidget* parent, bool sheet,
   informative_->setTextInteractionFlags(Qt::TextBrowserInteraction);
   web_link::route(informative_, "message sheet link");
   informative_->hide();
-  copyable_text::enableLabel(text_);
-  copyable_text::enableLabel(informative_);
+  copyable_text::enable_label(text_);
+  copyable_text::enable_label(informative_);
   texts->addWidget(text_);
   texts->addWidget(informative_);
   texts->addStretch(1);

@@ -10,13 +10,13 @@
 
 namespace window_placement {
 
-QPoint centredIn(const QRect& area, const QSize& size) {
+QPoint centred_in(const QRect& area, const QSize& size) {
   const int x = area.x() + (area.width() - size.width()) / 2;
   const int y = area.y() + (area.height() - size.height()) / 2;
   return {std::max(x, area.x()), std::max(y, area.y())};
 }
 
-QRect workAreaAt(const QPoint& point) {
+QRect work_area_at(const QPoint& point) {
   QScreen* screen = QGuiApplication::screenAt(point);
   if (!screen) screen = QGuiApplication::primaryScreen();
   return screen ? screen->availableGeometry() : QRect(0, 0, 1024, 768);
@@ -31,7 +31,7 @@ class CentreOnShow : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::Show && !event->spontaneous() && !(firstShowOnly_ && done_)) {
       auto* window = static_cast<QWidget*>(watched);
-      window->move(centredIn(workAreaAt(QCursor::pos()), window->frameGeometry().size()));
+      window->move(centred_in(work_area_at(QCursor::pos()), window->frameGeometry().size()));
       done_ = true;
     }
     return false;
@@ -44,7 +44,7 @@ class CentreOnShow : public QObject {
 
 }  // namespace
 
-void centreWhenShown(QWidget* window, bool firstShowOnly) {
+void centre_when_shown(QWidget* window, bool firstShowOnly) {
   window->installEventFilter(new CentreOnShow(window, firstShowOnly));
 }
 

@@ -13,16 +13,16 @@ namespace window_placement {
 
 // The top-left corner that centres a window of `size` in the work area
 // `area`; a window larger than the area keeps its top-left corner inside it.
-QPoint centredIn(const QRect& area, const QSize& size);
+QPoint centred_in(const QRect& area, const QSize& size);
 
 // The work area of the screen that holds `point` (the primary screen's when
 // none does).
-QRect workAreaAt(const QPoint& point);
+QRect work_area_at(const QPoint& point);
 
 // From now on `window` is centred on the pointer's screen whenever it is
 // shown (a show the window system reports, such as a restore, is left alone);
 // with `firstShowOnly`, only the first time.
-void centreWhenShown(QWidget* window, bool firstShowOnly = false);
+void centre_when_shown(QWidget* window, bool firstShowOnly = false);
 
 // Raises `window` and gives it the keyboard focus where the windowing system
 // lets a program do that. On Wayland the compositor alone decides (it

@@ -13,9 +13,9 @@
 #include "service-sim/device-model.h"
 #include "service-sim/pipe-service.h"
 #include "tests/service-sim/sim-test-util.h"
+#include "tests/support/foreign-process.h"
 #include "tests/support/log-capture.h"
 #include "tests/support/temp-dir.h"
-#include "tests/ui-agent/hostile/foreign-process.h"
 
 using namespace simtest;
 

@@ -92,7 +92,7 @@ class SpokenValue : public ::testing::TestWithParam<ValueRow> {};
 TEST_P(SpokenValue, WholeTextAsNameCaptionAsDescription) {
   const ValueRow& r = GetParam();
   const accessible_text::Spoken s =
-      accessible_text::forValue(QString::fromUtf8(r.caption), QString::fromUtf8(r.value));
+      accessible_text::for_value(QString::fromUtf8(r.caption), QString::fromUtf8(r.value));
   EXPECT_EQ(s.name.toStdString(), r.spokenName);
   EXPECT_EQ(s.description.toStdString(), r.spokenDescription);
 }
@@ -123,8 +123,8 @@ TEST(WindowRole, FrameOrDialogWhateverTheClass) {
       ASSERT_NE(QAccessible::queryAccessibleInterface(&frame), nullptr);
       ASSERT_NE(QAccessible::queryAccessibleInterface(&dialog), nullptr);
     }
-    accessible_text::setWindowRole(&frame, accessible_text::WindowRole::Frame);
-    accessible_text::setWindowRole(&dialog, accessible_text::WindowRole::Dialog);
+    accessible_text::set_window_role(&frame, accessible_text::WindowRole::Frame);
+    accessible_text::set_window_role(&dialog, accessible_text::WindowRole::Dialog);
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&frame)->role(), QAccessible::Window) << madeBefore;
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&dialog)->role(), QAccessible::Dialog) << madeBefore;
   }

@@ -26,7 +26,7 @@ void prepareGraphics() {
   // nothing. A setting of the person's own is kept.
   if (qEnvironmentVariableIsEmpty("QT_XCB_GL_INTEGRATION")) qputenv("QT_XCB_GL_INTEGRATION", "none");
   // On Wayland the tray pop-up needs a shell of the agent's own.
-  popup_surface::prepareApplication();
+  popup_surface::prepare_application();
   // Screen readers: Qt looks once, when it starts or when the accessibility
   // bus appears, whether a screen reader is on (on X11 it also takes the
   // bus's root-window property as a yes). A screen reader started after the

@@ -8,7 +8,7 @@
 
 namespace client_manager_rules {
 
-SchemeMessage parseSchemeMessage(const QString& message) {
+SchemeMessage parse_scheme_message(const QString& message) {
   SchemeMessage out;
   if (!message.startsWith(QLatin1String(kSchemePrefix))) return out;
   out.kind = SchemeMessage::Malformed;
@@ -22,7 +22,7 @@ SchemeMessage parseSchemeMessage(const QString& message) {
   return out;
 }
 
-QList<LogEntry> newLogEntries(const Json::Value& logs, quint64 lastId) {
+QList<LogEntry> new_log_entries(const Json::Value& logs, quint64 lastId) {
   QList<LogEntry> out;
   if (!logs.isArray()) return out;
   for (const Json::Value& element : logs) {
@@ -33,14 +33,14 @@ QList<LogEntry> newLogEntries(const Json::Value& logs, quint64 lastId) {
   return out;
 }
 
-Failure countFailure(int& count, bool polling) {
+Failure count_failure(int& count, bool polling) {
   const int limit = polling ? kPollingFailureLimit : kStartFailureLimit;
   if (count >= limit) return Failure::Fatal;
   ++count;
   return polling ? Failure::Tolerated : Failure::Retry;
 }
 
-Json::Value boundedNotifications(const Json::Value& object, int& leftOut) {
+Json::Value bounded_notifications(const Json::Value& object, int& leftOut) {
   leftOut = 0;
   const Json::Value& list = jsonx::member(object, "notifications");
   if (!list.isArray() || list.size() <= static_cast<Json::ArrayIndex>(kNotificationsPerPush)) return object;
@@ -54,13 +54,13 @@ Json::Value boundedNotifications(const Json::Value& object, int& leftOut) {
   return bounded;
 }
 
-Json::Value balloonNotifications(const Json::Value& list) {
+Json::Value balloon_notifications(const Json::Value& list) {
   Json::Value out(Json::arrayValue);
   if (list.isArray() && !list.empty()) out.append(list[list.size() - 1]);
   return out;
 }
 
-bool notifierArguments(const Json::Value& object, QStringList& arguments) {
+bool notifier_arguments(const Json::Value& object, QStringList& arguments) {
   arguments.clear();
   const Json::Value& list = jsonx::member(object, "notifications");
   if (!list.isArray()) return false;

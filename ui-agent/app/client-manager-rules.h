@@ -29,10 +29,10 @@ struct SchemeMessage {
 // Splits "nimbrabackup://nimbrabackupprotocol?key=value": the text split at
 // "?" without empty parts must give two parts, the second split at "=" with
 // empty parts two parts as well.
-SchemeMessage parseSchemeMessage(const QString& message);
+SchemeMessage parse_scheme_message(const QString& message);
 
 // The elements of `logs` whose id is above `lastId`, ascending by id.
-QList<LogEntry> newLogEntries(const Json::Value& logs, quint64 lastId);
+QList<LogEntry> new_log_entries(const Json::Value& logs, quint64 lastId);
 
 // What a failed exchange means with `count` failures counted so far.
 enum class Failure {
@@ -43,7 +43,7 @@ enum class Failure {
 inline constexpr int kPollingFailureLimit = 30;
 inline constexpr int kStartFailureLimit = 120;
 // Counts one failure into `count` (unless it is fatal).
-Failure countFailure(int& count, bool polling);
+Failure count_failure(int& count, bool polling);
 
 // At most this many notifications of one push are shown: the newest ones
 // (the last of the array). A push of thousands would otherwise keep the
@@ -51,17 +51,17 @@ Failure countFailure(int& count, bool polling);
 inline constexpr int kNotificationsPerPush = 5;
 // The object the service pushed with its "notifications" array cut to the
 // last kNotificationsPerPush elements; `leftOut` tells how many went.
-Json::Value boundedNotifications(const Json::Value& object, int& leftOut);
+Json::Value bounded_notifications(const Json::Value& object, int& leftOut);
 // The tray balloons for a push's (bounded) "notifications" array: its last
 // element only. A balloon replaces the one before it (one per icon), so the
 // others would be built, at several milliseconds of the GUI thread each, to
 // be gone at once. An empty array when `list` holds nothing.
-Json::Value balloonNotifications(const Json::Value& list);
+Json::Value balloon_notifications(const Json::Value& list);
 
 // The notifier's arguments for the object the service pushed: "1", its
 // site_path, the number of notifications, then title, text, button label
 // and action type of each. False (and no arguments) when the object has no
 // "notifications" array.
-bool notifierArguments(const Json::Value& object, QStringList& arguments);
+bool notifier_arguments(const Json::Value& object, QStringList& arguments);
 
 }  // namespace client_manager_rules

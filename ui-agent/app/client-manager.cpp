@@ -40,7 +40,7 @@ std::string loggable(const Json::Value& v) {
 
 // A message as it may appear in the log: the sign-in token masked.
 QString loggable(const QString& msg) {
-  const SchemeMessage m = client_manager_rules::parseSchemeMessage(msg);
+  const SchemeMessage m = client_manager_rules::parse_scheme_message(msg);
   if (m.kind == SchemeMessage::Pair && m.key == QLatin1String("access_token"))
     return QString::fromLatin1(client_manager_rules::kSchemePrefix) + QStringLiteral("?access_token=***");
   if (m.kind == SchemeMessage::Malformed && msg.contains(QLatin1String("access_token")))
@@ -248,7 +248,7 @@ void ClientManager::slotMessageReceived(const QString& msg) {
     openLogPending = true;
     return;
   }
-  const SchemeMessage m = client_manager_rules::parseSchemeMessage(msg);
+  const SchemeMessage m = client_manager_rules::parse_scheme_message(msg);
   if (m.kind == SchemeMessage::NotScheme) return;
   if (m.kind == SchemeMessage::Malformed) {
     CM_LOG_ERROR("Message content is wrong: %s", qUtf8Printable(loggable(msg)));
@@ -295,7 +295,7 @@ void ClientManager::slotHandleStatusChange(ServiceStatus, ServiceStatus current,
     if (jsonx::has(current_content, "billing")) tray->updateQuota(jsonx::member(current_content, "billing"));
   }
   const QList<LogEntry> entries =
-      client_manager_rules::newLogEntries(jsonx::member(current_content, "logs"), store.getLastLogId());
+      client_manager_rules::new_log_entries(jsonx::member(current_content, "logs"), store.getLastLogId());
   if (!entries.isEmpty()) {
     store.setLastLogId(entries.last().id);
     if (tray) tray->appendLogEntries(entries);
@@ -308,7 +308,7 @@ void ClientManager::slotHandleStatusChange(ServiceStatus, ServiceStatus current,
 
 void ClientManager::slotHandleNotifications(const Json::Value& pushed) {
   int leftOut = 0;
-  const Json::Value notifications = client_manager_rules::boundedNotifications(pushed, leftOut);
+  const Json::Value notifications = client_manager_rules::bounded_notifications(pushed, leftOut);
   if (leftOut > 0)
     CM_LOG_ERROR("%d notifications in one push: the last %d shown, the first %d left out",
                  leftOut + client_manager_rules::kNotificationsPerPush,
@@ -317,7 +317,7 @@ void ClientManager::slotHandleNotifications(const Json::Value& pushed) {
     runNotifier(notifications);
   } else if (tray) {
     tray->showNotifications(
-        client_manager_rules::balloonNotifications(jsonx::member(notifications, "notifications")));
+        client_manager_rules::balloon_notifications(jsonx::member(notifications, "notifications")));
   }
 }
 
@@ -327,14 +327,14 @@ void ClientManager::slotHandleNotifications(const Json::Value& pushed) {
 // logged when it ends; one that has not ended after 30 s is stopped.
 void ClientManager::runNotifier(const Json::Value& notifications) {
   QStringList arguments;
-  if (!client_manager_rules::notifierArguments(notifications, arguments)) {
+  if (!client_manager_rules::notifier_arguments(notifications, arguments)) {
     CM_LOG_ERROR("format invalid");
     return;
   }
   auto* notifier = new QProcess(this);
   notifier->setProcessChannelMode(QProcess::MergedChannels);
   const Json::Value list =
-      client_manager_rules::balloonNotifications(jsonx::member(notifications, "notifications"));
+      client_manager_rules::balloon_notifications(jsonx::member(notifications, "notifications"));
   // Balloons instead when there is no notifier to show them.
   const auto balloons = [this, list] {
     if (tray) tray->showNotifications(list);
@@ -435,7 +435,8 @@ void ClientManager::onPortalLink(const Json::Value& response) {
   if (jsonx::has(response, "url")) {
     openInBrowser(jsonx::get_string(response, "url"), "portal link");
   } else if (jsonx::has(response, "error")) {
-    showWarningMsg(text(Str::app_name), service_error::message(service_error::code_of(response), response));
+    showWarningMsg(text(Str::app_name),
+                   service_error_text::message(service_error_text::code_of(response), response));
   }
 }
 
@@ -447,7 +448,7 @@ void ClientManager::onAuth(const Json::Value& response) {
   CM_LOG_ERROR("failed to get auth URL [%s]", loggable(response).c_str());
   authPending.exchange(false);
   wizardWindow()->closeSignInSheet();
-  wizardWindow()->showError(service_error::code_of(response), response);
+  wizardWindow()->showError(service_error_text::code_of(response), response);
   wizardWindow()->showWelcomePage();
 }
 
@@ -455,7 +456,7 @@ void ClientManager::onToken(const Json::Value& response) {
   if (jsonx::has(response, "error")) {
     CM_LOG_ERROR("failed to get token [%s]", loggable(response).c_str());
     wizardWindow()->hideConnecting();
-    wizardWindow()->showError(service_error::code_of(response), response);
+    wizardWindow()->showError(service_error_text::code_of(response), response);
     wizardWindow()->showWelcomePage();
     return;
   }
@@ -467,7 +468,7 @@ void ClientManager::onSiteInfo(const SharedJson& answer) {
   wizardWindow()->hideConnecting();
   if (jsonx::has(response, "error") && jsonx::member(response, "data").empty()) {
     CM_LOG_ERROR("failed to get site info [%s]", loggable(response).c_str());
-    wizardWindow()->showError(service_error::code_of(response), response);
+    wizardWindow()->showError(service_error_text::code_of(response), response);
     wizardWindow()->showWelcomePage();
     return;
   }
@@ -479,7 +480,7 @@ void ClientManager::onCreateDevice(const Json::Value& response) {
   wizardWindow()->hideConnecting();
   if (jsonx::has(response, "error")) {
     CM_LOG_ERROR("failed to create device [%s]", loggable(response).c_str());
-    wizardWindow()->showError(service_error::code_of(response), response);
+    wizardWindow()->showError(service_error_text::code_of(response), response);
     wizardWindow()->showWelcomePage();
     return;
   }
@@ -508,7 +509,7 @@ void ClientManager::slotQueryServiceFailed() {
     wizardWindow()->showWelcomePage();
   }
   const client_manager_rules::Failure verdict =
-      client_manager_rules::countFailure(failureCount, statusWorker->isPolling());
+      client_manager_rules::count_failure(failureCount, statusWorker->isPolling());
   if (verdict == client_manager_rules::Failure::Retry) {
     QTimer::singleShot(1000, this, &ClientManager::slotGetConnectionInfo);
     return;

@@ -3,7 +3,7 @@
 #include "vantor-core/lib/json-access.h"
 #include "ui-agent/core/string-display.h"
 
-namespace service_error {
+namespace service_error_text {
 
 Str message_row(int code) {
   switch (code) {
@@ -53,4 +53,4 @@ int code_of(const Json::Value& response) {
   return jsonx::get_int32(jsonx::get_object(response, "error"), "code");
 }
 
-}  // namespace service_error
+}  // namespace service_error_text

@@ -9,7 +9,7 @@
 
 #include "ui-agent/catalogue/string-catalogue.h"
 
-namespace service_error {
+namespace service_error_text {
 
 // The catalogue row for a code: 4..25 map to their own rows where the
 // service defines one; 12, 19, codes without a row and anything outside
@@ -26,4 +26,4 @@ QString message(int code, const Json::Value& response = Json::Value());
 // wrong type).
 int code_of(const Json::Value& response);
 
-}  // namespace service_error
+}  // namespace service_error_text

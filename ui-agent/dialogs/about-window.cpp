@@ -182,13 +182,13 @@ void AboutWindow::keyPressEvent(QKeyEvent* event) {
 
 AboutWindowContainer::AboutWindowContainer(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("AboutWindowContainer"));
-  window_placement::centreWhenShown(this);
+  window_placement::centre_when_shown(this);
   setAttribute(Qt::WA_TranslucentBackground);
   setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
   setWindowTitle(text(Str::app_name));
   setWindowIcon(QIcon(getGlobalImage(QStringLiteral("app_img"))));
   setAccessibleName(text(Str::app_name));
-  accessible_text::setWindowRole(this, accessible_text::WindowRole::Dialog);
+  accessible_text::set_window_role(this, accessible_text::WindowRole::Dialog);
   frame_ = new AboutWindow(this);
   auto* v = new QVBoxLayout(this);
   // Room for the card's shadow.

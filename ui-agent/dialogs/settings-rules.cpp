@@ -36,14 +36,14 @@ long decimalOrMinusOne(const std::string& digits) {
 
 }  // namespace
 
-bool isValidTime(const std::string& time) {
+bool is_valid_time(const std::string& time) {
   if (time.size() != 5 || time.find(':') != 2) return false;
   const long hour = decimalOrMinusOne(time.substr(0, 2));
   const long minute = decimalOrMinusOne(time.substr(3));
   return hour >= 0 && hour < 24 && minute >= 0 && minute < 60;
 }
 
-bool isValidConfig(const Json::Value& config) {
+bool is_valid_config(const Json::Value& config) {
   if (!jsonx::has(config, kType)) return false;
   // A type that is not an integer reads as neither 0 nor 1.
   const std::int64_t type = jsonx::get_int64(config, kType, -1);
@@ -53,11 +53,11 @@ bool isValidConfig(const Json::Value& config) {
   // Only a JSON bool false switches the range off; anything else asks for
   // valid times.
   if (range.isBool() && !jsonx::to_bool(range)) return true;
-  return jsonx::has(config, kStart) && isValidTime(jsonx::get_string(config, kStart)) &&
-         jsonx::has(config, kEnd) && isValidTime(jsonx::get_string(config, kEnd));
+  return jsonx::has(config, kStart) && is_valid_time(jsonx::get_string(config, kStart)) &&
+         jsonx::has(config, kEnd) && is_valid_time(jsonx::get_string(config, kEnd));
 }
 
-Json::Value defaultConfig() {
+Json::Value default_config() {
   Json::Value config(Json::objectValue);
   config[kEnd] = kDefaultEnd;
   config[kRange] = true;
@@ -67,7 +67,7 @@ Json::Value defaultConfig() {
   return config;
 }
 
-int hourOf(const QString& timeText) {
+int hour_of(const QString& timeText) {
   const int colon = timeText.indexOf(QLatin1Char(':'));
   if (colon <= 0) return -1;
   bool ok = false;
@@ -75,16 +75,16 @@ int hourOf(const QString& timeText) {
   return ok && hour >= 0 ? hour : -1;
 }
 
-QStringList startItems() {
+QStringList start_items() {
   QStringList items;
   items.reserve(24);
   for (int hour = 0; hour < 24; ++hour) items << QStringLiteral("%1:00").arg(hour, 2, 10, QLatin1Char('0'));
   return items;
 }
 
-QStringList endItems(const QString& startText, const QString& nextDay) {
+QStringList end_items(const QString& startText, const QString& nextDay) {
   QStringList items;
-  const int start = hourOf(startText);
+  const int start = hour_of(startText);
   if (start < 0) return items;
   // The minutes of the start time (":00" for a whole hour); a suffix such as
   // " (Custom)" after the time is not part of them.
@@ -99,21 +99,21 @@ QStringList endItems(const QString& startText, const QString& nextDay) {
   return items;
 }
 
-int endItemIndex(const QStringList& items, const QString& previous) {
+int end_item_index(const QStringList& items, const QString& previous) {
   const QString wanted = previous.left(5);
   for (int i = 0; i < items.size(); ++i)
     if (items.at(i).left(5) == wanted) return i;
   return 0;
 }
 
-QString endDisplayText(const QString& end, const QString& start, const QString& nextDay) {
+QString end_display_text(const QString& end, const QString& start, const QString& nextDay) {
   const QString time = end.left(5);
-  const int endHour = hourOf(time);
-  if (endHour >= 0 && endHour < hourOf(start)) return time + QLatin1Char(' ') + nextDay;
+  const int endHour = hour_of(time);
+  if (endHour >= 0 && endHour < hour_of(start)) return time + QLatin1Char(' ') + nextDay;
   return time;
 }
 
-LoadedSettings loadSettings(const Json::Value& config) {
+LoadedSettings load_settings(const Json::Value& config) {
   LoadedSettings out;
   out.limited = jsonx::get_int64(config, kType) != 0;
 
@@ -125,7 +125,7 @@ LoadedSettings loadSettings(const Json::Value& config) {
     const std::int64_t value = jsonx::to_int64(rate, kDefaultRate);
     out.rate = QString::number(value);
     if (value < kMinRate || value > kMaxRate) {
-      out.rate = clampRate(out.rate);
+      out.rate = clamp_rate(out.rate);
       LOG_WARN(vlog::kDefaultComponent, "bandwidth rate %lld out of range, showing %s",
                static_cast<long long>(value), out.rate.toUtf8().constData());
     }
@@ -134,8 +134,8 @@ LoadedSettings loadSettings(const Json::Value& config) {
   out.limitRange = jsonx::get_bool(config, kRange, true);
   const std::string start = jsonx::get_string(config, kStart);
   const std::string end = jsonx::get_string(config, kEnd);
-  const bool startOk = isValidTime(start);
-  const bool endOk = isValidTime(end);
+  const bool startOk = is_valid_time(start);
+  const bool endOk = is_valid_time(end);
   if (!startOk || !endOk)
     LOG_INFO(vlog::kDefaultComponent, "bandwidth config without a valid time range, showing %s to %s",
              startOk ? start.c_str() : kDefaultStart, endOk ? end.c_str() : kDefaultEnd);
@@ -144,7 +144,7 @@ LoadedSettings loadSettings(const Json::Value& config) {
   return out;
 }
 
-QString clampRate(const QString& text) {
+QString clamp_rate(const QString& text) {
   bool ok = false;
   const QString digits = text.trimmed();
   const qlonglong value = digits.toLongLong(&ok, 10);
@@ -156,7 +156,7 @@ QString clampRate(const QString& text) {
   return QString::number(value);
 }
 
-QString formatOneDecimal(double value) {
+QString format_one_decimal(double value) {
   // QString::asprintf formats in the C locale whatever the user's locale.
   QString text = QString::asprintf("%f", value);
   const int point = text.indexOf(QLatin1Char('.'));
@@ -167,17 +167,17 @@ QString formatOneDecimal(double value) {
   return text;
 }
 
-QString rateMegabytesText(const QString& rateText) {
+QString rate_megabytes_text(const QString& rateText) {
   if (rateText.isEmpty()) return QStringLiteral("--");
   const double rate = rateText.toLongLong(nullptr, 10);
-  return formatOneDecimal(rate * 0.125 + 0.05);
+  return format_one_decimal(rate * 0.125 + 0.05);
 }
 
-QString rateUnitText(const QString& rateText) {
-  return string_display::text(Str::estimate_mbps).arg(rateMegabytesText(rateText));
+QString rate_unit_text(const QString& rateText) {
+  return string_display::text(Str::estimate_mbps).arg(rate_megabytes_text(rateText));
 }
 
-UploadEstimate uploadEstimate(int rateMbps) {
+UploadEstimate upload_estimate(int rateMbps) {
   UploadEstimate out;
   if (rateMbps <= 0) {
     out.key = Str::tip_estimate_hours;
@@ -191,7 +191,7 @@ UploadEstimate uploadEstimate(int rateMbps) {
     out.value = QStringLiteral("1");
   } else {
     hours = seconds >= 3600;
-    out.value = formatOneDecimal(seconds / (hours ? 3600 : 60) + 0.05);
+    out.value = format_one_decimal(seconds / (hours ? 3600 : 60) + 0.05);
   }
   const bool one = out.value == QLatin1String("1");
   if (hours)
@@ -201,12 +201,12 @@ UploadEstimate uploadEstimate(int rateMbps) {
   return out;
 }
 
-QString uploadEstimateText(const QString& rateText) {
-  const UploadEstimate estimate = uploadEstimate(rateText.isEmpty() ? 0 : rateText.toInt(nullptr, 10));
+QString upload_estimate_text(const QString& rateText) {
+  const UploadEstimate estimate = upload_estimate(rateText.isEmpty() ? 0 : rateText.toInt(nullptr, 10));
   return string_display::text(estimate.key).arg(estimate.value);
 }
 
-ServerNote serverNote(const Json::Value& serverConfig) {
+ServerNote server_note(const Json::Value& serverConfig) {
   ServerNote note;
   if (jsonx::get_int64(serverConfig, kType) == 0) return note;
   note.visible = true;
@@ -214,7 +214,7 @@ ServerNote serverNote(const Json::Value& serverConfig) {
   if (jsonx::get_bool(serverConfig, kRange)) {
     const QString start = QString::fromStdString(jsonx::get_string(serverConfig, kStart));
     const QString end = QString::fromStdString(jsonx::get_string(serverConfig, kEnd));
-    const QString shownEnd = endDisplayText(end, start, string_display::text(Str::next_day));
+    const QString shownEnd = end_display_text(end, start, string_display::text(Str::next_day));
     note.text = string_display::text(Str::bandwidth_note_business_with_range)
                     .arg(rate, start.toHtmlEscaped(), shownEnd.toHtmlEscaped());
   } else {
@@ -224,7 +224,7 @@ ServerNote serverNote(const Json::Value& serverConfig) {
   return note;
 }
 
-Json::Value saveRequest(const SaveInput& input) {
+Json::Value save_request(const SaveInput& input) {
   Json::Value bandwidth(Json::objectValue);
   bandwidth[kEnd] = input.endText.left(5).toStdString();
   bandwidth[kRange] = input.limitRange;

@@ -22,27 +22,27 @@ constexpr int kMaxRate = 9999;
 
 // Exactly five characters, the first ':' at index 2, hour below 24 and
 // minute below 60 (both decimal).
-bool isValidTime(const std::string& time);
+bool is_valid_time(const std::string& time);
 // The validity rule of a bandwidth configuration object.
-bool isValidConfig(const Json::Value& config);
+bool is_valid_config(const Json::Value& config);
 // No limit, 20 Mbps, range on, 07:00 to 23:00.
-Json::Value defaultConfig();
+Json::Value default_config();
 
 // The hour of an "HH..." text (the integer before ':'), -1 when there is none.
-int hourOf(const QString& timeText);
+int hour_of(const QString& timeText);
 
 // "00:00", "01:00" ... "23:00".
-QStringList startItems();
+QStringList start_items();
 // The 23 hours after the start: hour (start + i) % 24 for i = 1..23, followed
 // by the start's minutes (":00" for a whole hour), with " " + `nextDay` when
 // the hour is below the start hour. Empty when the start has no hour.
-QStringList endItems(const QString& startText, const QString& nextDay);
+QStringList end_items(const QString& startText, const QString& nextDay);
 // The index of the item whose first five characters equal those of
 // `previous`, else 0.
-int endItemIndex(const QStringList& items, const QString& previous);
+int end_item_index(const QStringList& items, const QString& previous);
 // `end` (its first five characters) followed by " " + `nextDay` when its
 // hour is below the start's hour.
-QString endDisplayText(const QString& end, const QString& start, const QString& nextDay);
+QString end_display_text(const QString& end, const QString& start, const QString& nextDay);
 
 // What a configuration puts into the controls.
 struct LoadedSettings {
@@ -54,21 +54,21 @@ struct LoadedSettings {
 };
 // Fields that are missing, of the wrong type or out of range take the
 // defaults (rate clamped); every such fallback is logged.
-LoadedSettings loadSettings(const Json::Value& config);
+LoadedSettings load_settings(const Json::Value& config);
 
 // The rate text after leaving the edit: read as a decimal integer (empty or
 // no number reads as 0), then kept within 5..9999.
-QString clampRate(const QString& text);
+QString clamp_rate(const QString& text);
 
 // A value printed with "%f", cut after the first decimal digit, then trailing
 // zeros and a trailing point removed: 2.55 -> "2.5", 1.05 -> "1".
-QString formatOneDecimal(double value);
+QString format_one_decimal(double value);
 
 // The %1 of the rate-unit label: "--" for an empty rate, else
 // rate * 0.125 + 0.05 in MB/s (20 -> "2.5", 8 -> "1", 100 -> "12.5").
-QString rateMegabytesText(const QString& rateText);
+QString rate_megabytes_text(const QString& rateText);
 // "Mbps (%1 MB/s)" filled.
-QString rateUnitText(const QString& rateText);
+QString rate_unit_text(const QString& rateText);
 
 // The time to upload 100 GB at a rate in Mbps: a catalogue row (hour(s) or
 // minute(s)) and its number.
@@ -77,16 +77,16 @@ struct UploadEstimate {
   QString value;
 };
 // Rate 0 or below stands for an empty edit: hours with "--".
-UploadEstimate uploadEstimate(int rateMbps);
+UploadEstimate upload_estimate(int rateMbps);
 // The same for the edit's text, filled into its catalogue text.
-QString uploadEstimateText(const QString& rateText);
+QString upload_estimate_text(const QString& rateText);
 
 // The organisation's limit as a note, or hidden when it sets none.
 struct ServerNote {
   bool visible = false;
   QString text;  // rich text
 };
-ServerNote serverNote(const Json::Value& serverConfig);
+ServerNote server_note(const Json::Value& serverConfig);
 
 // What the controls hold when "Save" is pressed.
 struct SaveInput {
@@ -98,6 +98,6 @@ struct SaveInput {
 };
 // {"action":"set_bandwidth_control","bandwidth":{...}} with every field,
 // the times cut to their first five characters.
-Json::Value saveRequest(const SaveInput& input);
+Json::Value save_request(const SaveInput& input);
 
 }  // namespace settings_rules

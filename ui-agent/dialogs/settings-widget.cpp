@@ -55,11 +55,11 @@ QString withLineHeight(const QString& html, int logicalLineHeight) {
 
 SettingsWidget::SettingsWidget(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("SettingsWidget"));
-  window_placement::centreWhenShown(this);
+  window_placement::centre_when_shown(this);
   setWindowFlags(Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint);
   setWindowTitle(text(Str::act_settings));
   setAccessibleName(text(Str::act_settings));
-  accessible_text::setWindowRole(this, accessible_text::WindowRole::Dialog);
+  accessible_text::set_window_role(this, accessible_text::WindowRole::Dialog);
   setFixedSize(px(700), px(442));
   setAutoFillBackground(true);
   QPalette pal = palette();
@@ -93,11 +93,11 @@ SettingsWidget::SettingsWidget(QWidget* parent) : QWidget(parent) {
 SettingsWidget::~SettingsWidget() = default;
 
 bool SettingsWidget::isValidConfig(const Json::Value& config) {
-  return settings_rules::isValidConfig(config);
+  return settings_rules::is_valid_config(config);
 }
 
 Json::Value SettingsWidget::defaultClientConfig() {
-  return settings_rules::defaultConfig();
+  return settings_rules::default_config();
 }
 
 void SettingsWidget::buildUi() {
@@ -291,7 +291,7 @@ void SettingsWidget::buildTimeRows(QWidget* container) {
   m_startCombo->setCustomText(text(Str::bandwidth_custom));
   {
     const QSignalBlocker block(m_startCombo);
-    m_startCombo->addItems(settings_rules::startItems());
+    m_startCombo->addItems(settings_rules::start_items());
     m_startCombo->setTimeText(QStringLiteral("07:00"));
   }
   m_endCombo->setMaxVisibleItems(5);
@@ -299,11 +299,11 @@ void SettingsWidget::buildTimeRows(QWidget* container) {
 
 void SettingsWidget::loadClientConfig(const Json::Value& config) {
   Json::Value usable = config;
-  if (!settings_rules::isValidConfig(config)) {
+  if (!settings_rules::is_valid_config(config)) {
     LOG_WARN(vlog::kDefaultComponent, "invalid bandwidth client config, showing the defaults");
     usable = defaultClientConfig();
   }
-  const settings_rules::LoadedSettings loaded = settings_rules::loadSettings(usable);
+  const settings_rules::LoadedSettings loaded = settings_rules::load_settings(usable);
 
   (loaded.limited ? static_cast<QRadioButton*>(m_limitRadio) : m_noLimitRadio)->setChecked(true);
 
@@ -311,7 +311,7 @@ void SettingsWidget::loadClientConfig(const Json::Value& config) {
   slotUpadteEndTimeItems();
 
   const QString nextDay = text(Str::next_day);
-  const QString endText = settings_rules::endDisplayText(loaded.end, m_startCombo->timeText(), nextDay);
+  const QString endText = settings_rules::end_display_text(loaded.end, m_startCombo->timeText(), nextDay);
   // A time that is not one of the offered hours shows as its own item, with
   // "Next day" when it falls after midnight.
   m_endCombo->setCustomText(endText.size() > 5 ? nextDay : QString());
@@ -330,11 +330,11 @@ void SettingsWidget::loadClientConfig(const Json::Value& config) {
 }
 
 void SettingsWidget::applyServerConfig(const Json::Value& config) {
-  if (!settings_rules::isValidConfig(config)) {
+  if (!settings_rules::is_valid_config(config)) {
     LOG_WARN(vlog::kDefaultComponent, "invalid bandwidth server config, note left as it is");
     return;
   }
-  const settings_rules::ServerNote note = settings_rules::serverNote(config);
+  const settings_rules::ServerNote note = settings_rules::server_note(config);
   if (note.visible) m_noteLabel->setText(withLineHeight(note.text, 20));
   m_noteBox->setVisible(note.visible);
   m_noteLabel->setAccessibleName(note.visible ? m_noteLabel->text() : QString());
@@ -360,11 +360,11 @@ void SettingsWidget::slotChangeRangeStatus(int status) {
 
 void SettingsWidget::slotUpadteEndTimeItems() {
   const QString previous = m_endCombo->currentText().left(5);
-  const QStringList items = settings_rules::endItems(m_startCombo->timeText(), text(Str::next_day));
+  const QStringList items = settings_rules::end_items(m_startCombo->timeText(), text(Str::next_day));
   const QSignalBlocker block(m_endCombo);
   m_endCombo->clear();
   m_endCombo->addItems(items);
-  m_endCombo->setCurrentIndex(items.isEmpty() ? -1 : settings_rules::endItemIndex(items, previous));
+  m_endCombo->setCurrentIndex(items.isEmpty() ? -1 : settings_rules::end_item_index(items, previous));
 }
 
 void SettingsWidget::slotSaveSettings() {
@@ -376,7 +376,7 @@ void SettingsWidget::slotSaveSettings() {
   input.limitRange = m_rangeCheckBox->isChecked();
   input.startText = m_startCombo->currentText();
   input.endText = m_endCombo->currentText();
-  const Json::Value request = settings_rules::saveRequest(input);
+  const Json::Value request = settings_rules::save_request(input);
   LOG_INFO(vlog::kDefaultComponent, "saving bandwidth settings: type %d, rate %s, range %d, %s to %s",
            input.noLimit ? 0 : 1, input.rate.toUtf8().constData(), input.limitRange ? 1 : 0,
            input.startText.left(5).toUtf8().constData(), input.endText.left(5).toUtf8().constData());
@@ -416,14 +416,14 @@ void SettingsWidget::closeEvent(QCloseEvent* event) {
 }
 
 void SettingsWidget::clampRateEdit() {
-  const QString clamped = settings_rules::clampRate(m_rateEdit->text());
+  const QString clamped = settings_rules::clamp_rate(m_rateEdit->text());
   if (clamped != m_rateEdit->text()) m_rateEdit->setText(clamped);
 }
 
 void SettingsWidget::refreshRateTexts() {
   const QString rate = m_rateEdit->text();
-  m_rateUnitLabel->setText(settings_rules::rateUnitText(rate));
-  const QString estimate = settings_rules::uploadEstimateText(rate);
+  m_rateUnitLabel->setText(settings_rules::rate_unit_text(rate));
+  const QString estimate = settings_rules::upload_estimate_text(rate);
   m_estimateIcon->setToolTip(estimate);
   m_estimateIcon->setAccessibleName(estimate);
 }

@@ -17,7 +17,7 @@ Qt::WindowFlags UpdateStatusDialog::baseWindowFlags() {
 
 UpdateStatusDialog::UpdateStatusDialog(QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("UpdateStatusDialog"));
-  window_placement::centreWhenShown(this);
+  window_placement::centre_when_shown(this);
   using string_display::text;
 
   icon_ = new QLabel(this);

@@ -103,12 +103,12 @@ std::vector<std::vector<Cell>> event_rows() {
   for (const LogEntry& e : longest_events(8)) {
     const QString caption = QString::number(e.type);
     // The pop-up's label has a fixed size: what does not fit is cut off.
-    std::unique_ptr<QLabel> p(label(tray_text::line_div(tray_fit.fit(e).message),
-                                    QString(), DPIinfo::scaled(177), true));
+    std::unique_ptr<QLabel> p(
+        label(relative_age::line_div(tray_fit.fit(e).message), QString(), DPIinfo::scaled(177), true));
     p->setFixedHeight(DPIinfo::scaled(40));
     p->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     popup.push_back({caption, in_room(p.get(), {DPIinfo::scaled(177), DPIinfo::scaled(40)})});
-    std::unique_ptr<QLabel> d(label(tray_text::line_div(activity_fit.fit(e).message),
+    std::unique_ptr<QLabel> d(label(relative_age::line_div(activity_fit.fit(e).message),
                                     QStringLiteral("component.lineedit_label"), DPIinfo::scaled(441), true));
     dialog.push_back({caption, in_room(d.get(), {DPIinfo::scaled(441), 60})});
     if (popup.size() == 4) {

@@ -69,10 +69,10 @@ BackupScheduleInfoWidget::BackupScheduleInfoWidget(QWidget* parent) : QFrame(par
 void BackupScheduleInfoWidget::setLastBackupText(const QString& text) {
   last_value_->setText(text);
   // Heard whole, with its caption.
-  accessible_text::describeValue(last_value_, last_caption_->fullText(), text);
+  accessible_text::describe_value(last_value_, last_caption_->fullText(), text);
 }
 
 void BackupScheduleInfoWidget::setNextBackupText(const QString& text) {
   next_value_->setText(text);
-  accessible_text::describeValue(next_value_, next_caption_->fullText(), text);
+  accessible_text::describe_value(next_value_, next_caption_->fullText(), text);
 }

@@ -105,7 +105,7 @@ Fitter Fitter::activity() {
 }
 
 QString Fitter::labelText(const QString& message) const {
-  return tray_text::line_div(message + suffix_);
+  return relative_age::line_div(message + suffix_);
 }
 
 QSize Fitter::measure(const QString& message) {

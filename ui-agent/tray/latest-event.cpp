@@ -45,14 +45,14 @@ void LatestEventLine::refresh(qint64 now) {
   // text in the same label.
   if (event_->toolTip() != plain_) event_->setToolTip(plain_);
   if (event_->accessibleName() != plain_) event_->setAccessibleName(plain_);
-  event_->setText(tray_text::line_div(message_));
+  event_->setText(relative_age::line_div(message_));
   refreshAge(now);
 }
 
 void LatestEventLine::refreshAge(qint64 now) {
   if (!entry_) return;
-  const QString age = tray_text::relative_age_text(now, entry_->time);
-  age_->setText(tray_text::line_div(age));
+  const QString age = relative_age::relative_age_text(now, entry_->time);
+  age_->setText(relative_age::line_div(age));
   // Said again every second: a name set again is announced again.
   if (age_->accessibleName() != age) age_->setAccessibleName(age);
 }

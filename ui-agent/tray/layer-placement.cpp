@@ -15,7 +15,7 @@ int centredInside(int centre, int length, int low, int high) {
 
 }  // namespace
 
-Placement anchoredAt(const QRect& screen, const QSize& size, QPoint anchor) {
+Placement anchored_at(const QRect& screen, const QSize& size, QPoint anchor) {
   const QPoint p(std::clamp(anchor.x(), screen.left(), screen.right()),
                  std::clamp(anchor.y(), screen.top(), screen.bottom()));
   const int toLeft = p.x() - screen.left(), toRight = screen.right() - p.x();
@@ -48,7 +48,7 @@ Placement anchoredAt(const QRect& screen, const QSize& size, QPoint anchor) {
   return out;
 }
 
-Placement nestedIn(const Placement& parent, const QSize& parentSize, QPoint offset, const QSize& size) {
+Placement nested_in(const Placement& parent, const QSize& parentSize, QPoint offset, const QSize& size) {
   Placement out;
   out.anchors = parent.anchors;
   const QMargins& m = parent.margins;

@@ -29,12 +29,12 @@ struct Placement {
 // on the point along that edge, kept one pixel inside the screen, and
 // anchored to the corner of the half the point is in, so that the margins
 // stay small. Ties go to the bottom, then the top, right and left.
-Placement anchoredAt(const QRect& screen, const QSize& size, QPoint anchor);
+Placement anchored_at(const QRect& screen, const QSize& size, QPoint anchor);
 
 // A window opened from the pop-up (its menu, a tool tip) at `offset` from
 // the pop-up's top-left corner: anchored to the same edges as `parent`, so
 // that it keeps its place beside the pop-up whatever room panels reserve.
 // Margins never go below 0.
-Placement nestedIn(const Placement& parent, const QSize& parentSize, QPoint offset, const QSize& size);
+Placement nested_in(const Placement& parent, const QSize& parentSize, QPoint offset, const QSize& size);
 
 }  // namespace layer_placement

@@ -67,7 +67,7 @@ QLabel* cellLabel(const QString& text, const QString& style) {
 
 LogWidget::LogWidget(QWidget* parent) : QWidget(parent), fitter_(event_fit::Fitter::activity()) {
   setObjectName(QStringLiteral("LogWidget"));
-  window_placement::centreWhenShown(this);
+  window_placement::centre_when_shown(this);
   setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint);
   setFixedSize(DPIinfo::scaled(700), DPIinfo::scaled(442));
   QPalette pal = palette();
@@ -76,7 +76,7 @@ LogWidget::LogWidget(QWidget* parent) : QWidget(parent), fitter_(event_fit::Fitt
   setAutoFillBackground(true);
   setWindowTitle(string_display::text(Str::title_activities));
   setAccessibleName(windowTitle());
-  accessible_text::setWindowRole(this, accessible_text::WindowRole::Frame);
+  accessible_text::set_window_role(this, accessible_text::WindowRole::Frame);
 
   header_ = new QTableWidget(1, 2, this);
   header_->setObjectName(QStringLiteral("logHeaderTable"));
@@ -123,7 +123,7 @@ LogWidget::LogWidget(QWidget* parent) : QWidget(parent), fitter_(event_fit::Fitt
   // The columns' names for screen readers (the header itself is hidden).
   table_->setHorizontalHeaderLabels(
       {string_display::text(Str::desc_time), string_display::text(Str::desc_event)});
-  copyable_text::enableRows(table_);
+  copyable_text::enable_rows(table_);
 
   close_ = new VellButton(string_display::text(Str::btn_close), VellButton::Secondary, this);
   close_->setObjectName(QStringLiteral("logCloseButton"));
@@ -229,7 +229,7 @@ void LogWidget::fillRow(int row, const LogEntry& entry) {
   if (fitted.size.height() > 20)
     table_->setRowHeight(row, static_cast<int>(DPIinfo::getDPI() * (fitted.size.height() + 20)));
 
-  const QString when = tray_text::second_time(static_cast<qint64>(entry.time));
+  const QString when = relative_age::second_time(static_cast<qint64>(entry.time));
   auto* time = new QLabel(when);
   time->setObjectName(QStringLiteral("logTimeText"));  // styled by the table
   time->setToolTip(when);

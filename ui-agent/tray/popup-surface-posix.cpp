@@ -125,8 +125,8 @@ class PopupShellIntegration : public wl::QWaylandShellIntegration {
                                                      parentSurface->margins(), parentRect.topLeft()};
     const QRect rect = q->geometry();
     setLayer(q,
-             layer_placement::nestedIn(parentPlacement, parentRect.size(),
-                                       rect.topLeft() - parentRect.topLeft(), rect.size()),
+             layer_placement::nested_in(parentPlacement, parentRect.size(),
+                                        rect.topLeft() - parentRect.topLeft(), rect.size()),
              LayerWindow::LayerOverlay,
              q->type() == Qt::ToolTip ? LayerWindow::KeyboardInteractivityNone
                                       : LayerWindow::KeyboardInteractivityOnDemand);
@@ -143,7 +143,7 @@ QtWaylandClient::QWaylandShellIntegration* newShellIntegration() {
   return new PopupShellIntegration();
 }
 
-void prepareApplication() {
+void prepare_application() {
   if (qEnvironmentVariableIsEmpty(kShellVariable)) qputenv(kShellVariable, kShells);
 }
 
@@ -158,7 +158,7 @@ Kind kind() {
   return loaded && layerShellActive ? Kind::Layer : Kind::Framed;
 }
 
-void markLayer(QWindow* window, const layer_placement::Placement& placement) {
+void mark_layer(QWindow* window, const layer_placement::Placement& placement) {
   setLayer(window, placement, LayerWindow::LayerTop, LayerWindow::KeyboardInteractivityOnDemand);
   LayerWindow::get(window)->setDesiredOutput(window->screen());
 }

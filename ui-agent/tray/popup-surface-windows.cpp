@@ -3,12 +3,12 @@
 
 namespace popup_surface {
 
-void prepareApplication() {}
+void prepare_application() {}
 
 Kind kind() {
   return Kind::Positioned;
 }
 
-void markLayer(QWindow*, const layer_placement::Placement&) {}
+void mark_layer(QWindow*, const layer_placement::Placement&) {}
 
 }  // namespace popup_surface

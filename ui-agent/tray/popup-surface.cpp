@@ -40,7 +40,7 @@ class FocusLossCloser : public QObject {
 
 }  // namespace
 
-bool placeOnLayer(QWidget* popup, QPoint anchor) {
+bool place_on_layer(QWidget* popup, QPoint anchor) {
   if (kind() != Kind::Layer) return false;
   QScreen* screen = QGuiApplication::screenAt(anchor);
   if (!screen) screen = QGuiApplication::primaryScreen();
@@ -49,11 +49,11 @@ bool placeOnLayer(QWidget* popup, QPoint anchor) {
     return false;
   }
   const layer_placement::Placement placement =
-      layer_placement::anchoredAt(screen->geometry(), popup->sizeHint(), anchor);
+      layer_placement::anchored_at(screen->geometry(), popup->sizeHint(), anchor);
   popup->createWinId();
   QWindow* window = popup->windowHandle();
   window->setScreen(screen);
-  markLayer(window, placement);
+  mark_layer(window, placement);
   popup->move(placement.topLeft);
   LOG_DEBUG(vlog::kDefaultComponent, "tray pop-up: layer surface for (%d, %d) at (%d, %d), anchors 0x%x",
             anchor.x(), anchor.y(), placement.topLeft.x(), placement.topLeft.y(),
@@ -61,7 +61,7 @@ bool placeOnLayer(QWidget* popup, QPoint anchor) {
   return true;
 }
 
-void closeOnFocusLoss(QWidget* popup) {
+void close_on_focus_loss(QWidget* popup) {
   popup->installEventFilter(new FocusLossCloser(popup));
 }
 

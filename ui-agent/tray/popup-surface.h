@@ -12,7 +12,7 @@
 //
 // Qt 5 gives one shell to every window of a process. On Wayland the agent
 // therefore runs its own shell integration, which makes the windows marked
-// by markLayer() (and the menus and tool tips opened from them) layer
+// by mark_layer() (and the menus and tool tips opened from them) layer
 // surfaces and every other window an ordinary xdg-shell window.
 
 #include <QPoint>
@@ -32,24 +32,24 @@ enum class Kind {
 
 // Before the application object: on Wayland, the agent's shell integration
 // unless the person chose a shell (QT_WAYLAND_SHELL_INTEGRATION).
-void prepareApplication();
+void prepare_application();
 
 // Which of the three the pop-up is on this display.
 Kind kind();
 
 // Marks `window` (not yet shown) as a layer surface at `placement` on
 // `screen`'s output, with the keyboard on demand. Only for Kind::Layer.
-void markLayer(QWindow* window, const layer_placement::Placement& placement);
+void mark_layer(QWindow* window, const layer_placement::Placement& placement);
 
 // Kind::Layer: makes `popup` (a top-level widget, not shown) a layer surface
 // for an activation at `anchor`, on the screen holding the point (else the
 // primary one), and moves it where that surface appears, so that menus
 // opened from it find their place. False (nothing done) for the other kinds.
-bool placeOnLayer(QWidget* popup, QPoint anchor);
+bool place_on_layer(QWidget* popup, QPoint anchor);
 
 // Kind::Layer: hides `popup` when the keyboard focus leaves it for another
 // program or window (a click outside it), unless a menu of its own took it.
 // The compositor tells the agent of no press outside its own surfaces.
-void closeOnFocusLoss(QWidget* popup);
+void close_on_focus_loss(QWidget* popup);
 
 }  // namespace popup_surface

@@ -8,7 +8,7 @@
 #include "vantor-core/lib/json-access.h"
 #include "ui-agent/core/string-display.h"
 
-namespace tray_progress_page {
+namespace progress_page_model {
 
 Str phase_for(ServiceStatus status) {
   return service_status::is_preparing(status) ? Str::desc_backup_preparing : Str::desc_status_backup;
@@ -82,4 +82,4 @@ View view_for(ServiceStatus status, const Json::Value& content, double previous_
   return v;
 }
 
-}  // namespace tray_progress_page
+}  // namespace progress_page_model

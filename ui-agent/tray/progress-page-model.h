@@ -12,7 +12,7 @@
 #include "ui-agent/core/service-status.h"
 #include "ui-agent/catalogue/string-catalogue.h"
 
-namespace tray_progress_page {
+namespace progress_page_model {
 
 // "Preparing for backup..." for 0x3001 and 0x3002, else "Backing up...".
 Str phase_for(ServiceStatus status);
@@ -54,4 +54,4 @@ struct View {
 
 View view_for(ServiceStatus status, const Json::Value& content, double previous_estimate, qint64 now);
 
-}  // namespace tray_progress_page
+}  // namespace progress_page_model

@@ -70,7 +70,7 @@ void QuotaInfoWidget::setAccount(const QString& account) {
   account_line_->ensurePolished();  // the style sheet's font is the one shown
   const double w = QFontMetrics(account_line_->font()).horizontalAdvance(account);
   account_line_->setFixedHeight(DPIinfo::scaled(quota_model::account_line_height(w, scale)));
-  account_line_->setHtml(tray_text::line_div(account.toHtmlEscaped()));
+  account_line_->setHtml(relative_age::line_div(account.toHtmlEscaped()));
   account_line_->setAccessibleName(account);
   if (!account.isEmpty()) emit sigAccountChanged(account);
 }

@@ -8,7 +8,7 @@
 #include "logging/per-thread.h"
 #include "ui-agent/core/string-display.h"
 
-namespace tray_text {
+namespace relative_age {
 
 Clock system_clock() {
   return [] { return QDateTime::currentSecsSinceEpoch(); };
@@ -73,4 +73,4 @@ QString line_div(const QString& html) {
   return QStringLiteral("<div style=\"line-height:20px\">") + html + QStringLiteral("</div>");
 }
 
-}  // namespace tray_text
+}  // namespace relative_age

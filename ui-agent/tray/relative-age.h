@@ -9,7 +9,7 @@
 
 #include "ui-agent/catalogue/string-catalogue.h"
 
-namespace tray_text {
+namespace relative_age {
 
 // "Now" in seconds since the epoch; widgets take one so tests can set it.
 using Clock = std::function<qint64()>;
@@ -36,4 +36,4 @@ QString second_time(qint64 secs);
 // "<div style=\"line-height:20px\">" + html + "</div>"
 QString line_div(const QString& html);
 
-}  // namespace tray_text
+}  // namespace relative_age

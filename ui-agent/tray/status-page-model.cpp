@@ -7,7 +7,7 @@
 #include "ui-agent/tray/relative-age.h"
 #include "ui-agent/core/string-display.h"
 
-namespace tray_status_page {
+namespace status_page_model {
 
 Result result_for(int last_status, bool backed_up) {
   if (backed_up) {
@@ -29,12 +29,12 @@ Result result_for(int last_status, bool backed_up) {
 
 QString last_backup_text(quint64 secs) {
   if (secs == 0) return string_display::text(Str::desc_no_backup_yet);
-  return tray_text::minute_time(static_cast<qint64>(secs));
+  return relative_age::minute_time(static_cast<qint64>(secs));
 }
 
 QString next_backup_text(quint64 secs) {
   if (secs == 0) return string_display::text(Str::desc_no_schedule);
-  return tray_text::minute_time(static_cast<qint64>(secs));
+  return relative_age::minute_time(static_cast<qint64>(secs));
 }
 
 std::optional<QString> schedule_type_text(qint64 type) {
@@ -63,7 +63,7 @@ View view_for(const Json::Value& content) {
   if (jsonx::has(content, "error") || !jsonx::get_bool(content, "connected")) {
     view.error = true;
     view.result = {Str::desc_status_error, "status_m_error", TrayError};
-    view.error_message = service_error::message(error_code_of(content), content);
+    view.error_message = service_error_text::message(error_code_of(content), content);
     return view;
   }
   const Json::Value& r = jsonx::get_object(content, "last_backup_result");
@@ -77,4 +77,4 @@ View view_for(const Json::Value& content) {
   return view;
 }
 
-}  // namespace tray_status_page
+}  // namespace status_page_model

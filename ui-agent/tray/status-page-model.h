@@ -12,7 +12,7 @@
 #include "ui-agent/core/tray-status.h"
 #include "ui-agent/catalogue/string-catalogue.h"
 
-namespace tray_status_page {
+namespace status_page_model {
 
 struct Result {
   Str text;
@@ -49,4 +49,4 @@ QString next_backup_text(quint64 secs);
 // have their own texts, any other type leaves the label unchanged.
 std::optional<QString> schedule_type_text(qint64 type);
 
-}  // namespace tray_status_page
+}  // namespace status_page_model

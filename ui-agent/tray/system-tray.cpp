@@ -36,7 +36,7 @@
 TrayMenuContainer::TrayMenuContainer(QWidget* content, QWidget* parent) : QWidget(parent), content_(content) {
   setObjectName(QStringLiteral("TrayMenuContainer"));
   setAccessibleName(string_display::text(Str::app_name));
-  accessible_text::setWindowRole(this, accessible_text::WindowRole::Frame);
+  accessible_text::set_window_role(this, accessible_text::WindowRole::Frame);
   setWindowTitle(string_display::text(Str::app_name));
   setAttribute(Qt::WA_TranslucentBackground);
   setPopupMode(true);
@@ -44,7 +44,7 @@ TrayMenuContainer::TrayMenuContainer(QWidget* content, QWidget* parent) : QWidge
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
   if (content_) layout->addWidget(content_);
-  popup_surface::closeOnFocusLoss(this);
+  popup_surface::close_on_focus_loss(this);
 }
 
 void TrayMenuContainer::setPopupMode(bool popup) {
@@ -71,7 +71,7 @@ QRect TrayMenuContainer::availableGeometry() const {
 
 void TrayMenuContainer::placeAt(QPoint anchor) {
   // The work area of the screen the anchor is on (a panel on a second screen).
-  const QRect area = available_ ? available_() : window_placement::workAreaAt(anchor);
+  const QRect area = available_ ? available_() : window_placement::work_area_at(anchor);
   const tray_placement::Placement p = tray_placement::place(area, sizeHint(), anchor, side_);
   side_ = p.side;
   anchor_ = anchor;
@@ -89,7 +89,7 @@ void TrayMenuContainer::showAt(QPoint anchor) {
   }
   side_ = tray_placement::NotPlaced;
   adjustSize();
-  if (!popup_surface::placeOnLayer(this, anchor)) placeAt(anchor);
+  if (!popup_surface::place_on_layer(this, anchor)) placeAt(anchor);
   show();
 }
 
@@ -181,7 +181,7 @@ SystemTray::SystemTray(QObject* parent) : QObject(parent) {
   connect(sni_, &StatusNotifierItem::contextMenuRequested, this, [this](QPoint p) {
     // The panel's point, kept on a screen (any peer on the bus may call).
     if (contextMenu_)
-      contextMenu_->popup(tray_anchor::anchorFor({QRect(), p, std::nullopt, screenGeometries(), QRect()}));
+      contextMenu_->popup(tray_anchor::anchor_for({QRect(), p, std::nullopt, screenGeometries(), QRect()}));
   });
   connect(sni_, &StatusNotifierItem::hostChanged, this, &SystemTray::applyHost);
   connect(&bus, &GlobalConnecter::sigShowMessage, this, &SystemTray::slotShowMessage);
@@ -290,13 +290,13 @@ QPoint SystemTray::clickAnchor(bool pointerCounts) const {
   const QString platform = QGuiApplication::platformName();
   if (pointerCounts && (platform == QLatin1String("xcb") || platform == QLatin1String("windows")))
     facts.pointer = QCursor::pos();
-  return tray_anchor::anchorFor(facts);
+  return tray_anchor::anchor_for(facts);
 }
 
 QPoint SystemTray::openAnchor() const {
   // Not the pointer: "open" from a second launch has nothing to do with it.
   const tray_anchor::Facts facts = anchorFacts();
-  return tray_anchor::iconOnScreen(facts) ? facts.icon.topLeft() : tray_anchor::anchorFor(facts);
+  return tray_anchor::icon_on_screen(facts) ? facts.icon.topLeft() : tray_anchor::anchor_for(facts);
 }
 
 void SystemTray::setContextMenu(QMenu* menu) {
@@ -314,7 +314,7 @@ void SystemTray::showMessage(const QString& title, const QString& text, int ms) 
 }
 
 void SystemTray::applyIcon() {
-  const QString name = tray_theme::iconName(status_, theme_->isSystemDarkTheme());
+  const QString name = tray_theme::icon_name(status_, theme_->isSystemDarkTheme());
   if (name == iconName_ && !icon().isNull()) return;
   iconName_ = name;
   LOG_DEBUG(vlog::kDefaultComponent, "tray icon: %s (status %d)", name.toUtf8().constData(),
@@ -474,7 +474,7 @@ void SystemTray::actOnActivation() {
 void SystemTray::slotPositionClicked(QPoint p) {
   if (!container_ || !container_->isVisible() || container_->isWindowMode()) return;
   if (holdOpen_ && holdOpen_()) return;
-  if (tray_placement::pressInside(container_->geometry(), p)) return;
+  if (tray_placement::press_inside(container_->geometry(), p)) return;
   container_->hide();
 }
 

@@ -17,17 +17,17 @@ QPoint taskbarCorner(const QRect& s, const QRect& area) {
 
 }  // namespace
 
-bool iconOnScreen(const Facts& f) {
+bool icon_on_screen(const Facts& f) {
   return !f.icon.isEmpty() &&
          (f.screens.isEmpty() || std::any_of(f.screens.begin(), f.screens.end(),
                                              [&f](const QRect& s) { return s.intersects(f.icon); }));
 }
 
-QPoint anchorFor(const Facts& f) {
+QPoint anchor_for(const Facts& f) {
   const auto onScreen = [&f](const QPoint& p) {
     return std::any_of(f.screens.begin(), f.screens.end(), [&p](const QRect& s) { return s.contains(p); });
   };
-  if (iconOnScreen(f)) return f.icon.center();
+  if (icon_on_screen(f)) return f.icon.center();
   if (f.activation && !f.activation->isNull() && onScreen(*f.activation)) return *f.activation;
   if (f.pointer) return *f.pointer;
   if (f.screens.isEmpty()) return f.activation.value_or(QPoint());

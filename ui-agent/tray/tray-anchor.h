@@ -30,8 +30,8 @@ struct Facts {
 // where a taskbar cuts the work area from the screen (bottom, top, right,
 // left, in that order), the bottom-right corner when none does. Some shells
 // (Wine's tray in an XEmbed panel) tell no place for the icon at all.
-QPoint anchorFor(const Facts& facts);
+QPoint anchor_for(const Facts& facts);
 // Whether the tray told a place for the icon that lies on a screen.
-bool iconOnScreen(const Facts& facts);
+bool icon_on_screen(const Facts& facts);
 
 }  // namespace tray_anchor

@@ -16,16 +16,16 @@ QString state_line(const Facts& f, bool running) {
   if (f.mode != ConnectionMode::Connected) return QString();
   if (!f.reachable) return text(Str::tray_tip_unreachable);
   if (running) {
-    const tray_progress_page::View p = tray_progress_page::view_for(f.status, f.content, 0, 0);
+    const progress_page_model::View p = progress_page_model::view_for(f.status, f.content, 0, 0);
     const QString phase = text(p.phase);
     return p.has_transfer ? phase + QLatin1Char(' ') + p.percent_text : phase;
   }
-  const tray_status_page::View s = tray_status_page::view_for(f.content);
+  const status_page_model::View s = status_page_model::view_for(f.content);
   if (s.error) return text(Str::desc_status_error).trimmed();
   const Json::Value& r = jsonx::get_object(f.content, "last_backup_result");
   const quint64 when = jsonx::get_uint64(r, "last_backup_time");
   if (s.result.tray == TrayIdle || when == 0) return text(Str::desc_no_backup_yet);
-  return text(Str::tray_tip_last_result).arg(text(s.result.text), tray_status_page::last_backup_text(when));
+  return text(Str::tray_tip_last_result).arg(text(s.result.text), status_page_model::last_backup_text(when));
 }
 
 }  // namespace

@@ -190,7 +190,7 @@ void TrayMenu::showAccountInitial(const QString& account) {
   user_button_->setToolTip(account);
 }
 
-void TrayMenu::setClock(const tray_text::Clock& clock) {
+void TrayMenu::setClock(const relative_age::Clock& clock) {
   status_page_->setClock(clock);
   progress_page_->setClock(clock);
 }

@@ -56,7 +56,7 @@ class TrayMenu : public QFrame {
   TrayProgressWidget* progressPage() const { return progress_page_; }
   QMenu* userMenu() const { return menu_; }
   // Where the pages take "now" from.
-  void setClock(const tray_text::Clock& clock);
+  void setClock(const relative_age::Clock& clock);
 
  signals:
   void sigQueryService(const QObject* sender, const Json::Value& request);

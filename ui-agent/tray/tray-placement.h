@@ -30,7 +30,7 @@ Placement place(const QRect& available, const QSize& size, const QPoint& anchor,
 
 // True when `p` is on the pop-up whose geometry is `geometry`: both bounds
 // inclusive, so x + width and y + height (one past the last pixel) still count.
-constexpr bool pressInside(const QRect& geometry, const QPoint& p) {
+constexpr bool press_inside(const QRect& geometry, const QPoint& p) {
   return geometry.x() <= p.x() && p.x() <= geometry.x() + geometry.width() && geometry.y() <= p.y() &&
          p.y() <= geometry.y() + geometry.height();
 }

@@ -113,7 +113,7 @@ TrayProgressWidget::~TrayProgressWidget() = default;
 
 void TrayProgressWidget::updateStatus(ServiceStatus status, const Json::Value& content) {
   const qint64 now = clock_();
-  const auto view = tray_progress_page::view_for(status, content, estimate_, now);
+  const auto view = progress_page_model::view_for(status, content, estimate_, now);
   phase_->setText(string_display::text(view.phase));
   phase_->setAccessibleName(phase_->fullText());
   picture_->setAccessibleName(phase_->fullText());

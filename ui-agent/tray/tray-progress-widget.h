@@ -27,7 +27,7 @@ class TrayProgressWidget : public QWidget {
 
   void updateStatus(ServiceStatus status, const Json::Value& content);
   void setLatestEvent(const LogEntry& entry);
-  void setClock(tray_text::Clock clock) { clock_ = std::move(clock); }
+  void setClock(relative_age::Clock clock) { clock_ = std::move(clock); }
   // The remaining seconds last estimated (kept between updates).
   double remainingEstimate() const { return estimate_; }
 
@@ -35,7 +35,7 @@ class TrayProgressWidget : public QWidget {
   void sigTrayStatusChanged(TrayStatus status);
 
  private:
-  tray_text::Clock clock_ = tray_text::system_clock();
+  relative_age::Clock clock_ = relative_age::system_clock();
   double estimate_ = 0;
   QLabel* picture_;
   VellLabel* phase_;

@@ -31,7 +31,7 @@ TrayStatusWidget::TrayStatusWidget(QWidget* parent) : QWidget(parent) {
 
   latest_ = std::make_unique<LatestEventLine>(this, QStringLiteral("status"));
   event_ = latest_->eventLabel();
-  copyable_text::enableLabel(event_);  // the error message, for a support request
+  copyable_text::enable_label(event_);  // the error message, for a support request
   age_ = latest_->ageLabel();
 
   schedule_ = new BackupScheduleInfoWidget(this);
@@ -69,7 +69,7 @@ TrayStatusWidget::TrayStatusWidget(QWidget* parent) : QWidget(parent) {
   layout->addWidget(schedule_);
   layout->addStretch();
 
-  const auto ready = tray_status_page::result_for(0, true);
+  const auto ready = status_page_model::result_for(0, true);
   setPicture(ready.picture);
   result_->setText(string_display::text(ready.text));
   result_->setAccessibleName(result_->fullText());
@@ -94,7 +94,7 @@ void TrayStatusWidget::updateStatus(const Json::Value& content) {
     return;
   }
   shownContent_ = content;
-  const auto view = tray_status_page::view_for(content);
+  const auto view = status_page_model::view_for(content);
   shownTray_ = view.error ? TrayError : view.result.tray;
   setPicture(view.result.picture);
   result_->setText(string_display::text(view.result.text));
@@ -111,7 +111,7 @@ void TrayStatusWidget::updateStatus(const Json::Value& content) {
                               : QFontMetrics(event_->font())
                                     .elidedText(message, Qt::ElideRight, DPIinfo::scaled(556))
                                     .toHtmlEscaped();
-    event_->setText(tray_text::line_div(shown));
+    event_->setText(relative_age::line_div(shown));
     const QString plain = QTextDocumentFragment::fromHtml(message).toPlainText();
     event_->setToolTip(message);
     event_->setAccessibleName(plain);

@@ -29,7 +29,7 @@ class TrayStatusWidget : public QWidget {
   void updateStatus(const Json::Value& content);
   void setLatestEvent(const LogEntry& entry);
   // Where "now" comes from (the system clock by default).
-  void setClock(tray_text::Clock clock) { clock_ = std::move(clock); }
+  void setClock(relative_age::Clock clock) { clock_ = std::move(clock); }
 
  signals:
   void sigTrayStatusChanged(TrayStatus status);
@@ -37,7 +37,7 @@ class TrayStatusWidget : public QWidget {
  private:
   void setPicture(const char* name);
 
-  tray_text::Clock clock_ = tray_text::system_clock();
+  relative_age::Clock clock_ = relative_age::system_clock();
   QLabel* picture_;
   // The picture now shown: the status arrives every second and mostly
   // keeps its picture, which is then not drawn again.

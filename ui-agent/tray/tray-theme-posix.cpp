@@ -74,14 +74,14 @@ struct PanelThemeWatcher::Impl {
     if (nameSpace != QLatin1String(kAppearance)) return false;
     if (key == QLatin1String(kColorScheme)) {
       const std::optional<uint> n = numberFromMessageValue(value, kColorScheme);
-      const tray_theme::Scheme scheme = n ? tray_theme::schemeFromPortal(*n) : tray_theme::Scheme::Unknown;
+      const tray_theme::Scheme scheme = n ? tray_theme::scheme_from_portal(*n) : tray_theme::Scheme::Unknown;
       if (scheme == portal) return false;
       portal = scheme;
       return true;
     }
     if (key == QLatin1String(kContrast)) {
       const std::optional<uint> n = numberFromMessageValue(value, kContrast);
-      const bool high = n && tray_theme::highContrastFromPortal(*n);
+      const bool high = n && tray_theme::high_contrast_from_portal(*n);
       if (high == portalContrast) return false;
       portalContrast = high;
       return true;
@@ -137,19 +137,19 @@ tray_theme::Scheme PanelThemeWatcher::portalScheme() const {
 }
 
 bool PanelThemeWatcher::highContrast() const {
-  return d->portalContrast || tray_theme::isHighContrastThemeName(qEnvironmentVariable("GTK_THEME"));
+  return d->portalContrast || tray_theme::is_high_contrast_theme_name(qEnvironmentVariable("GTK_THEME"));
 }
 
 bool PanelThemeWatcher::isSystemDarkTheme() const {
   const QStyle* style =
       qobject_cast<QApplication*>(QCoreApplication::instance()) ? QApplication::style() : nullptr;
   if (!d->paletteKnown || style != d->paletteStyle) {
-    d->palette = style ? tray_theme::schemeFromPalette(QGuiApplication::palette(), style->standardPalette())
+    d->palette = style ? tray_theme::scheme_from_palette(QGuiApplication::palette(), style->standardPalette())
                        : tray_theme::Scheme::Unknown;
     d->paletteStyle = style;
     d->paletteKnown = true;
   }
-  return tray_theme::isDark(d->portal, d->palette);
+  return tray_theme::is_dark(d->portal, d->palette);
 }
 
 bool PanelThemeWatcher::eventFilter(QObject* watched, QEvent* event) {

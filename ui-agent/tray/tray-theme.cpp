@@ -2,7 +2,7 @@
 
 namespace tray_theme {
 
-Scheme schemeFromPortal(quint32 value) {
+Scheme scheme_from_portal(quint32 value) {
   switch (value) {
     case 1:
       return Scheme::Dark;
@@ -13,7 +13,7 @@ Scheme schemeFromPortal(quint32 value) {
   }
 }
 
-Scheme schemeFromPalette(const QPalette& application, const QPalette& styleStandard) {
+Scheme scheme_from_palette(const QPalette& application, const QPalette& styleStandard) {
   const QColor window = application.color(QPalette::Active, QPalette::Window);
   if (window == styleStandard.color(QPalette::Active, QPalette::Window) &&
       application.color(QPalette::Active, QPalette::WindowText) ==
@@ -22,24 +22,24 @@ Scheme schemeFromPalette(const QPalette& application, const QPalette& styleStand
   return window.lightness() < 128 ? Scheme::Dark : Scheme::Light;
 }
 
-bool isDark(Scheme portal, Scheme palette) {
+bool is_dark(Scheme portal, Scheme palette) {
   if (portal != Scheme::Unknown) return portal == Scheme::Dark;
   if (palette != Scheme::Unknown) return palette == Scheme::Dark;
   return true;
 }
 
-bool highContrastFromPortal(quint32 value) {
+bool high_contrast_from_portal(quint32 value) {
   return value == 1;
 }
 
-bool isHighContrastThemeName(const QString& name) {
+bool is_high_contrast_theme_name(const QString& name) {
   QString n = name.toLower();
   n.remove(QLatin1Char(' ')).remove(QLatin1Char('_'));
   return n.contains(QLatin1String("highcontrast")) || n.endsWith(QLatin1String("-hc")) ||
          n.endsWith(QLatin1String(":hc"));
 }
 
-QString iconName(TrayStatus status, bool darkPanel) {
+QString icon_name(TrayStatus status, bool darkPanel) {
   const QString base = QString::fromLatin1(tray_status::icon_name(status));
   return darkPanel ? base : base + QStringLiteral("_dark");
 }

@@ -26,22 +26,22 @@ enum class Scheme { Unknown, Dark, Light };
 
 // The portal's color-scheme value: 1 prefers dark, 2 prefers light, anything
 // else (0 "no preference", other numbers) tells nothing.
-Scheme schemeFromPortal(quint32 value);
+Scheme scheme_from_portal(quint32 value);
 // The application palette against the style's own: the same palette means
 // the platform gave none (unknown); otherwise a dark window colour is dark.
-Scheme schemeFromPalette(const QPalette& application, const QPalette& styleStandard);
+Scheme scheme_from_palette(const QPalette& application, const QPalette& styleStandard);
 // The portal first, then the palette, dark when neither knows.
-bool isDark(Scheme portal, Scheme palette);
+bool is_dark(Scheme portal, Scheme palette);
 
 // The portal's contrast value: 1 asks for high contrast, anything else not.
-bool highContrastFromPortal(quint32 value);
+bool high_contrast_from_portal(quint32 value);
 // A theme name that is a high-contrast theme: "HighContrast",
 // "HighContrastInverse", "Breeze High Contrast", "Adwaita-hc", "Adwaita:hc".
-bool isHighContrastThemeName(const QString& name);
+bool is_high_contrast_theme_name(const QString& name);
 
 // The picture for `status` on a panel: the base name on a dark panel, with
 // "_dark" appended on a light one.
-QString iconName(TrayStatus status, bool darkPanel);
+QString icon_name(TrayStatus status, bool darkPanel);
 
 }  // namespace tray_theme
 

@@ -56,7 +56,7 @@ QHBoxLayout* row(QLabel* label, QWidget* value, QVBoxLayout* into, QWidget* pare
   h->addWidget(value, 0, Qt::AlignVCenter);
   h->addStretch(1);
   label->setBuddy(value);
-  accessible_text::describeValue(value, label->text(), QString());
+  accessible_text::describe_value(value, label->text(), QString());
   into->addLayout(h);
   return h;
 }
@@ -103,9 +103,9 @@ SummaryWidget::SummaryWidget(QWidget* parent) : QFrame(parent) {
   chooser_->setAccessibleName(siteLabel->text().trimmed());
   // On Linux Qt gives a combo box its chosen item as name: the caption then
   // comes as description, as with the labels.
-  chooser_->setAccessibleDescription(accessible_text::forValue(siteLabel->text(), QString()).description);
+  chooser_->setAccessibleDescription(accessible_text::for_value(siteLabel->text(), QString()).description);
   chooser_->view()->setAccessibleName(siteLabel->text().trimmed());
-  accessible_text::describeValue(singleSite_, siteLabel->text(), QString());
+  accessible_text::describe_value(singleSite_, siteLabel->text(), QString());
   siteLabel->setBuddy(chooser_);
   v->addWidget(separator(this));
 
@@ -155,7 +155,7 @@ void SummaryWidget::setData(const Json::Value& response) {
     chooser_->setCurrentIndex(0);
   }
   singleSite_->setText(chooser_->itemText(0));
-  accessible_text::describeValue(singleSite_, text(Str::desc_data_center), singleSite_->text());
+  accessible_text::describe_value(singleSite_, text(Str::desc_data_center), singleSite_->text());
   singleSite_->setVisible(count == 1);
   chooser_->setVisible(count != 1);
   const Json::Value& first = summary_text::site(data_, 0);
@@ -181,6 +181,6 @@ void SummaryWidget::fillRows(const Json::Value& site) {
   scope_->setText(summary_text::line_height_div(scope.text.toHtmlEscaped(), 24, false));
   // Screen readers hear the whole name (elided on screen); the other values'
   // names are their texts (row()).
-  accessible_text::describeValue(policy_, text(Str::desc_backup_policy), name);
+  accessible_text::describe_value(policy_, text(Str::desc_backup_policy), name);
   note_->setVisible(scope.shortened);
 }

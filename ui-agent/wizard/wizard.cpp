@@ -40,7 +40,7 @@ Qt::WindowFlags Wizard::windowFlagsOfWizard() {
 Wizard::Wizard(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("Wizard"));
   // Once: bringing it to the front shows it again where the user left it.
-  window_placement::centreWhenShown(this, true);
+  window_placement::centre_when_shown(this, true);
   stack_ = new QStackedWidget(this);
   stack_->setObjectName(QStringLiteral("WizardPages"));
   stack_->setContentsMargins(0, 0, 0, 0);
@@ -69,7 +69,7 @@ Wizard::Wizard(QWidget* parent) : QWidget(parent) {
   // The wizard owns its size: 900 x 540.
   setFixedSize(DPIinfo::scaled(900), DPIinfo::scaled(540));
   setAccessibleName(text(Str::app_name));
-  accessible_text::setWindowRole(this, accessible_text::WindowRole::Frame);
+  accessible_text::set_window_role(this, accessible_text::WindowRole::Frame);
 }
 
 void Wizard::bringToFront() {
@@ -146,7 +146,7 @@ void Wizard::hideConnecting() {
 
 void Wizard::showError(int code, const Json::Value& response) {
   hideConnecting();
-  const QString message = service_error::message(code, response);
+  const QString message = service_error_text::message(code, response);
   LOG_INFO(vlog::kDefaultComponent, "wizard shows error %d: %s", code,
            jsonx::masked_text(message.toStdString()).c_str());
   VellMessageSheet sheet(VellMessageSheet::Error, this, true);

@@ -12,7 +12,7 @@ namespace {
 TEST(ServiceErrorMessage, ConsoleLinkIsFilledFromBaseUrlAndEscaped) {
   const auto answer =
       agent_test::parse(R"({"error":{"code":17,"base_url":"https://x.example/\"><img src=a>"}})");
-  const QString text = service_error::message(service_error::code_of(answer), answer);
+  const QString text = service_error_text::message(service_error_text::code_of(answer), answer);
   EXPECT_TRUE(text.contains(QStringLiteral("href=\"https://x.example/&quot;&gt;&lt;img src=a&gt;\"")))
       << text.toStdString();
   EXPECT_FALSE(text.contains(QStringLiteral("<img")));
@@ -21,11 +21,11 @@ TEST(ServiceErrorMessage, ConsoleLinkIsFilledFromBaseUrlAndEscaped) {
 
 TEST(ServiceErrorMessage, WrongTypesReadAsMissing) {
   const auto answer = agent_test::parse(R"({"error":{"code":"18","base_url":7}})");
-  EXPECT_EQ(service_error::code_of(answer), 0);
-  const QString text = service_error::message(18, answer);
+  EXPECT_EQ(service_error_text::code_of(answer), 0);
+  const QString text = service_error_text::message(18, answer);
   EXPECT_TRUE(text.contains(QStringLiteral("href=\"\""))) << text.toStdString();
-  EXPECT_EQ(service_error::code_of(agent_test::parse(R"({"error":[1]})")), 0);
-  EXPECT_EQ(service_error::message(12), string_display::text(Str::err_operation_timedout));
+  EXPECT_EQ(service_error_text::code_of(agent_test::parse(R"({"error":[1]})")), 0);
+  EXPECT_EQ(service_error_text::message(12), string_display::text(Str::err_operation_timedout));
 }
 
 }  // namespace

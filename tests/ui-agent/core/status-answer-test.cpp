@@ -19,7 +19,8 @@ TEST_P(Answers, ReadAsTheTableSays) {
   if (row[0] == "error") {
     const std::optional<Str> expected = string_display::find_row(QString::fromStdString(row[2]));
     ASSERT_TRUE(expected.has_value()) << "no catalogue row " << row[2];
-    EXPECT_EQ(static_cast<int>(service_error::message_row(std::stoi(row[1]))), static_cast<int>(*expected));
+    EXPECT_EQ(static_cast<int>(service_error_text::message_row(std::stoi(row[1]))),
+              static_cast<int>(*expected));
   } else if (row[0] == "problem") {
     const std::string problem = status_answer::problem(agent_test::parse(row[1]));
     EXPECT_EQ(problem.empty() ? "-" : problem, row[2]);

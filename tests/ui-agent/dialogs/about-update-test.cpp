@@ -43,10 +43,10 @@ class Dialogs : public ::testing::Test {
 // Wherever a window manager would put them, the windows open centred in the
 // work area of the screen that holds the pointer, kept inside it.
 TEST_F(Dialogs, WindowsOpenCentredOnThePointersScreen) {
-  using window_placement::centredIn;
-  EXPECT_EQ(centredIn(QRect(0, 0, 1280, 800), QSize(700, 442)), QPoint(290, 179));
-  EXPECT_EQ(centredIn(QRect(1920, 30, 1280, 770), QSize(400, 230)), QPoint(2360, 300));
-  EXPECT_EQ(centredIn(QRect(0, 0, 800, 600), QSize(900, 540)), QPoint(0, 30));
+  using window_placement::centred_in;
+  EXPECT_EQ(centred_in(QRect(0, 0, 1280, 800), QSize(700, 442)), QPoint(290, 179));
+  EXPECT_EQ(centred_in(QRect(1920, 30, 1280, 770), QSize(400, 230)), QPoint(2360, 300));
+  EXPECT_EQ(centred_in(QRect(0, 0, 800, 600), QSize(900, 540)), QPoint(0, 30));
   const std::function<QWidget*()> makers[] = {
       [] { return new Wizard; }, [] { return new LogWidget; }, [] { return new SettingsWidget; },
       [] { return new AboutWindowContainer; }, [] { return new UpdateStatusDialog; }};
@@ -55,7 +55,7 @@ TEST_F(Dialogs, WindowsOpenCentredOnThePointersScreen) {
     window->move(7, 7);
     window->show();
     EXPECT_EQ(window->pos(),
-              centredIn(window_placement::workAreaAt(QCursor::pos()), window->frameGeometry().size()))
+              centred_in(window_placement::work_area_at(QCursor::pos()), window->frameGeometry().size()))
         << window->metaObject()->className();
   }
 }

@@ -40,7 +40,7 @@ TEST(PopupAnchor, IsWhereTheRuleSays) {
       {"NoBarBottomRight", {{}, std::nullopt, std::nullopt, kScreens, {}}, {1279, 799}},
       {"NoScreens", {{}, QPoint(7, 8), std::nullopt, {}, {}}, {7, 8}},
   };
-  for (const auto& r : rows) EXPECT_EQ(tray_anchor::anchorFor(r.facts), r.anchor) << r.name;
+  for (const auto& r : rows) EXPECT_EQ(tray_anchor::anchor_for(r.facts), r.anchor) << r.name;
 }
 
 }  // namespace

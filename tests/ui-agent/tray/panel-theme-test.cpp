@@ -161,9 +161,9 @@ QPalette paletteWithWindow(const QColor& window) {
 TEST(HighContrastName, TellsTheHighContrastThemes) {
   for (const char* name :
        {"HighContrast", "HighContrastInverse", "Breeze High Contrast", "Adwaita-hc", "Yaru:hc"})
-    EXPECT_TRUE(tray_theme::isHighContrastThemeName(name)) << name;
+    EXPECT_TRUE(tray_theme::is_high_contrast_theme_name(name)) << name;
   for (const char* name : {"Adwaita", "Adwaita-dark", "", "Orchis"})
-    EXPECT_FALSE(tray_theme::isHighContrastThemeName(name)) << name;
+    EXPECT_FALSE(tray_theme::is_high_contrast_theme_name(name)) << name;
 }
 
 // Without a portal the palette decides; the watcher keeps its verdict between

@@ -58,9 +58,9 @@ TEST(PopupPlacement, LandsWhereTheRuleSays) {
 TEST(OutsidePress, BothBoundsInclusive) {
   const QRect popup(QPoint(100, 200), kPopup);
   for (const QPoint p : {QPoint(100, 200), QPoint(500, 300), QPoint(300, 432), QPoint(500, 432)})
-    EXPECT_TRUE(tray_placement::pressInside(popup, p)) << p.x() << "," << p.y();
+    EXPECT_TRUE(tray_placement::press_inside(popup, p)) << p.x() << "," << p.y();
   for (const QPoint p : {QPoint(501, 300), QPoint(300, 433), QPoint(99, 300), QPoint(300, 199)})
-    EXPECT_FALSE(tray_placement::pressInside(popup, p)) << p.x() << "," << p.y();
+    EXPECT_FALSE(tray_placement::press_inside(popup, p)) << p.x() << "," << p.y();
 }
 
 constexpr Qt::Edges kBR = Qt::BottomEdge | Qt::RightEdge, kBL = Qt::BottomEdge | Qt::LeftEdge,
@@ -102,7 +102,7 @@ TEST(LayerPlacement, AnchoredToTheNearestEdge) {
       {"TinyScreen", QRect(0, 0, 300, 200), {150, 190}, kBR, {0, 0, -101, 1}, {1, -33}},
   };
   for (const auto& r : rows) {
-    const layer_placement::Placement p = layer_placement::anchoredAt(r.screen, kPopup, r.anchor);
+    const layer_placement::Placement p = layer_placement::anchored_at(r.screen, kPopup, r.anchor);
     EXPECT_EQ(p.anchors, r.anchors) << r.name;
     EXPECT_EQ(p.margins, r.margins) << r.name;
     EXPECT_EQ(p.topLeft, r.topLeft) << r.name;
@@ -125,7 +125,7 @@ TEST(LayerPlacement, NestedKeepsItsPlaceBesideThePopup) {
   };
   for (const auto& r : rows) {
     const layer_placement::Placement parent{r.anchors, r.parentMargins, QPoint(500, 300)};
-    const auto p = layer_placement::nestedIn(parent, kPopup, r.offset, QSize(160, 100));
+    const auto p = layer_placement::nested_in(parent, kPopup, r.offset, QSize(160, 100));
     EXPECT_EQ(p.anchors, r.anchors);
     EXPECT_EQ(p.margins, r.margins) << r.offset.x();
     EXPECT_EQ(p.topLeft, QPoint(500, 300) + r.offset);

@@ -38,26 +38,26 @@ TEST(TrayTheme, PictureForStateAndPanel) {
       const QString expected = QStringLiteral("logo_tray_icn_") +
                                (status >= 0 && status <= 4 ? colours[status] : "connect") +
                                (dark ? "" : "_dark");
-      EXPECT_EQ(tray_theme::iconName(static_cast<TrayStatus>(status), dark), expected) << status << dark;
+      EXPECT_EQ(tray_theme::icon_name(static_cast<TrayStatus>(status), dark), expected) << status << dark;
     }
   }
 }
 
 TEST(TrayTheme, SchemePortalThenPaletteThenDark) {
   using tray_theme::Scheme;
-  EXPECT_EQ(tray_theme::schemeFromPortal(1), Scheme::Dark);
-  EXPECT_EQ(tray_theme::schemeFromPortal(2), Scheme::Light);
-  EXPECT_EQ(tray_theme::schemeFromPortal(0), Scheme::Unknown);
-  EXPECT_EQ(tray_theme::schemeFromPortal(3), Scheme::Unknown);
-  EXPECT_TRUE(tray_theme::isDark(Scheme::Dark, Scheme::Light));
-  EXPECT_FALSE(tray_theme::isDark(Scheme::Light, Scheme::Dark));
-  EXPECT_FALSE(tray_theme::isDark(Scheme::Unknown, Scheme::Light));
-  EXPECT_TRUE(tray_theme::isDark(Scheme::Unknown, Scheme::Dark));
-  EXPECT_TRUE(tray_theme::isDark(Scheme::Unknown, Scheme::Unknown));
+  EXPECT_EQ(tray_theme::scheme_from_portal(1), Scheme::Dark);
+  EXPECT_EQ(tray_theme::scheme_from_portal(2), Scheme::Light);
+  EXPECT_EQ(tray_theme::scheme_from_portal(0), Scheme::Unknown);
+  EXPECT_EQ(tray_theme::scheme_from_portal(3), Scheme::Unknown);
+  EXPECT_TRUE(tray_theme::is_dark(Scheme::Dark, Scheme::Light));
+  EXPECT_FALSE(tray_theme::is_dark(Scheme::Light, Scheme::Dark));
+  EXPECT_FALSE(tray_theme::is_dark(Scheme::Unknown, Scheme::Light));
+  EXPECT_TRUE(tray_theme::is_dark(Scheme::Unknown, Scheme::Dark));
+  EXPECT_TRUE(tray_theme::is_dark(Scheme::Unknown, Scheme::Unknown));
   QPalette standard(QColor("#efefef"));
-  EXPECT_EQ(tray_theme::schemeFromPalette(standard, standard), Scheme::Unknown);
-  EXPECT_EQ(tray_theme::schemeFromPalette(QPalette(QColor("#202124")), standard), Scheme::Dark);
-  EXPECT_EQ(tray_theme::schemeFromPalette(QPalette(QColor("#fafafa")), standard), Scheme::Light);
+  EXPECT_EQ(tray_theme::scheme_from_palette(standard, standard), Scheme::Unknown);
+  EXPECT_EQ(tray_theme::scheme_from_palette(QPalette(QColor("#202124")), standard), Scheme::Dark);
+  EXPECT_EQ(tray_theme::scheme_from_palette(QPalette(QColor("#fafafa")), standard), Scheme::Light);
 }
 
 TEST(TrayBalloons, OnePerNotificationInOrder) {

@@ -51,49 +51,49 @@ const std::map<std::string, std::function<QString(const QStringList&)>> kFunctio
      [](const QStringList& in) {
        const quint64 then =
            in[0] == QLatin1String("max") ? ~0ull : quint64(tray_test::kMoment - in[0].toLongLong());
-       return tray_text::relative_age_text(tray_test::kMoment, then);
+       return relative_age::relative_age_text(tray_test::kMoment, then);
      }},
     {"result",
      [](const QStringList& in) {
        Json::Value c = parse(R"({"connected":true})");
        c["last_backup_result"]["last_backup_status"] = in[0].toInt();
        if (in[1] == QLatin1String("0")) c["last_backup_result"]["backed_up"] = false;
-       const auto v = tray_status_page::view_for(c);
+       const auto v = status_page_model::view_for(c);
        return QStringList{v.error ? "error page" : text(v.result.text), v.result.picture, tray(v.result.tray)}
            .join('|');
      }},
     {"schedule",
      [](const QStringList& in) {
-       const auto v = tray_status_page::view_for(parse(in.join('|').toStdString()));
+       const auto v = status_page_model::view_for(parse(in.join('|').toStdString()));
        return opt(v.last_backup) + '|' + opt(v.next_backup);
      }},
     {"error",
      [](const QStringList& in) {
-       const auto v = tray_status_page::view_for(parse(in.join('|').toStdString()));
+       const auto v = status_page_model::view_for(parse(in.join('|').toStdString()));
        if (!v.error) return "0|" + tray(v.result.tray) + "|-";
        int code = -1;
        for (int c : {0, 5, 13})
-         if (v.error_message == service_error::message(c)) code = c;
+         if (v.error_message == service_error_text::message(c)) code = c;
        const QString shown =
            v.result.text == Str::desc_status_error ? tray(v.result.tray) : "not the error text";
        return "1|" + shown + '|' + QString::number(code);
      }},
     {"percent",
      [](const QStringList& in) {
-       const double p = tray_progress_page::round_three_significant(in[0].toDouble());
-       return QString::number(p) + '|' + QString::number(tray_progress_page::bar_value(p));
+       const double p = progress_page_model::round_three_significant(in[0].toDouble());
+       return QString::number(p) + '|' + QString::number(progress_page_model::bar_value(p));
      }},
     {"finish",
      [](const QStringList& in) {
        const auto f =
-           tray_progress_page::finish_for({in[0].toULongLong(), 0, in[1].toULongLong(), in[2].toLongLong()},
-                                          in[3].toDouble(), tray_test::kMoment);
+           progress_page_model::finish_for({in[0].toULongLong(), 0, in[1].toULongLong(), in[2].toLongLong()},
+                                           in[3].toDouble(), tray_test::kMoment);
        return QString::number(f.estimate) + '|' + opt(f.text);
      }},
     {"progress",
      [](const QStringList& in) {
-       const auto v = tray_progress_page::view_for(status(in[0]), parse(in.mid(2).join('|').toStdString()),
-                                                   in[1].toDouble(), tray_test::kMoment);
+       const auto v = progress_page_model::view_for(status(in[0]), parse(in.mid(2).join('|').toStdString()),
+                                                    in[1].toDouble(), tray_test::kMoment);
        return QStringList{yes(v.has_transfer),
                           v.percent_text,
                           QString::number(v.bar),
@@ -102,7 +102,7 @@ const std::map<std::string, std::function<QString(const QStringList&)>> kFunctio
                           QString(v.processed_text).remove(QRegularExpression(QStringLiteral("<[^>]*>")))}
            .join('|');
      }},
-    {"phase", [](const QStringList& in) { return text(tray_progress_page::phase_for(status(in[0]))); }},
+    {"phase", [](const QStringList& in) { return text(progress_page_model::phase_for(status(in[0]))); }},
     {"page",
      [](const QStringList& in) {
        Json::Value c(Json::objectValue);

@@ -106,7 +106,7 @@ TEST_F(TrayWidgets, StatusPageResultErrorPageAndRepeatedAnswers) {
   EXPECT_EQ(event->width(), DPIinfo::scaled(296));
   EXPECT_TRUE(age->isHidden());
   menu_.appendLogEntries({entry(8, now_)});
-  EXPECT_EQ(event->toolTip(), service_error::message(5));
+  EXPECT_EQ(event->toolTip(), service_error_text::message(5));
 
   // Back to connected: the narrow line with the newest entry at once.
   page->updateStatus(parse(kFailed));

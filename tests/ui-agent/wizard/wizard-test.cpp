@@ -214,7 +214,7 @@ TEST_F(WizardTest, BackupNowQuestionByKey) {
   }
 }
 
-// Which text a code gets is service_error's table; here the sheet shows it
+// Which text a code gets is service_error_text's table; here the sheet shows it
 // as an error and goes (code 17 with the console's link).
 TEST_F(WizardTest, ErrorSheetShowsTheServiceErrorText) {
   for (const char* response : {"{}", R"({"error":{"code":17,"base_url":"https://console.example"}})"}) {
@@ -229,7 +229,7 @@ TEST_F(WizardTest, ErrorSheetShowsTheServiceErrorText) {
     });
     wizard_.showError(code, r);
     EXPECT_EQ(type, VellMessageSheet::Error);
-    EXPECT_EQ(shown, service_error::message(code, r));
+    EXPECT_EQ(shown, service_error_text::message(code, r));
     EXPECT_TRUE(wizard_.findChildren<VellMessageSheet*>().isEmpty());
   }
 }

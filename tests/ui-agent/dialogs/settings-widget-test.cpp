@@ -139,7 +139,7 @@ TEST_F(SettingsWidgetTest, SaveSendsTheClampedRateAndHides) {
   EXPECT_FALSE(widget.isVisible());
 }
 
-// The list itself is settings_rules::endItems'; here the end kept while
+// The list itself is settings_rules::end_items'; here the end kept while
 // offered, else the first item, and custom times where they fall.
 TEST_F(SettingsWidgetTest, TheEndListFollowsTheStart) {
   widget.loadClientConfig(parse(kLimited0700To2300));
@@ -178,7 +178,7 @@ TEST_F(SettingsWidgetTest, TypedStartsRebuildTheEndListAndSaveThatRange) {
   }
   EXPECT_EQ(startCombo()->count(), 25) << "more than one custom start";
   EXPECT_EQ(endCombo()->count(),
-            settings_rules::endItems("23:15", string_display::text(Str::next_day)).size());
+            settings_rules::end_items("23:15", string_display::text(Str::next_day)).size());
   EXPECT_EQ(endCombo()->currentText(), QStringLiteral("00:15 Next day"));
   widget.slotSaveSettings();
   const Json::Value bandwidth = sentRequest()["bandwidth"];

@@ -1,4 +1,4 @@
-#include "tests/ui-agent/hostile/foreign-process.h"
+#include "tests/support/foreign-process.h"
 
 #include <fcntl.h>
 #include <grp.h>

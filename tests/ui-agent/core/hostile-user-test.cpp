@@ -23,15 +23,15 @@
 #include <memory>
 #include <vector>
 
+#include "ipc/win-ipc.h"
+#include "tests/support/foreign-process.h"
 #include "tests/ui-agent/agent-test.h"
 #include "ui-agent/core/global-connecter.h"
-#include "tests/ui-agent/hostile/foreign-process.h"
+#include "ui-agent/core/service-communicator.h"
 #include "vantor-core/lib/json-access.h"
 #include "widgets/machine-lock.h"
-#include "ui-agent/core/service-communicator.h"
 #include "widgets/single-application.h"
 #include "widgets/user-identity.h"
-#include "ipc/win-ipc.h"
 
 using ::testing::HasSubstr;
 using ::testing::Not;
@@ -418,13 +418,13 @@ TEST_F(Hostile, OnlyAPeerOfTheSameUserCountsAsSameUser) {
   QLocalSocket toThem;
   toThem.connectToServer(QString::fromStdString(path));
   ASSERT_TRUE(toThem.waitForConnected(3000));
-  EXPECT_FALSE(user_identity::peerIsSameUser(toThem.socketDescriptor()));
+  EXPECT_FALSE(user_identity::peer_is_same_user(toThem.socketDescriptor()));
   QLocalServer mine;
   ASSERT_TRUE(mine.listen(QString::fromStdString(root.file("mine.sock"))));
   QLocalSocket toMe;
   toMe.connectToServer(mine.fullServerName());
   ASSERT_TRUE(toMe.waitForConnected(3000));
-  EXPECT_TRUE(user_identity::peerIsSameUser(toMe.socketDescriptor()));
+  EXPECT_TRUE(user_identity::peer_is_same_user(toMe.socketDescriptor()));
   other->tell('q');
 }
 

@@ -1,4 +1,4 @@
-#include "tests/ui-agent/communicator/peer.h"
+#include "tests/ui-agent/core/peer.h"
 
 ScriptedPeer::ScriptedPeer(const std::string& name, Script script) : script_(std::move(script)) {
   server_.set_timeout_ms(50);

@@ -105,7 +105,7 @@ void PrintTo(const EventRow& row, std::ostream* os) {
 
 std::vector<EventRow> event_rows() {
   std::vector<EventRow> rows;
-  for (const nimbra_test::TableRow& line : nimbra_test::read_table("ui-agent/strings/event-types.txt", 2)) {
+  for (const nimbra_test::TableRow& line : nimbra_test::read_table("ui-agent/core/event-types.txt", 2)) {
     const QString kind = QString::fromStdString(line[0]);
     for (const QString& type : QString::fromStdString(line[1]).split(QLatin1Char(' '))) {
       EventRow row{type.toUInt(), event_text::Kind::Generic, {}};

@@ -24,11 +24,11 @@
 #include <vector>
 
 #include "bench/bench-report.h"
-#include "ui-agent/core/global-connecter.h"
-#include "vantor-core/lib/json-access.h"
-#include "ui-agent/core/service-communicator.h"
-#include "bench/ui-agent/service-peer.h"
+#include "bench/ui-agent/core/service-peer.h"
 #include "ipc/win-ipc.h"
+#include "ui-agent/core/global-connecter.h"
+#include "ui-agent/core/service-communicator.h"
+#include "vantor-core/lib/json-access.h"
 
 namespace {
 

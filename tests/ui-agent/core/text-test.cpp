@@ -48,7 +48,7 @@ TEST_P(Texts, AreWhatTheTableSays) {
   EXPECT_EQ(got, QString::fromStdString(row[3]));
 }
 
-NIMBRA_TABLE_SUITE(Texts, "ui-agent/strings/text.tsv", 4);
+NIMBRA_TABLE_SUITE(Texts, "ui-agent/core/text.tsv", 4);
 
 }  // namespace
 

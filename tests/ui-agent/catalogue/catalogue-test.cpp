@@ -1,6 +1,6 @@
 // The string catalogue: every row reachable by its key, the fixed first rows,
 // escapes, lookups and the translation round trip through a .qm resource.
-// (Every English text is pinned by the translation files: translations_test.)
+// (Every English text is pinned by the translation files: translation-files-test.cpp.)
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>

@@ -22,10 +22,10 @@
 #include <thread>
 
 #include "bench/bench-report.h"
+#include "bench/ui-agent/core/service-peer.h"
+#include "ipc/win-ipc.h"
 #include "ui-agent/core/global-connecter.h"
 #include "ui-agent/core/service-communicator.h"
-#include "bench/ui-agent/service-peer.h"
-#include "ipc/win-ipc.h"
 
 namespace {
 

@@ -8,10 +8,10 @@
 #include <QThread>
 
 #include "tests/ui-agent/agent-test.h"
+#include "tests/ui-agent/core/peer.h"
 #include "ui-agent/core/global-connecter.h"
-#include "vantor-core/lib/json-access.h"
-#include "tests/ui-agent/communicator/peer.h"
 #include "ui-agent/core/service-communicator.h"
+#include "vantor-core/lib/json-access.h"
 
 using agent_test::parse;
 using ::testing::HasSubstr;
