@@ -9,9 +9,9 @@
 #include <cstring>
 #include <thread>
 
+#include "ipc/win-ipc-platform.h"
 #include "logging/log-throttle.h"
 #include "logging/logger.h"
-#include "ipc/win-ipc-platform.h"
 
 namespace WinIpc {
 

@@ -17,11 +17,11 @@
 #include <cwchar>
 #include <string>
 
-#include "notifier/detach.h"
 #include "logging/logger.h"
+#include "logging/paths.h"
+#include "notifier/detach.h"
 #include "notifier/notifier-args.h"
 #include "notifier/notifier-main.h"
-#include "logging/paths.h"
 #include "ui-agent/catalogue/string-catalogue-table.h"
 
 namespace notifier {

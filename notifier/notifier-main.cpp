@@ -7,12 +7,12 @@
 
 #include <cstdio>
 
-#include "notifier/detach.h"
 #include "logging/logger.h"
+#include "logging/paths.h"
+#include "notifier/detach.h"
 #include "notifier/notification-ledger.h"
 #include "notifier/notification-request.h"
 #include "notifier/notification-session.h"
-#include "logging/paths.h"
 #include "ui-agent/catalogue/string-catalogue-table.h"
 
 namespace notifier {

@@ -2,9 +2,9 @@
 
 #include <chrono>
 
-#include "vantor-core/lib/json-access.h"
-#include "service-sim/sim-log.h"
 #include "ipc/win-ipc.h"
+#include "service-sim/sim-log.h"
+#include "vantor-core/lib/json-access.h"
 
 namespace sim {
 

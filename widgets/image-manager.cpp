@@ -7,8 +7,8 @@
 
 #include <cmath>
 
-#include "widgets/dpi-info.h"
 #include "logging/logger.h"
+#include "widgets/dpi-info.h"
 #include "widgets/resource-paths.h"
 
 ImageManager* ImageManager::getInstance() {

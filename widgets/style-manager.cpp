@@ -8,8 +8,8 @@
 #include <QTextStream>
 #include <QWidget>
 
-#include "widgets/dpi-info.h"
 #include "logging/logger.h"
+#include "widgets/dpi-info.h"
 #include "widgets/resource-paths.h"
 
 StyleManager* StyleManager::getInstance() {

@@ -66,7 +66,8 @@ void VellLabel::resizeEvent(QResizeEvent* event) {
 
 void VellLabel::changeEvent(QEvent* event) {
   QLabel::changeEvent(event);
-  if (elide_ != Qt::ElideNone && (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange))
+  if (elide_ != Qt::ElideNone &&
+      (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange))
     applyElide();
 }
 
@@ -81,7 +82,8 @@ void VellLabel::applyElide() {
   // A text exactly as wide as the room stays whole (elidedText would cut
   // it over a fraction of a pixel, and the layout gives just that width).
   const QFontMetricsF fm(font(), this);
-  const QString shown = fm.horizontalAdvance(full_) <= room ? full_ : fm.elidedText(full_, elide_, qMax(room, 0));
+  const QString shown =
+      fm.horizontalAdvance(full_) <= room ? full_ : fm.elidedText(full_, elide_, qMax(room, 0));
   QLabel::setText(shown);
   shown_ = shown;
   setToolTip(shown == full_ && !fullTip_ ? QString() : full_);

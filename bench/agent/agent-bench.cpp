@@ -35,9 +35,9 @@
 #include <X11/extensions/XTest.h>
 #include <X11/keysym.h>
 
+#include "bench/agent/x-desktop.h"
 #include "bench/bench-report.h"
 #include "ipc/win-ipc.h"
-#include "bench/agent/x-desktop.h"
 
 using namespace agent_bench;
 

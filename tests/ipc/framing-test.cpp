@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-#include "tests/ipc/log-capture.h"
 #include "ipc/win-ipc-platform.h"
 #include "ipc/win-ipc.h"
+#include "tests/ipc/log-capture.h"
 
 namespace {
 

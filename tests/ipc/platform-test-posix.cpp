@@ -12,9 +12,9 @@
 #include <set>
 #include <string>
 
+#include "ipc/win-ipc.h"
 #include "tests/ipc/log-capture.h"
 #include "tests/support/temp-dir.h"
-#include "ipc/win-ipc.h"
 
 namespace {
 

@@ -11,8 +11,8 @@
 #include <thread>
 #include <vector>
 
-#include "tests/ipc/log-capture.h"
 #include "ipc/win-ipc.h"
+#include "tests/ipc/log-capture.h"
 
 namespace {
 

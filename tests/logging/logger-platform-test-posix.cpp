@@ -7,9 +7,9 @@
 
 #include <cstdio>
 
-#include "tests/logging/log-test-util.h"
 #include "logging/logger-platform.h"
 #include "logging/logger.h"
+#include "tests/logging/log-test-util.h"
 
 TEST(LoggerPlatform, LogFileIsNotInheritedByChildren) {
   nimbra_test::TempDir dir;

@@ -7,8 +7,8 @@
 
 #include <cstdio>
 
-#include "tests/logging/log-test-util.h"
 #include "logging/logger-platform.h"
+#include "tests/logging/log-test-util.h"
 
 TEST(LoggerPlatform, LogFileIsNotInheritedByChildren) {
   nimbra_test::TempDir dir;

@@ -10,10 +10,10 @@
 #include <thread>
 #include <vector>
 
-#include "tests/logging/log-test-util.h"
 #include "logging/logger-platform.h"
 #include "logging/logger.h"
 #include "logging/per-thread.h"
+#include "tests/logging/log-test-util.h"
 
 using logtest::kStamp;
 using logtest::split_lines;

@@ -7,8 +7,8 @@
 #include <thread>
 #include <vector>
 
-#include "tests/logging/log-test-util.h"
 #include "logging/logger.h"
+#include "tests/logging/log-test-util.h"
 
 using logtest::read_log;
 using logtest::wide;

@@ -9,10 +9,10 @@
 
 #include <functional>
 
+#include "ipc/win-ipc.h"
 #include "service-sim/agent-client.h"
 #include "tests/service-sim/sim-test-util.h"
 #include "tests/support/temp-dir.h"
-#include "ipc/win-ipc.h"
 
 using simtest::num;
 using simtest::parse;

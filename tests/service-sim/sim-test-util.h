@@ -10,8 +10,8 @@
 #include <string>
 #include <utility>
 
-#include "vantor-core/lib/json-access.h"
 #include "service-sim/scenario.h"
+#include "vantor-core/lib/json-access.h"
 
 namespace simtest {
 

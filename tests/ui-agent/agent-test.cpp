@@ -10,9 +10,9 @@
 
 #include <atomic>
 
-#include "widgets/image-manager.h"
-#include "vantor-core/lib/json-access.h"
 #include "logging/logger.h"
+#include "vantor-core/lib/json-access.h"
+#include "widgets/image-manager.h"
 #include "widgets/style-manager.h"
 #include "widgets/ui-path-manager.h"
 
@@ -29,7 +29,8 @@ void loadLook() {
   UIPathManager::getInstance()->setPath(QStringLiteral("resource_path"), res);
   ImageManager::getInstance()->initialize(0);
   StyleManager::getInstance()->clear();
-  StyleManager::getInstance()->initialize({res + "/agent.stylesheet", res + "/component.business.stylesheet"});
+  StyleManager::getInstance()->initialize(
+      {res + "/agent.stylesheet", res + "/component.business.stylesheet"});
 }
 
 QString accessibleName(QObject* object) {

@@ -9,15 +9,15 @@
 #include <QSignalSpy>
 #include <QVBoxLayout>
 
+#include "tests/support/qt-print.h"
+#include "tests/widgets/widgets-fixture.h"
 #include "widgets/dpi-info.h"
 #include "widgets/style-manager.h"
-#include "tests/support/qt-print.h"
 #include "widgets/vell-button.h"
 #include "widgets/vell-check.h"
 #include "widgets/vell-label.h"
 #include "widgets/vell-scroll-area.h"
 #include "widgets/vell-time-combo-box.h"
-#include "tests/widgets/widgets-fixture.h"
 
 namespace {
 

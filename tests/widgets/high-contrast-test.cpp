@@ -10,9 +10,9 @@
 #include <cmath>
 #include <cstdio>
 
-#include "widgets/style-manager.h"
 #include "tests/support/qt-print.h"
 #include "tests/widgets/widgets-fixture.h"
+#include "widgets/style-manager.h"
 
 namespace {
 

@@ -11,9 +11,9 @@
 
 #include <unistd.h>
 
+#include "tests/widgets/widgets-fixture.h"
 #include "widgets/machine-lock.h"
 #include "widgets/single-application.h"
-#include "tests/widgets/widgets-fixture.h"
 
 namespace {
 

@@ -8,12 +8,12 @@
 #include <QImage>
 #include <QLabel>
 
+#include "tests/support/qt-print.h"
+#include "tests/widgets/widgets-fixture.h"
 #include "widgets/dpi-info.h"
 #include "widgets/image-manager.h"
 #include "widgets/style-manager.h"
-#include "tests/support/qt-print.h"
 #include "widgets/ui-path-manager.h"
-#include "tests/widgets/widgets-fixture.h"
 
 using nimbra_test::ScopedEnv;
 using widgets_test::LogCapture;

@@ -10,10 +10,10 @@
 
 #include <functional>
 
+#include "tests/widgets/widgets-fixture.h"
 #include "widgets/component-strings.h"
 #include "widgets/vell-mask.h"
 #include "widgets/vell-message-sheet.h"
-#include "tests/widgets/widgets-fixture.h"
 
 namespace {
 

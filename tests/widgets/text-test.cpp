@@ -7,13 +7,13 @@
 #include <QLabel>
 #include <QLocale>
 
+#include "tests/support/qt-print.h"
+#include "tests/widgets/widgets-fixture.h"
 #include "widgets/accessible-text.h"
 #include "widgets/component-strings.h"
-#include "tests/support/qt-print.h"
 #include "widgets/ui-path-manager.h"
 #include "widgets/vell-locale.h"
 #include "widgets/web-link.h"
-#include "tests/widgets/widgets-fixture.h"
 
 namespace {
 

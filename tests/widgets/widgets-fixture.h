@@ -11,9 +11,9 @@
 
 #include <string>
 
+#include "tests/support/log-capture.h"
 #include "widgets/image-manager.h"
 #include "widgets/style-manager.h"
-#include "tests/support/log-capture.h"
 #include "widgets/ui-path-manager.h"
 
 namespace widgets_test {

@@ -8,9 +8,9 @@
 #include <QtGlobal>
 #include <thread>
 
-#include "widgets/accessible-text.h"
 #include "ui-agent/app/agent-app.h"
 #include "ui-agent/tray/popup-surface.h"
+#include "widgets/accessible-text.h"
 
 namespace agent_app::platform {
 

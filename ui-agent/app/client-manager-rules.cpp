@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "ui-agent/core/notification-text.h"
-#include "vantor-core/lib/json-access.h"
 #include "ui-agent/core/string-display.h"
+#include "vantor-core/lib/json-access.h"
 
 namespace client_manager_rules {
 

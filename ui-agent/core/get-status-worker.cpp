@@ -3,12 +3,12 @@
 #include <QThread>
 #include <QTimer>
 
+#include "logging/logger.h"
 #include "ui-agent/core/connection-info.h"
 #include "ui-agent/core/global-connecter.h"
 #include "ui-agent/core/status-answer.h"
 #include "ui-agent/core/status-store.h"
 #include "vantor-core/lib/json-access.h"
-#include "logging/logger.h"
 
 GetStatusWorker::GetStatusWorker(QObject* parent) : QObject(parent) {
   GlobalConnecter* bus = &GlobalConnecter::instance();

@@ -80,16 +80,20 @@ QStringList font_substitutes(const QString& family) {
   // font, so its glyphs come from the next face: Noto Sans Thai UI, whose
   // marks above and below stay within the labels' 20-pixel lines.
   if (family == QLatin1String("Arial"))
-    return {QStringLiteral("Liberation Sans"), QStringLiteral("Noto Sans Thai UI"), QStringLiteral("DejaVu Sans"),
-            QStringLiteral("Noto Sans CJK SC")};
+    return {QStringLiteral("Liberation Sans"), QStringLiteral("Noto Sans Thai UI"),
+            QStringLiteral("DejaVu Sans"), QStringLiteral("Noto Sans CJK SC")};
   if (family == QLatin1String("Microsoft YaHei"))
-    return {QStringLiteral("Noto Sans CJK SC"), QStringLiteral("Liberation Sans"), QStringLiteral("DejaVu Sans")};
+    return {QStringLiteral("Noto Sans CJK SC"), QStringLiteral("Liberation Sans"),
+            QStringLiteral("DejaVu Sans")};
   if (family == QLatin1String("Microsoft JhengHei"))
-    return {QStringLiteral("Noto Sans CJK TC"), QStringLiteral("Liberation Sans"), QStringLiteral("DejaVu Sans")};
+    return {QStringLiteral("Noto Sans CJK TC"), QStringLiteral("Liberation Sans"),
+            QStringLiteral("DejaVu Sans")};
   if (family == QLatin1String("Meiryo"))
-    return {QStringLiteral("Noto Sans CJK JP"), QStringLiteral("Liberation Sans"), QStringLiteral("DejaVu Sans")};
+    return {QStringLiteral("Noto Sans CJK JP"), QStringLiteral("Liberation Sans"),
+            QStringLiteral("DejaVu Sans")};
   if (family == QLatin1String("Malgun Gothic"))
-    return {QStringLiteral("Noto Sans CJK KR"), QStringLiteral("Liberation Sans"), QStringLiteral("DejaVu Sans")};
+    return {QStringLiteral("Noto Sans CJK KR"), QStringLiteral("Liberation Sans"),
+            QStringLiteral("DejaVu Sans")};
   return {};
 }
 

@@ -12,12 +12,12 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "logging/logger.h"
+#include "logging/per-thread.h"
 #include "ui-agent/core/answer-limits.h"
 #include "ui-agent/core/global-connecter.h"
 #include "vantor-core/lib/env.h"
 #include "vantor-core/lib/json-access.h"
-#include "logging/logger.h"
-#include "logging/per-thread.h"
 
 namespace {
 

@@ -23,9 +23,9 @@
 #include <QObject>
 #include <QThread>
 
-#include "ui-agent/core/json-meta-type.h"
-#include "logging/log-throttle.h"
 #include "ipc/win-ipc.h"
+#include "logging/log-throttle.h"
+#include "ui-agent/core/json-meta-type.h"
 
 class ServiceCommunicator : public QObject {
   Q_OBJECT

@@ -1,7 +1,7 @@
 #include "ui-agent/core/service-error-text.h"
 
-#include "vantor-core/lib/json-access.h"
 #include "ui-agent/core/string-display.h"
+#include "vantor-core/lib/json-access.h"
 
 namespace service_error_text {
 

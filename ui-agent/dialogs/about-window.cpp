@@ -9,11 +9,11 @@
 
 #include <cmath>
 
+#include "logging/logger.h"
+#include "ui-agent/core/string-display.h"
 #include "widgets/accessible-text.h"
 #include "widgets/dpi-info.h"
 #include "widgets/image-manager.h"
-#include "logging/logger.h"
-#include "ui-agent/core/string-display.h"
 #include "widgets/style-manager.h"
 #include "widgets/vell-button.h"
 #include "widgets/vell-label.h"

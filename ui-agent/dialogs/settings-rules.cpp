@@ -5,9 +5,9 @@
 
 #include <QRegularExpression>
 
-#include "vantor-core/lib/json-access.h"
 #include "logging/logger.h"
 #include "ui-agent/core/string-display.h"
+#include "vantor-core/lib/json-access.h"
 
 namespace settings_rules {
 

@@ -9,13 +9,13 @@
 #include <QRegularExpressionValidator>
 #include <QVBoxLayout>
 
-#include "widgets/accessible-text.h"
+#include "logging/logger.h"
 #include "ui-agent/core/global-connecter.h"
+#include "ui-agent/core/string-display.h"
 #include "ui-agent/dialogs/settings-rules.h"
+#include "widgets/accessible-text.h"
 #include "widgets/dpi-info.h"
 #include "widgets/image-manager.h"
-#include "logging/logger.h"
-#include "ui-agent/core/string-display.h"
 #include "widgets/style-manager.h"
 #include "widgets/vell-button.h"
 #include "widgets/vell-check.h"

@@ -4,9 +4,9 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "ui-agent/core/string-display.h"
 #include "widgets/dpi-info.h"
 #include "widgets/image-manager.h"
-#include "ui-agent/core/string-display.h"
 #include "widgets/style-manager.h"
 #include "widgets/vell-button.h"
 #include "widgets/window-placement.h"

@@ -32,7 +32,8 @@ QImage in_room(QWidget* w, QSize room) {
   const QImage grab = gallery::grabWidget(w);
   const int dpr = qMax(1, static_cast<int>(grab.devicePixelRatio()));
   const QSize shown(grab.width() / dpr, grab.height() / dpr);
-  QImage out(qMax(shown.width(), room.width()) + 2, qMax(shown.height(), room.height()) + 2, QImage::Format_ARGB32);
+  QImage out(qMax(shown.width(), room.width()) + 2, qMax(shown.height(), room.height()) + 2,
+             QImage::Format_ARGB32);
   out.fill(Qt::white);
   QPainter p(&out);
   p.drawImage(QRect(QPoint(1, 1), shown), grab);
@@ -58,9 +59,10 @@ Cell text_cell(Str row, const QString& sheet, int width, int height, bool wrap) 
 
 std::vector<Cell> buttons() {
   std::vector<Cell> cells;
-  for (Str row : {Str::btn_ok, Str::btn_cancel, Str::btn_not_now, Str::btn_save, Str::btn_close, Str::btn_done,
-                  Str::btn_get_started}) {
-    VellButton b(string_display::text(row), row == Str::btn_cancel ? VellButton::Secondary : VellButton::Primary);
+  for (Str row : {Str::btn_ok, Str::btn_cancel, Str::btn_not_now, Str::btn_save, Str::btn_close,
+                  Str::btn_done, Str::btn_get_started}) {
+    VellButton b(string_display::text(row),
+                 row == Str::btn_cancel ? VellButton::Secondary : VellButton::Primary);
     b.setMinimumSize(DPIinfo::scaled(100), DPIinfo::scaled(32));
     cells.push_back({string_display::key(row), in_room(&b, {DPIinfo::scaled(100), DPIinfo::scaled(32)})});
   }
@@ -127,16 +129,18 @@ void renderLanguage() {
   using string_display::text;
   std::vector<std::vector<Cell>> rows;
   rows.push_back(buttons());
-  rows.push_back({text_cell(Str::desc_status_partial_success, QStringLiteral("tray_status_display"), 296, 28, false),
-                  text_cell(Str::desc_status_snapshot, QStringLiteral("tray_status_display"), 296, 28, false),
-                  text_cell(Str::desc_backup_preparing, QStringLiteral("tray_status_display"), 296, 28, false)});
+  rows.push_back(
+      {text_cell(Str::desc_status_partial_success, QStringLiteral("tray_status_display"), 296, 28, false),
+       text_cell(Str::desc_status_snapshot, QStringLiteral("tray_status_display"), 296, 28, false),
+       text_cell(Str::desc_backup_preparing, QStringLiteral("tray_status_display"), 296, 28, false)});
   rows.push_back({text_cell(Str::desc_backup_source, QStringLiteral("summary_label"), 180, 20, false),
                   text_cell(Str::desc_backup_policy, QStringLiteral("summary_label"), 180, 20, false),
                   text_cell(Str::desc_data_center, QStringLiteral("summary_label"), 180, 20, false),
                   text_cell(Str::backup_schedule, QStringLiteral("summary_label"), 180, 20, false)});
-  rows.push_back({text_cell(Str::title_wizard_sign_in, QStringLiteral("wizard_text_17px_1E2832"), 456, 28, true),
-                  text_cell(Str::desc_wizard_sign_in, QStringLiteral("wizard_informative_text_15px_1E2832"), 456,
-                            72, true)});
+  rows.push_back(
+      {text_cell(Str::title_wizard_sign_in, QStringLiteral("wizard_text_17px_1E2832"), 456, 28, true),
+       text_cell(Str::desc_wizard_sign_in, QStringLiteral("wizard_informative_text_15px_1E2832"), 456, 72,
+                 true)});
   rows.push_back({text_cell(Str::desc_welcome, QStringLiteral("welcome_title"), 700, 40, false)});
   {
     std::unique_ptr<QLabel> intro(label(QStringLiteral("<div style=\"line-height:24px;\">") +
@@ -146,8 +150,9 @@ void renderLanguage() {
     rows.push_back({{QStringLiteral("desc_welcome_intro"),
                      in_room(intro.get(), {DPIinfo::scaled(560), DPIinfo::scaled(72)})}});
   }
-  rows.push_back({text_cell(Str::retention_bandwidth_enable_range, QStringLiteral("component.checkbox"), 560, 20, false),
-                  text_cell(Str::tip_estimate_minutes, QString(), 560, 20, false)});
+  rows.push_back(
+      {text_cell(Str::retention_bandwidth_enable_range, QStringLiteral("component.checkbox"), 560, 20, false),
+       text_cell(Str::tip_estimate_minutes, QString(), 560, 20, false)});
   for (auto& r : event_rows()) rows.push_back(std::move(r));
   gallery::save(gallery::sheet(QStringLiteral("Longest texts (%1)").arg(screen_gallery::language()), rows),
                 QStringLiteral("language-texts.png"));

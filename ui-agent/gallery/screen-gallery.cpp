@@ -18,11 +18,11 @@
 #include <string>
 #include <vector>
 
-#include "widgets/component-strings.h"
 #include "ui-agent/core/language-font.h"
-#include "widgets/image-manager.h"
-#include "ui-agent/gallery/screen-gallery.h"
 #include "ui-agent/core/string-display.h"
+#include "ui-agent/gallery/screen-gallery.h"
+#include "widgets/component-strings.h"
+#include "widgets/image-manager.h"
 #include "widgets/style-manager.h"
 #include "widgets/ui-path-manager.h"
 
@@ -49,8 +49,12 @@ int add_area(const char* name, RenderFn render) {
   return static_cast<int>(areas().size());
 }
 
-double scale() { return g_scale; }
-QString language() { return g_language; }
+double scale() {
+  return g_scale;
+}
+QString language() {
+  return g_language;
+}
 
 }  // namespace screen_gallery
 

@@ -1,6 +1,8 @@
 // Windows: the version checks, Winsock and the error mode, the low-level
 // mouse hook and the taskbar theme value from the registry.
+// Winsock 2 before anything that may bring in the old Winsock.
 #include <winsock2.h>
+
 #include <windows.h>
 
 #include "logging/logger.h"
@@ -38,9 +40,9 @@ bool windows_at_least(unsigned long major) {
 bool read_system_uses_light_theme(unsigned long& value) {
   DWORD data = 0;
   DWORD size = sizeof(data);
-  const LSTATUS rc = ::RegGetValueW(HKEY_CURRENT_USER,
-                                    L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize",
-                                    L"SystemUsesLightTheme", RRF_RT_REG_DWORD, nullptr, &data, &size);
+  const LSTATUS rc =
+      ::RegGetValueW(HKEY_CURRENT_USER, L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize",
+                     L"SystemUsesLightTheme", RRF_RT_REG_DWORD, nullptr, &data, &size);
   if (rc != ERROR_SUCCESS) return false;
   value = data;
   return true;

@@ -25,7 +25,7 @@ int search(const Series& s, const std::function<bool(int)>& fits, int hint) {
   if (n <= 0) return s.top;
   if (fits(s.at(0))) return s.at(0);
   if (n == 1) return s.at(0);
-  int bad = 0;   // an index known not to fit (the top does not)
+  int bad = 0;    // an index known not to fit (the top does not)
   int good = -1;  // an index known to fit
   const int start = std::clamp(hint, 1, n - 1);
   if (fits(s.at(start))) {

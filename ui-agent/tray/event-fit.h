@@ -20,8 +20,8 @@
 
 #include <QHash>
 #include <QSize>
-#include <memory>
 #include <QString>
+#include <memory>
 
 #include <functional>
 

@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "vantor-core/lib/json-access.h"
 #include "ui-agent/core/string-display.h"
+#include "vantor-core/lib/json-access.h"
 
 namespace progress_page_model {
 
@@ -78,7 +78,8 @@ View view_for(ServiceStatus status, const Json::Value& content, double previous_
   v.percent = round_three_significant(raw);
   v.bar = bar_value(v.percent);
   v.percent_text = QStringLiteral("%1%").arg(QString::number(v.percent, 'g', 6));
-  v.processed_text = string_display::text(Str::desc_progress_handled).arg(string_display::format_size_text(t.upload, false));
+  v.processed_text =
+      string_display::text(Str::desc_progress_handled).arg(string_display::format_size_text(t.upload, false));
   return v;
 }
 

@@ -9,8 +9,8 @@
 
 #include <optional>
 
-#include "ui-agent/core/service-status.h"
 #include "ui-agent/catalogue/string-catalogue.h"
+#include "ui-agent/core/service-status.h"
 
 namespace progress_page_model {
 
@@ -32,8 +32,8 @@ struct Transfer {
 };
 
 struct Finish {
-  double estimate = 0;           // remaining seconds, kept for the next update
-  std::optional<QString> text;   // the finish label; nullopt leaves it
+  double estimate = 0;          // remaining seconds, kept for the next update
+  std::optional<QString> text;  // the finish label; nullopt leaves it
 };
 
 // The estimated finish for one update. Without progress (transferred 0) the

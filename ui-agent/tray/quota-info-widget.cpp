@@ -7,11 +7,11 @@
 #include <QTextEdit>
 #include <QVBoxLayout>
 
-#include "ui-agent/core/global-connecter.h"
-#include "widgets/dpi-info.h"
 #include "logging/logger.h"
+#include "ui-agent/core/global-connecter.h"
 #include "ui-agent/tray/quota-model.h"
 #include "ui-agent/tray/relative-age.h"
+#include "widgets/dpi-info.h"
 #include "widgets/style-manager.h"
 
 QuotaInfoWidget::QuotaInfoWidget(QWidget* parent) : QWidget(parent) {

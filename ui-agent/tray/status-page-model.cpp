@@ -3,9 +3,9 @@
 #include <limits>
 
 #include "ui-agent/core/service-error-text.h"
-#include "vantor-core/lib/json-access.h"
-#include "ui-agent/tray/relative-age.h"
 #include "ui-agent/core/string-display.h"
+#include "ui-agent/tray/relative-age.h"
+#include "vantor-core/lib/json-access.h"
 
 namespace status_page_model {
 
@@ -67,7 +67,8 @@ View view_for(const Json::Value& content) {
     return view;
   }
   const Json::Value& r = jsonx::get_object(content, "last_backup_result");
-  if (jsonx::has(r, "last_backup_time")) view.last_backup = last_backup_text(jsonx::get_uint64(r, "last_backup_time"));
+  if (jsonx::has(r, "last_backup_time"))
+    view.last_backup = last_backup_text(jsonx::get_uint64(r, "last_backup_time"));
   const bool backed_up = !jsonx::has(r, "backed_up") || jsonx::get_bool(r, "backed_up", true);
   view.result = result_for(jsonx::get_int32(r, "last_backup_status"), backed_up);
   if (jsonx::has(content, "next_backup_time"))

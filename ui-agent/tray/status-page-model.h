@@ -9,8 +9,8 @@
 
 #include <optional>
 
-#include "ui-agent/core/tray-status.h"
 #include "ui-agent/catalogue/string-catalogue.h"
+#include "ui-agent/core/tray-status.h"
 
 namespace status_page_model {
 
@@ -25,9 +25,9 @@ struct Result {
 Result result_for(int last_status, bool backed_up);
 
 struct View {
-  bool error = false;          // the error page: error_message instead of the latest event
+  bool error = false;  // the error page: error_message instead of the latest event
   Result result{Str::desc_status_connected, "status_m_idle", TrayIdle};
-  QString error_message;       // error page only
+  QString error_message;  // error page only
   // The schedule box's values; nullopt leaves the label as it is.
   std::optional<QString> last_backup;
   std::optional<QString> next_backup;

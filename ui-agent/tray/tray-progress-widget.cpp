@@ -5,11 +5,11 @@
 #include <QProgressBar>
 #include <QVBoxLayout>
 
-#include "widgets/dpi-info.h"
-#include "widgets/image-manager.h"
+#include "ui-agent/core/string-display.h"
 #include "ui-agent/tray/latest-event.h"
 #include "ui-agent/tray/progress-page-model.h"
-#include "ui-agent/core/string-display.h"
+#include "widgets/dpi-info.h"
+#include "widgets/image-manager.h"
 #include "widgets/style-manager.h"
 #include "widgets/vell-label.h"
 

@@ -6,12 +6,12 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "widgets/dpi-info.h"
-#include "vantor-core/lib/json-access.h"
 #include "ui-agent/core/string-display.h"
-#include "widgets/style-manager.h"
 #include "ui-agent/wizard/summary-text.h"
 #include "ui-agent/wizard/summary-widget.h"
+#include "vantor-core/lib/json-access.h"
+#include "widgets/dpi-info.h"
+#include "widgets/style-manager.h"
 #include "widgets/web-link.h"
 
 namespace {

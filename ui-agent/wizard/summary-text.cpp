@@ -3,10 +3,10 @@
 #include <QStringList>
 #include <QTime>
 
-#include "widgets/dpi-info.h"
-#include "vantor-core/lib/json-access.h"
 #include "logging/logger.h"
 #include "ui-agent/core/string-display.h"
+#include "vantor-core/lib/json-access.h"
+#include "widgets/dpi-info.h"
 
 namespace summary_text {
 namespace {

@@ -6,13 +6,13 @@
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
+#include "ui-agent/core/string-display.h"
+#include "ui-agent/wizard/summary-text.h"
+#include "vantor-core/lib/json-access.h"
 #include "widgets/accessible-text.h"
 #include "widgets/dpi-info.h"
 #include "widgets/image-manager.h"
-#include "vantor-core/lib/json-access.h"
-#include "ui-agent/core/string-display.h"
 #include "widgets/style-manager.h"
-#include "ui-agent/wizard/summary-text.h"
 
 namespace {
 

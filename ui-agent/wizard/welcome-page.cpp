@@ -6,11 +6,11 @@
 #include <QVBoxLayout>
 
 #include "ui-agent/core/global-connecter.h"
+#include "ui-agent/core/string-display.h"
+#include "ui-agent/wizard/summary-text.h"
 #include "widgets/dpi-info.h"
 #include "widgets/image-manager.h"
-#include "ui-agent/core/string-display.h"
 #include "widgets/style-manager.h"
-#include "ui-agent/wizard/summary-text.h"
 
 namespace {
 

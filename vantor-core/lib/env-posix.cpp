@@ -3,8 +3,8 @@
 #include <cerrno>
 #include <cstdlib>
 
-#include "vantor-core/lib/env-platform.h"
 #include "logging/logger.h"
+#include "vantor-core/lib/env-platform.h"
 
 namespace vantor::platform {
 

@@ -2,8 +2,8 @@
 
 #include <vector>
 
-#include "vantor-core/lib/env-platform.h"
 #include "logging/logger.h"
+#include "vantor-core/lib/env-platform.h"
 #include "vantor-core/lib/win-error.h"
 
 namespace vantor::platform {

@@ -38,7 +38,8 @@ QImage grabWidget(QWidget* w, bool focus, bool hover) {
   return img;
 }
 
-QImage sheet(const QString& title, const std::vector<std::vector<Cell>>& rows, const QColor& bg, int minCell) {
+QImage sheet(const QString& title, const std::vector<std::vector<Cell>>& rows, const QColor& bg,
+             int minCell) {
   const int pad = 18, gap = 16, captionH = 18, titleH = 44;
   int width = 0, height = titleH + pad;
   std::vector<int> rowH;

@@ -12,8 +12,8 @@
 #include <json/value.h>
 
 #include <algorithm>
-#include <ctime>
 #include <cstdio>
+#include <ctime>
 #include <functional>
 
 #include "bench/bench-report.h"
@@ -37,9 +37,9 @@ const std::string kLongValue =
 
 Json::Value longBody() {
   Json::Value b(Json::objectValue);
-  for (const char* key : {"volume_name", "error_code", "inode_number", "path", "email", "trigger_event", "task_name",
-                          "destination", "plan_name", "parent_path", "interval_start", "interval_end", "exit_code",
-                          "script_result_path"})
+  for (const char* key : {"volume_name", "error_code", "inode_number", "path", "email", "trigger_event",
+                          "task_name", "destination", "plan_name", "parent_path", "interval_start",
+                          "interval_end", "exit_code", "script_result_path"})
     b[key] = kLongValue;
   b["cbt"] = true;
   return b;
@@ -159,7 +159,8 @@ int main(int argc, char** argv) {
   const QString res = QStringLiteral(TRAY_BENCH_RESOURCES);
   UIPathManager::getInstance()->setPath(QStringLiteral("resource_path"), res);
   ImageManager::getInstance()->initialize(0);
-  StyleManager::getInstance()->initialize({res + "/agent.stylesheet", res + "/component.business.stylesheet"});
+  StyleManager::getInstance()->initialize(
+      {res + "/agent.stylesheet", res + "/component.business.stylesheet"});
   setScale(1);
   benchmark::Initialize(&argc, argv);
   benchmark::RunSpecifiedBenchmarks();
@@ -172,8 +173,8 @@ int main(int argc, char** argv) {
     auto fitter = event_fit::Fitter::tray();
     const double fast = best_ms([&] { benchmark::DoNotOptimize(fitter.fit(longest)); }, 15);
     const double walk = best_ms([&] { benchmark::DoNotOptimize(fitter.fitLinear(longest)); }, 3);
-    bench_report::report("tray latest-event fit, longest message, scale " + std::to_string(int(scale)), fast, "ms",
-                         5, false);
+    bench_report::report("tray latest-event fit, longest message, scale " + std::to_string(int(scale)), fast,
+                         "ms", 5, false);
     plainWalk(walk, fast);
   }
   setScale(1);
@@ -194,7 +195,8 @@ int main(int argc, char** argv) {
         },
         1);
     bench_report::report("activity dialog fill, 100 new entries", fill, "ms", 100, false);
-    std::printf("        plain walk, the 100 fits alone: %.2f ms (%.1fx the whole fill)\n", walk, walk / fill);
+    std::printf("        plain walk, the 100 fits alone: %.2f ms (%.1fx the whole fill)\n", walk,
+                walk / fill);
   }
 
   {
@@ -227,9 +229,9 @@ int main(int argc, char** argv) {
       const auto status = static_cast<ServiceStatus>(running ? 0x3003 : 0x2000);
       menu.updateServiceStatus(status, content);  // the first update after a new entry fits it
       const double update = best_ms([&] { menu.updateServiceStatus(status, content); }, 200);
-      bench_report::report(std::string("updateServiceStatus, 17 KB content, ") + (running ? "progress" : "status") +
-                               " page",
-                           update, "ms", 2, false);
+      bench_report::report(
+          std::string("updateServiceStatus, 17 KB content, ") + (running ? "progress" : "status") + " page",
+          update, "ms", 2, false);
       std::printf("        with the plain walk on each update: %.2f ms (%.1fx)\n", update + walk,
                   (update + walk) / update);
     }

@@ -8,9 +8,9 @@
 #include <QWidget>
 #include <QWindow>
 
+#include "tests/support/qt-print.h"
 #include "ui-agent/app/agent-app.h"
 #include "ui-agent/core/global-connecter.h"
-#include "tests/support/qt-print.h"
 
 namespace {
 

@@ -10,9 +10,9 @@
 
 #include <memory>
 
+#include "tests/support/temp-dir.h"
 #include "tests/ui-agent/agent-test.h"
 #include "widgets/machine-lock.h"
-#include "tests/support/temp-dir.h"
 
 namespace {
 

@@ -9,8 +9,8 @@
 
 #include "tests/ui-agent/agent-test.h"
 #include "ui-agent/core/global-connecter.h"
-#include "vantor-core/lib/json-access.h"
 #include "ui-agent/core/service-communicator.h"
+#include "vantor-core/lib/json-access.h"
 
 using ::testing::HasSubstr;
 

@@ -6,8 +6,8 @@
 #include <QFontDatabase>
 #include <QFontInfo>
 
-#include "ui-agent/core/language-font.h"
 #include "tests/support/qt-print.h"
+#include "ui-agent/core/language-font.h"
 
 namespace {
 

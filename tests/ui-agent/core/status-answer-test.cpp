@@ -4,11 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/table.h"
 #include "tests/ui-agent/agent-test.h"
 #include "ui-agent/core/service-error-text.h"
 #include "ui-agent/core/status-answer.h"
 #include "ui-agent/core/string-display.h"
-#include "tests/support/table.h"
 
 namespace {
 

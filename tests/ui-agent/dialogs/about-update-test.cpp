@@ -15,17 +15,17 @@
 #include <functional>
 #include <memory>
 
+#include "tests/support/qt-print.h"
 #include "tests/ui-agent/agent-test.h"
+#include "ui-agent/core/string-display.h"
 #include "ui-agent/dialogs/about-window.h"
 #include "ui-agent/dialogs/settings-widget.h"
 #include "ui-agent/dialogs/update-status-dialog.h"
-#include "ui-agent/core/string-display.h"
-#include "tests/support/qt-print.h"
 #include "ui-agent/tray/log-widget.h"
+#include "ui-agent/wizard/wizard.h"
 #include "widgets/vell-button.h"
 #include "widgets/vell-label.h"
 #include "widgets/window-placement.h"
-#include "ui-agent/wizard/wizard.h"
 
 namespace {
 

@@ -14,13 +14,13 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "tests/support/qt-print.h"
 #include "tests/ui-agent/agent-test.h"
 #include "ui-agent/core/global-connecter.h"
+#include "ui-agent/core/string-display.h"
 #include "ui-agent/dialogs/settings-rules.h"
 #include "ui-agent/dialogs/settings-widget.h"
 #include "vantor-core/lib/json-access.h"
-#include "ui-agent/core/string-display.h"
-#include "tests/support/qt-print.h"
 #include "widgets/vell-button.h"
 #include "widgets/vell-time-combo-box.h"
 

@@ -1,12 +1,14 @@
 // Windows (under Wine in CI): the version checks, the taskbar value in the
 // registry, Winsock, the mouse hook and the machine-wide mutex.
+// Winsock 2 before anything that may bring in the old Winsock.
 #include <winsock2.h>
+
 #include <windows.h>
 
 #include <gtest/gtest.h>
 
-#include "widgets/machine-lock.h"
 #include "ui-agent/platform/os-services.h"
+#include "widgets/machine-lock.h"
 
 namespace {
 
@@ -23,9 +25,9 @@ class ThemeValue : public ::testing::Test {
       ::RegDeleteKeyValueW(HKEY_CURRENT_USER, kPersonalize, L"SystemUsesLightTheme");
   }
   static void set(DWORD v) {
-    ASSERT_EQ(::RegSetKeyValueW(HKEY_CURRENT_USER, kPersonalize, L"SystemUsesLightTheme", REG_DWORD, &v,
-                                sizeof(v)),
-              ERROR_SUCCESS);
+    ASSERT_EQ(
+        ::RegSetKeyValueW(HKEY_CURRENT_USER, kPersonalize, L"SystemUsesLightTheme", REG_DWORD, &v, sizeof(v)),
+        ERROR_SUCCESS);
   }
   bool had_ = false;
   unsigned long old_ = 0;

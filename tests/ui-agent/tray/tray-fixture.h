@@ -10,11 +10,11 @@
 #include <ctime>
 #include <string>
 
+#include "tests/support/qt-print.h"
 #include "tests/ui-agent/agent-test.h"
 #include "ui-agent/core/language-font.h"
 #include "ui-agent/core/log-entry.h"
 #include "ui-agent/core/string-display.h"
-#include "tests/support/qt-print.h"
 
 namespace tray_test {
 

@@ -3,9 +3,9 @@
 
 #include <QLabel>
 
-#include "widgets/dpi-info.h"
 #include "tests/ui-agent/wizard/wizard-fixture.h"
 #include "ui-agent/wizard/nimbra-loading-frame.h"
+#include "widgets/dpi-info.h"
 
 namespace {
 

@@ -6,8 +6,8 @@
 #include <QLabel>
 #include <QSignalSpy>
 
-#include "ui-agent/core/string-display.h"
 #include "tests/ui-agent/wizard/wizard-fixture.h"
+#include "ui-agent/core/string-display.h"
 #include "ui-agent/wizard/summary-page.h"
 #include "ui-agent/wizard/summary-widget.h"
 

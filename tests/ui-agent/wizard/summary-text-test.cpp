@@ -9,10 +9,10 @@
 #include <functional>
 #include <map>
 
-#include "tests/ui-agent/agent-test.h"
-#include "ui-agent/core/string-display.h"
 #include "tests/support/qt-print.h"
 #include "tests/support/table.h"
+#include "tests/ui-agent/agent-test.h"
+#include "ui-agent/core/string-display.h"
 #include "ui-agent/wizard/summary-text.h"
 
 namespace {

@@ -10,8 +10,8 @@
 
 #include <functional>
 
-#include "tests/ui-agent/agent-test.h"
 #include "tests/support/qt-print.h"
+#include "tests/ui-agent/agent-test.h"
 #include "widgets/vell-message-sheet.h"
 
 namespace wizard_test {

@@ -4,10 +4,10 @@
 #include <regex>
 #include <string>
 
-#include "vantor-core/lib/env.h"
-#include "vantor-core/lib/exception.h"
 #include "logging/paths.h"
 #include "tests/support/temp-dir.h"
+#include "vantor-core/lib/env.h"
+#include "vantor-core/lib/exception.h"
 
 using nimbra_test::ScopedEnv;
 

@@ -23,7 +23,9 @@ struct ClassRow {
   std::type_index type;
   const char* name;
 };
-void PrintTo(const ClassRow& c, std::ostream* os) { *os << "code " << c.code << " -> " << c.name; }
+void PrintTo(const ClassRow& c, std::ostream* os) {
+  *os << "code " << c.code << " -> " << c.name;
+}
 
 class RaiseClassTest : public ::testing::TestWithParam<ClassRow> {};
 
@@ -89,7 +91,8 @@ void PrintTo(const GrowthRow& r, std::ostream* os) {
 class FormatGrowth : public ::testing::TestWithParam<GrowthRow> {};
 
 TEST_P(FormatGrowth, NextBufferSize) {
-  EXPECT_EQ(rex::next_format_buffer(GetParam().result, GetParam().current, GetParam().error), GetParam().next);
+  EXPECT_EQ(rex::next_format_buffer(GetParam().result, GetParam().current, GetParam().error),
+            GetParam().next);
 }
 
 INSTANTIATE_TEST_SUITE_P(

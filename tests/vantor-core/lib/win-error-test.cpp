@@ -16,7 +16,9 @@ struct Row {
   std::uint32_t win;
   int err;
 };
-void PrintTo(const Row& c, std::ostream* os) { *os << "Windows error " << c.win << " -> errno " << c.err; }
+void PrintTo(const Row& c, std::ostream* os) {
+  *os << "Windows error " << c.win << " -> errno " << c.err;
+}
 
 class TranslationTest : public ::testing::TestWithParam<Row> {};
 
