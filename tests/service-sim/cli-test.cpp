@@ -5,6 +5,7 @@
 #include <signal.h>
 
 #include <QProcess>
+#include <QTcpServer>
 #include <QTest>
 
 #include <functional>
@@ -155,6 +156,15 @@ INSTANTIATE_TEST_SUITE_P(
         {{"serve", "--scenario", "/nonexistent/x.json"}, 2, "/nonexistent/x.json: cannot be opened"},
         {{"send", "--pipe", "service", "{}"}, 1, "cannot connect"},
         {{"notify", "--type", "8"}, 3, "", "{\"success\":false}"}}));
+
+// A sign-in port another program holds: the simulator says so and exits 1.
+TEST_F(SimCliTest, ServeFailsWhenTheSignInPortIsTaken) {
+  QTcpServer taken;
+  ASSERT_TRUE(taken.listen(QHostAddress::LocalHost));
+  const ProcessResult r = run({"serve", "--port", QString::number(taken.serverPort())});
+  EXPECT_EQ(r.code, 1);
+  EXPECT_THAT(r.err, ::testing::HasSubstr("cannot listen on port"));
+}
 
 // Starts `serve` with `args`; true once it printed its "ready" line.
 bool serve(QProcess& p, const QStringList& args) {

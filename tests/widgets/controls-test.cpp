@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QVBoxLayout>
+#include <QtMath>
 
 #include "tests/support/qt-print.h"
 #include "tests/widgets/widgets-fixture.h"
@@ -167,6 +168,16 @@ TEST_F(WidgetsControls, LabelElidesToItsWidthWithFullTextAsToolTip) {
   label.setText("short");
   EXPECT_EQ(label.text(), "short");
   EXPECT_TRUE(label.toolTip().isEmpty());
+  // Exactly as wide as its text it stays whole; an indent of one pixel on
+  // each side leaves too little room.
+  for (const int indent : {-1, 1}) {
+    VellLabel fitted;
+    fitted.setIndent(indent);
+    fitted.setElideMode(Qt::ElideRight);
+    fitted.setFixedWidth(qCeil(QFontMetricsF(fitted.font(), &fitted).horizontalAdvance("Backed up")));
+    fitted.setText("Backed up");
+    EXPECT_EQ(fitted.text() == "Backed up", indent < 0) << "indent " << indent;
+  }
 }
 
 // In a layout that may give it up to 296 px (a stretch beside it), a label

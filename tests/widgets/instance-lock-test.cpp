@@ -102,6 +102,16 @@ TEST_F(WidgetsSingleApp, MessagesToAPrimaryProcessArriveWhole) {
   EXPECT_EQ(QString::fromUtf8(primary.readAllStandardOutput()).trimmed(), "MESSAGE " + text);
 }
 
+// The size cap is inclusive on both ends: a message of exactly the cap
+// arrives, one byte more is not even sent.
+TEST_F(WidgetsSingleApp, AMessageOfExactlyTheCapArrives) {
+  SingleInstance primary(appId_);
+  ASSERT_FALSE(primary.isRunning());
+  expectReceives(primary, appId_, QString(SingleInstance::kMaxMessageBytes, QLatin1Char('x')));
+  EXPECT_FALSE(SingleInstance(appId_).sendMessage(
+      QString(SingleInstance::kMaxMessageBytes + 1, QLatin1Char('x')), 1000));
+}
+
 TEST_F(WidgetsSingleApp, HostilePeersAreDroppedAndLaterMessagesStillArrive) {
   SingleInstance primary(appId_);
   ASSERT_FALSE(primary.isRunning());
