@@ -56,7 +56,7 @@ TEST(Bus, QueuedDeliveryCarriesEveryPayloadAcrossThreadsAndSharesAnswers) {
       Qt::BlockingQueuedConnection);
   thread.quit();
   thread.wait();
-  ASSERT_TRUE(done.size() == 1 || done.wait(2000));
+  ASSERT_TRUE(done.size() == 1 || done.wait(10000));
   ASSERT_EQ(status.size(), 1);
   EXPECT_EQ(status.at(0).at(0).value<ServiceStatus>(), StatusIdle);
   EXPECT_EQ(status.at(0).at(1).value<ServiceStatus>(), StatusBackupPreparing);

@@ -48,7 +48,7 @@ class StatusWorkerTest : public ::testing::Test {
 
   // Waits for status notice number `index` and returns its arguments.
   QList<QVariant> notice(int index) {
-    while (notices_.size() <= index && notices_.wait(3000)) {
+    while (notices_.size() <= index && notices_.wait(10000)) {
     }
     EXPECT_GT(notices_.size(), index);
     return notices_.size() > index ? notices_.at(index) : QList<QVariant>{{}, {}, {}};
@@ -113,7 +113,7 @@ TEST_F(StatusWorkerTest, RequestCarriesTheLastLogIdAndZeroAfterClearing) {
   QSignalSpy spy(bus_, &GlobalConnecter::sigQueryService);
   store_.setLastLogId(18446744073709551615ULL);
   QMetaObject::invokeMethod(worker_, "slotQueryServiceStatus", Qt::QueuedConnection);
-  ASSERT_TRUE(spy.wait(3000));
+  ASSERT_TRUE(spy.wait(10000));
   store_.clearConnection();
   // At most one in flight: a tick before the request ended (a hung service)
   // asks nothing.
@@ -122,7 +122,7 @@ TEST_F(StatusWorkerTest, RequestCarriesTheLastLogIdAndZeroAfterClearing) {
   EXPECT_EQ(spy.size(), 1);
   emit bus_->sigQueryServiceEnded(worker_);
   QMetaObject::invokeMethod(worker_, "slotQueryServiceStatus", Qt::QueuedConnection);
-  ASSERT_TRUE(spy.size() == 2 || spy.wait(3000));
+  ASSERT_TRUE(spy.size() == 2 || spy.wait(10000));
   ASSERT_EQ(spy.size(), 2);
   const Json::Value first = spy.at(0).at(1).value<Json::Value>();
   const Json::Value second = spy.at(1).at(1).value<Json::Value>();
@@ -145,7 +145,7 @@ TEST_F(StatusWorkerTest, StopBeforeStartThenStartTwiceMakesOneTimerTickingOnTheW
   worker_->startPolling();
   worker_->startPolling();
   EXPECT_TRUE(worker_->isPolling());
-  ASSERT_TRUE(requests.wait(3000));
+  ASSERT_TRUE(requests.wait(10000));
   worker_->stopPolling();
   EXPECT_FALSE(worker_->isPolling());
   drain();
@@ -154,7 +154,7 @@ TEST_F(StatusWorkerTest, StopBeforeStartThenStartTwiceMakesOneTimerTickingOnTheW
   // Started again after a stop (the request ended), it ticks again.
   emit bus_->sigQueryServiceEnded(worker_);
   worker_->startPolling();
-  ASSERT_TRUE(requests.wait(3000));
+  ASSERT_TRUE(requests.wait(10000));
 }
 
 // A service that answers at once is still asked once a second, not without

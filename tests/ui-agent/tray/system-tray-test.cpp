@@ -101,7 +101,7 @@ TEST_F(TrayIcon, BuiltIdleAsksForTheConnectionAfterASecond) {
   EXPECT_EQ(tray_->currentIconName(), onPanel("logo_tray_icn_connect"));
   EXPECT_FALSE(tray_->icon().isNull());
   EXPECT_EQ(asked.count(), 0);
-  ASSERT_TRUE(asked.wait(3000));
+  ASSERT_TRUE(asked.wait(10000));
   QTest::qWait(200);
   EXPECT_EQ(asked.count(), 1);
 }
