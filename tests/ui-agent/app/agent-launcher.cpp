@@ -1,12 +1,9 @@
 // Runs the agent's start-up as the agent does and prints, one line each,
 // what a test needs to see:
 //   PRIMARY            this process became the primary instance
-//   OPEN_LOG <0|1>     what the primary was started with
-//   MESSAGE <text>     a message from a second instance reached the bus
 //   SHEET <title>|<text>  a warning was shown (and answered with OK)
 // Environment: NIMBRA_TEST_OTHER_USER=1 makes this process look like another
-// user to the machine-wide lock (Linux only); NIMBRA_TEST_QUIT_AFTER=<n> ends the event
-// loop after n messages.
+// user to the machine-wide lock (Linux only).
 #include <cstdio>
 #ifndef _WIN32
 #include <unistd.h>
@@ -16,7 +13,6 @@
 #include <QTimer>
 
 #include "ui-agent/app/agent-app.h"
-#include "ui-agent/core/global-connecter.h"
 #include "ui-agent/tray/system-tray.h"
 #include "widgets/vell-message-sheet.h"
 
@@ -45,22 +41,11 @@ int main(int argc, char** argv) {
     });
     answer->start(20);
   };
-  options.createPrimary = [](bool openLog) -> std::unique_ptr<QObject> {
-    say(QStringLiteral("OPEN_LOG %1").arg(openLog ? 1 : 0));
+  options.createPrimary = [](bool) -> std::unique_ptr<QObject> {
     auto tray = std::make_unique<SystemTray>();
     tray->setVisible(true);
     return tray;
   };
-  options.primaryReady = [] {
-    static int left = qEnvironmentVariableIntValue("NIMBRA_TEST_QUIT_AFTER");
-    QObject::connect(&GlobalConnecter::instance(), &GlobalConnecter::sigMessageReceived,
-                     [](const QString& m) {
-                       say(QStringLiteral("MESSAGE ") + m);
-                       if (left > 0 && --left == 0) QCoreApplication::quit();
-                     });
-    say(QStringLiteral("PRIMARY"));
-  };
-  const int code = agent_app::run(argc, argv, options);
-  say(QStringLiteral("EXIT %1").arg(code));
-  return code;
+  options.primaryReady = [] { say(QStringLiteral("PRIMARY")); };
+  return agent_app::run(argc, argv, options);
 }

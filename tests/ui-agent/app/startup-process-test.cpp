@@ -1,6 +1,6 @@
-// Whole launches of the agent, each with its own pipe namespace, working
-// space, runtime and state folders: the second launch hands its argument to
-// the first and exits 0; another user's agent refuses to start.
+// A whole launch of the agent's start-up with its own pipe namespace,
+// working space, runtime and state folders: another user's agent refuses to
+// start. (Second launches handing over their argument are desktop stories.)
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
@@ -19,7 +19,6 @@ namespace {
 QString bin(const char* rel) {
   return qEnvironmentVariable("NIMBRA_BUILD_DIR") + QLatin1String(rel);
 }
-const QString kAgent = QStringLiteral("/bin/nimbra-backup-agent");
 const QString kLauncher = QStringLiteral("/tests/bin/agent-test-launcher");
 
 class AgentLaunch : public ::testing::Test {
@@ -70,39 +69,6 @@ class AgentLaunch : public ::testing::Test {
   QProcessEnvironment env_;
   std::vector<std::unique_ptr<QProcess>> procs_;
 };
-
-// Each second launch hands its argument ("open" without one) to the first
-// and exits 0; the primary ends its loop after the third.
-TEST_F(AgentLaunch, SecondLaunchesForwardTheirArgumentAndExit) {
-  QProcessEnvironment quitAfterThree;
-  quitAfterThree.insert("NIMBRA_TEST_QUIT_AFTER", "3");
-  QProcess& first = start(kLauncher, {}, quitAfterThree);
-  ASSERT_EQ(waitLine(first, "OPEN_LOG"), "OPEN_LOG 0");
-  ASSERT_EQ(waitLine(first, "PRIMARY"), "PRIMARY");
-  QElapsedTimer clock;
-  clock.start();
-  QProcess& second = start(kAgent, {});
-  ASSERT_TRUE(second.waitForFinished(15000));
-  // 500 ms of asking plus 100 ms before sending, on top of the program's own start.
-  EXPECT_GE(clock.elapsed(), 600);
-  EXPECT_EQ(second.exitStatus(), QProcess::NormalExit);
-  EXPECT_EQ(second.exitCode(), 0);
-  EXPECT_EQ(waitLine(first, "MESSAGE"), "MESSAGE open");
-  for (const char* argument : {"token=abc", "open_log"}) {
-    QProcess& next = start(kAgent, {argument});
-    ASSERT_TRUE(next.waitForFinished(15000));
-    EXPECT_EQ(next.exitCode(), 0);
-    EXPECT_EQ(waitLine(first, "MESSAGE"), QStringLiteral("MESSAGE ") + argument);
-  }
-  EXPECT_EQ(waitLine(first, "EXIT"), "EXIT 0");
-  ASSERT_TRUE(first.waitForFinished(10000));
-  EXPECT_EQ(first.exitCode(), 0);
-}
-
-TEST_F(AgentLaunch, OpenLogStartsThePrimaryWithTheLogPending) {
-  QProcess& first = start(kLauncher, {"open_log"});
-  EXPECT_EQ(waitLine(first, "OPEN_LOG"), "OPEN_LOG 1");
-}
 
 #ifndef _WIN32
 // (Windows tells another user by the lock's access denied, which the
