@@ -5,7 +5,6 @@
 
 #include <QGuiApplication>
 #include <QSignalSpy>
-#include <QThread>
 
 #include "tests/ui-agent/agent-test.h"
 #include "ui-agent/core/connection-info.h"
@@ -18,55 +17,6 @@
 using agent_test::parse;
 
 namespace {
-
-// The constructor registers the carried types by name (string connections
-// and queued deliveries need them).
-TEST(Bus, CarriedTypesAreRegistered) {
-  GlobalConnecter::instance();
-  for (const char* name :
-       {"uint64_t", "Json::Value", "SharedJson", "ConnectionInfo", "ServiceStatus", "const QObject*"})
-    EXPECT_NE(QMetaType::type(name), QMetaType::UnknownType) << name;
-}
-
-// Every payload crosses threads; an answer arrives as the very tree that was
-// sent, never a copy.
-TEST(Bus, QueuedDeliveryCarriesEveryPayloadAcrossThreadsAndSharesAnswers) {
-  GlobalConnecter* bus = &GlobalConnecter::instance();
-  QSignalSpy status(bus, &GlobalConnecter::sigNotifyStatusChange);
-  QSignalSpy connect_server(bus, &GlobalConnecter::sigConnectServer);
-  QSignalSpy done(bus, &GlobalConnecter::sigQueryServiceDone);
-  QObject sender;
-  // A worker-thread object forwarding to the bus, as the poller and the request client do.
-  QThread thread;
-  QObject emitter;
-  emitter.moveToThread(&thread);
-  thread.start();
-  const Json::Value content = parse(R"({"logs": ["entry"]})");
-  const SharedJson answer(content);
-  ConnectionInfo info;
-  info.address = "a.example";
-  info.proxy.proxy_port = 8080;
-  QMetaObject::invokeMethod(
-      &emitter,
-      [&] {
-        emit bus->sigNotifyStatusChange(StatusIdle, StatusBackupPreparing, content);
-        emit bus->sigConnectServer(info);
-        emit bus->sigQueryServiceDone(&sender, answer);
-      },
-      Qt::BlockingQueuedConnection);
-  thread.quit();
-  thread.wait();
-  ASSERT_TRUE(done.size() == 1 || done.wait(10000));
-  ASSERT_EQ(status.size(), 1);
-  EXPECT_EQ(status.at(0).at(0).value<ServiceStatus>(), StatusIdle);
-  EXPECT_EQ(status.at(0).at(1).value<ServiceStatus>(), StatusBackupPreparing);
-  EXPECT_EQ(status.at(0).at(2).value<Json::Value>(), content);
-  ASSERT_EQ(connect_server.size(), 1);
-  EXPECT_EQ(connect_server.at(0).at(0).value<ConnectionInfo>(), info);
-  EXPECT_EQ(done.at(0).at(0).value<const QObject*>(), &sender);
-  EXPECT_TRUE(done.at(0).at(1).value<SharedJson>().sharesWith(answer));
-  EXPECT_EQ(done.at(0).at(1).value<Json::Value>(), content);
-}
 
 TEST(Bus, LivesOnTheMainThreadAndForwardsTheApplicationState) {
   EXPECT_EQ(GlobalConnecter::instance().thread(), QCoreApplication::instance()->thread());
@@ -145,21 +95,6 @@ TEST(ConnectionInfoTest, EveryFieldIsReadFromItsMemberSslOnlyForConnectionRecord
   EXPECT_EQ(fillConnectionInfo(Json::Value(), Json::Value(), SslTrust::Read), ConnectionInfo());
   EXPECT_EQ(fillConnectionInfo(parse("[1,2]"), parse("\"proxy\""), SslTrust::Read), ConnectionInfo());
   EXPECT_EQ(fillConnectionInfo(parse("17"), parse("true"), SslTrust::Read), ConnectionInfo());
-}
-
-// The two members read as texts compare exactly; other kinds read as missing
-// (json-access's rule, tested there).
-TEST(ConnectionInfoTest, AccountTypeAndAuthForkMatchOnlyTheirExactTexts) {
-  for (const char* account : {R"("Vell")", R"(["vell"])", "1"}) {
-    Json::Value a = parse(kFull);
-    a["connection"]["account_type"] = parse(account);
-    EXPECT_FALSE(fill(a).is_vell_account) << account;
-  }
-  for (const char* fork : {R"("01")", R"("true")", "1", "true"}) {
-    Json::Value a = parse(kFull);
-    a["connection"]["is_auth_fork"] = parse(fork);
-    EXPECT_FALSE(fill(a).is_auth_fork) << fork;
-  }
 }
 
 // --- StatusStore ----------------------------------------------------------------

@@ -49,20 +49,6 @@ class IpcServerTest : public ::testing::Test {
   std::unique_ptr<ServiceIpcServer> server_ = std::make_unique<ServiceIpcServer>();
 };
 
-TEST_F(IpcServerTest, NotificationsAreAcceptedAndReachTheMainThreadWhole) {
-  Qt::HANDLE receiving_thread = nullptr;
-  QObject context;
-  QObject::connect(bus_, &GlobalConnecter::sigHandleNotifications, &context,
-                   [&](const Json::Value&) { receiving_thread = QThread::currentThreadId(); });
-  const std::string text =
-      R"({"action":"notifications","site_path":"/s","notifications":[{"id":7,"type":11,"data":{"k":[1,2]}}]})";
-  EXPECT_EQ(send(text), kOk);
-  ASSERT_TRUE(notifications_.size() == 1 || notifications_.wait(5000));
-  ASSERT_EQ(notifications_.size(), 1);
-  EXPECT_EQ(notifications_.at(0).at(0).value<Json::Value>(), agent_test::parse(text));
-  EXPECT_EQ(receiving_thread, QThread::currentThreadId());
-}
-
 struct Refused {
   std::string request;
   const char* line;
@@ -105,20 +91,6 @@ TEST_F(IpcServerTest, ClientsAreServedOneRequestEachInTurnAlsoAfterOneHangsUp) {
     EXPECT_EQ(jsonx::get_int64(notifications_.at(i).at(0).value<Json::Value>(), "i"), i);
 }
 
-TEST_F(IpcServerTest, StopEndsTheThreadWithinOneAcceptRoundAndLogsIt) {
-  EXPECT_TRUE(log_.waitFor("[INFO][service-communicator.cpp:"));
-  EXPECT_THAT(log_.text(), HasSubstr("ipc server thread start\n"));
-  QElapsedTimer clock;
-  clock.start();
-  server_->stop();
-  EXPECT_TRUE(server_->isStopping());
-  ASSERT_TRUE(server_->wait(5000));
-  EXPECT_LT(clock.elapsed(), 2000);  // one round of 200 ms here
-  EXPECT_THAT(log_.text(), HasSubstr("ipc server thread stop\n"));
-  WinIpc::IpcClient client;  // the pipe went with the thread
-  EXPECT_NE(client.connect(WinIpc::kAgentPipe, 300), 0);
-}
-
 TEST_F(IpcServerTest, RestartedServerDeliversEachNotificationOnce) {
   server_->stop();
   ASSERT_TRUE(server_->wait(5000));
@@ -138,18 +110,6 @@ TEST_F(IpcServerTest, SecondServerOnTheSameNameThrowsAndTheFirstServesOn) {
     EXPECT_STREQ(e.what(), "can't open port or socket, ipc broken");
   }
   EXPECT_EQ(send(R"({"action":"notifications"})"), kOk);
-}
-
-TEST(IpcServerDefaults, StopIsNoticedWithinTheDefaultAcceptRound) {
-  agent_test::Isolation isolation;
-  ServiceIpcServer server;
-  server.init();
-  server.start();
-  QElapsedTimer clock;
-  clock.start();
-  server.stop();
-  ASSERT_TRUE(server.wait(6000));
-  EXPECT_LT(clock.elapsed(), 4500);
 }
 
 TEST(IpcServerDefaults, DestroyingARunningServerStopsItAndFreesTheName) {

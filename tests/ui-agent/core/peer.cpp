@@ -8,13 +8,8 @@ ScriptedPeer::ScriptedPeer(const std::string& name, Script script) : script_(std
       if (!server_.accept()) continue;
       ++connections_;
       std::string request;
-      if (server_.read(request) == 0) {
-        {
-          std::lock_guard<std::mutex> g(mutex_);
-          requests_.push_back(request);
-        }
+      if (server_.read(request) == 0)
         if (auto reply = script_(request)) server_.write(*reply);
-      }
       server_.disconnect();
     }
   });
@@ -24,9 +19,4 @@ ScriptedPeer::~ScriptedPeer() {
   stop_ = true;
   if (thread_.joinable()) thread_.join();
   server_.close();
-}
-
-std::vector<std::string> ScriptedPeer::requests() const {
-  std::lock_guard<std::mutex> g(mutex_);
-  return requests_;
 }

@@ -1,15 +1,13 @@
 #pragma once
 // A scripted service end on a real pipe: for each connection it reads one
-// framed request, records it and writes whatever the script returns (nothing
-// for std::nullopt: the peer just hangs up).
+// framed request and writes whatever the script returns (nothing for
+// std::nullopt: the peer just hangs up).
 
 #include <atomic>
 #include <functional>
-#include <mutex>
 #include <optional>
 #include <string>
 #include <thread>
-#include <vector>
 
 #include "ipc/win-ipc.h"
 
@@ -22,7 +20,6 @@ class ScriptedPeer {
   ScriptedPeer(const std::string& name, Script script);
   ~ScriptedPeer();
   bool ok() const { return thread_.joinable(); }
-  std::vector<std::string> requests() const;
   int connections() const { return connections_.load(); }
 
  private:
@@ -31,6 +28,4 @@ class ScriptedPeer {
   std::thread thread_;
   std::atomic<bool> stop_{false};
   std::atomic<int> connections_{0};
-  mutable std::mutex mutex_;
-  std::vector<std::string> requests_;
 };

@@ -19,13 +19,4 @@ TEST(ServiceErrorMessage, ConsoleLinkIsFilledFromBaseUrlAndEscaped) {
   EXPECT_FALSE(text.contains(QStringLiteral("%1")));
 }
 
-TEST(ServiceErrorMessage, WrongTypesReadAsMissing) {
-  const auto answer = agent_test::parse(R"({"error":{"code":"18","base_url":7}})");
-  EXPECT_EQ(service_error_text::code_of(answer), 0);
-  const QString text = service_error_text::message(18, answer);
-  EXPECT_TRUE(text.contains(QStringLiteral("href=\"\""))) << text.toStdString();
-  EXPECT_EQ(service_error_text::code_of(agent_test::parse(R"({"error":[1]})")), 0);
-  EXPECT_EQ(service_error_text::message(12), string_display::text(Str::err_operation_timedout));
-}
-
 }  // namespace
