@@ -16,11 +16,6 @@
 
 namespace {
 
-QString bin(const char* rel) {
-  return qEnvironmentVariable("NIMBRA_BUILD_DIR") + QLatin1String(rel);
-}
-const QString kLauncher = QStringLiteral("/tests/bin/agent-test-launcher");
-
 class AgentLaunch : public ::testing::Test {
  protected:
   AgentLaunch() {
@@ -39,14 +34,14 @@ class AgentLaunch : public ::testing::Test {
       }
     }
   }
-  QProcess& start(const QString& program, const QStringList& args,
-                  const QProcessEnvironment& extra = QProcessEnvironment()) {
+  // The launcher, looking like another user to the machine-wide lock when `otherUser`.
+  QProcess& start(bool otherUser) {
     procs_.push_back(std::make_unique<QProcess>());
     QProcess& p = *procs_.back();
     QProcessEnvironment env = env_;
-    for (const QString& key : extra.keys()) env.insert(key, extra.value(key));
+    if (otherUser) env.insert("NIMBRA_TEST_OTHER_USER", "1");
     p.setProcessEnvironment(env);
-    p.start(bin(program.toUtf8().constData()), args);
+    p.start(qEnvironmentVariable("NIMBRA_BUILD_DIR") + "/tests/bin/agent-test-launcher", QStringList());
     return p;
   }
   // Reads the launcher's lines until one starts with `prefix`.
@@ -77,9 +72,7 @@ TEST_F(AgentLaunch, AnotherUsersAgentRefusesThisOne) {
   // The machine-wide lock held here; the launcher looks like another user.
   MachineLock holder;
   ASSERT_EQ(holder.acquire(), MachineLock::Acquired);
-  QProcessEnvironment otherUser;
-  otherUser.insert("NIMBRA_TEST_OTHER_USER", "1");
-  QProcess& refused = start(kLauncher, {}, otherUser);
+  QProcess& refused = start(true);
   EXPECT_EQ(waitLine(refused, "SHEET"),
             "SHEET Nimbra Backup|This application is already opened by another user.");
   ASSERT_TRUE(refused.waitForFinished(10000));
@@ -87,7 +80,7 @@ TEST_F(AgentLaunch, AnotherUsersAgentRefusesThisOne) {
   EXPECT_EQ(QString::fromUtf8(refused.readAllStandardOutput()).contains("PRIMARY"), false);
   EXPECT_NE(log().find("held by another user"), std::string::npos);
   // The same user is not refused by the lock: the single instance decides.
-  QProcess& same = start(kLauncher, {});
+  QProcess& same = start(false);
   EXPECT_EQ(waitLine(same, "PRIMARY"), "PRIMARY");
 }
 #endif
