@@ -44,7 +44,7 @@ class LogCapture {
   void mark();
   std::string text() const;
   // Pumps Qt events until `needle` shows up in text(); false after `timeout_ms`.
-  bool waitFor(const std::string& needle, int timeout_ms = 5000) const;
+  bool waitFor(const std::string& needle, int timeout_ms = 10000) const;
 
  private:
   nimbra_test::TempDir dir_;

@@ -88,7 +88,7 @@ TEST_F(CommunicatorTest, BackToBackRequestsAreAnsweredInOrderWithTheirSenders) {
     req["seq"] = i;
     emit bus_->sigQueryService(i % 2 ? &a : &b, req);
   }
-  while (done.size() < kCount && done.wait(5000)) {
+  while (done.size() < kCount && done.wait(10000)) {
   }
   ASSERT_EQ(done.size(), kCount);
   for (int i = 0; i < kCount; ++i) {

@@ -108,7 +108,7 @@ TEST_F(AgentPipe, AnotherUserCannotPushANotification) {
   EXPECT_EQ(other.hear(), 'n') << "the other user got an answer";
   EXPECT_EQ(other.wait(), 0);
   EXPECT_EQ(notify(notification()), kOk) << "this user is still served";
-  ASSERT_TRUE(notifications_.count() == 1 || notifications_.wait(5000));
+  ASSERT_TRUE(notifications_.count() == 1 || notifications_.wait(10000));
   QCoreApplication::processEvents();
   EXPECT_EQ(notifications_.count(), 1) << "only this user's notification arrived";
   EXPECT_THAT(log(), HasSubstr("refused a client of uid 65534"));
@@ -267,7 +267,7 @@ TEST_F(Client, AnotherUserServingTheServiceNameGetsNothing) {
   });
   ASSERT_EQ(squatter.hear(), 'r');
   ask(tokenRequest());
-  ASSERT_TRUE(failed_.count() == 1 || failed_.wait(5000));
+  ASSERT_TRUE(failed_.count() == 1 || failed_.wait(10000));
   EXPECT_EQ(done_.count(), 0) << "the squatter's answer was taken";
   EXPECT_EQ(squatter.hear(), 'n') << "the request (and its token) reached the squatter";
   EXPECT_THAT(log(), HasSubstr("served by uid 65534"));

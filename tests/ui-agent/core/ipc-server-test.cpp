@@ -84,7 +84,7 @@ TEST_F(IpcServerTest, ClientsAreServedOneRequestEachInTurnAlsoAfterOneHangsUp) {
   EXPECT_TRUE(log_.waitFor("failed to recv request (")) << log_.text();
   for (int i = 0; i < 10; ++i)
     ASSERT_EQ(send(R"({"action":"notifications","i":)" + std::to_string(i) + "}"), kOk);
-  while (notifications_.size() < 10 && notifications_.wait(5000)) {
+  while (notifications_.size() < 10 && notifications_.wait(10000)) {
   }
   ASSERT_EQ(notifications_.size(), 10);
   for (int i = 0; i < 10; ++i)

@@ -166,7 +166,7 @@ TEST_F(StatusWorkerTest, AServiceThatAnswersAtOnceIsAskedOnceASecond) {
       [this](const QObject*, Json::Value) { emit bus_->sigQueryServiceEnded(worker_); },
       Qt::DirectConnection);
   worker_->startPolling();
-  ASSERT_TRUE(requests.wait(5000));
+  ASSERT_TRUE(requests.wait(10000));
   QTest::qWait(300);
   EXPECT_LE(requests.size(), 2);
 }
