@@ -1,5 +1,6 @@
 // The tray pop-up's widgets show what the models decide (tray-model-test has
-// the decisions): the pages and the state they relay, the bandwidth
+// the decisions; the page per state and the state relayed to the icon are
+// the desktop Backup stories'): the pages across answers, the bandwidth
 // hand-over to the settings, the activity dialog, the quota widget.
 
 #include <gtest/gtest.h>
@@ -12,7 +13,6 @@
 #include <QMimeData>
 #include <QProgressBar>
 #include <QSignalSpy>
-#include <QStackedWidget>
 #include <QTableWidget>
 #include <QTest>
 #include <QToolButton>
@@ -56,22 +56,10 @@ class TrayWidgets : public tray_test::TrayTest {
   void show(int status, const char* content) {
     menu_.updateServiceStatus(static_cast<ServiceStatus>(status), parse(content));
   }
-  QWidget* currentPage() { return child<QStackedWidget>(&menu_, "trayPages")->currentWidget(); }
 
   qint64 now_ = tray_test::kMoment;
   TrayMenu menu_;
 };
-
-TEST_F(TrayWidgets, PageChoiceAndRelayedTrayStatus) {
-  QSignalSpy spy(&menu_, &TrayMenu::sigTrayStatusChanged);
-  show(0x3003, kRunning);
-  EXPECT_EQ(currentPage(), menu_.progressPage());
-  EXPECT_EQ(spy.count(), 1);
-  EXPECT_EQ(relayed(spy), TrayRunning);
-  show(StatusError, kFailed);
-  EXPECT_EQ(currentPage(), menu_.statusPage());
-  EXPECT_EQ(relayed(spy), TrayError);
-}
 
 TEST_F(TrayWidgets, StatusPageResultErrorPageAndRepeatedAnswers) {
   TrayStatusWidget* page = menu_.statusPage();
