@@ -100,12 +100,8 @@ TEST_F(Dialogs, UpdateDialogFlagsMessageAndButton) {
 
 TEST_F(Dialogs, UpdateDialogFinishedOnEveryWayOut) {
   const std::pair<const char*, std::function<void(UpdateStatusDialog&, VellButton*)>> ways[] = {
+      // (Return on OK is the desktop story Upgrade.FailureOkEndsTheAgent's.)
       {"ok", [](UpdateStatusDialog&, VellButton* ok) { ok->click(); }},
-      {"return",
-       [](UpdateStatusDialog&, VellButton* ok) {
-         ok->setFocus();
-         QTest::keyClick(ok, Qt::Key_Return);
-       }},
       {"escape", [](UpdateStatusDialog& d, VellButton*) { QTest::keyClick(&d, Qt::Key_Escape); }},
       {"close", [](UpdateStatusDialog& d, VellButton*) { d.close(); }}};
   for (const auto& [name, leave] : ways) {

@@ -1,6 +1,6 @@
-// The message boxes' text broken into lines that fit: the lines rule, the
-// boxes as the agent builds them (labels as wide as their widest line), and
-// what running one returns.
+// The message boxes' text broken into lines that fit: the lines rule and
+// the boxes as the agent builds them (labels as wide as their widest line).
+// What running one returns is the desktop story Session.LogOutAsksFirst's.
 
 #include <gtest/gtest.h>
 
@@ -9,8 +9,6 @@
 #include <QFontMetrics>
 #include <QLabel>
 #include <QMessageBox>
-#include <QTest>
-#include <QTimer>
 
 #include "tests/ui-agent/agent-test.h"
 #include "ui-agent/core/string-display.h"
@@ -64,18 +62,6 @@ TEST(NoticeBox, BoxesWrapInTheStyleSheetsFontAndButtonsLoseThemeIcons) {
     }
     for (QAbstractButton* b : box->buttons()) EXPECT_TRUE(b->icon().isNull());
   }
-}
-
-// Escape is "Cancel"; the role of the pressed button is the answer.
-TEST(NoticeBox, AskReturnsTheRoleOfThePressedButton) {
-  const auto box = notice_box::logout_question();
-  QTimer::singleShot(0, box.get(), [&box] { QTest::keyClick(box.get(), Qt::Key_Escape); });
-  EXPECT_EQ(notice_box::ask(*box), QMessageBox::RejectRole);
-  QTimer::singleShot(0, box.get(), [&box] {
-    for (QAbstractButton* b : box->buttons())
-      if (box->buttonRole(b) == QMessageBox::ApplyRole) b->click();
-  });
-  EXPECT_EQ(notice_box::ask(*box), QMessageBox::ApplyRole);
 }
 
 }  // namespace

@@ -281,15 +281,4 @@ TEST_F(SettingsWidgetTest, AccessibleNamesAndTabOrder) {
   EXPECT_TRUE(cancelButton()->hasFocus());
 }
 
-TEST(SettingsWidgetScale, LengthsFollowTheDisplayScale) {
-  qputenv("NIMBRA_UI_SCALE", "2");
-  SettingsWidget widget;
-  qunsetenv("NIMBRA_UI_SCALE");
-  EXPECT_EQ(widget.size(), QSize(1400, 884));
-  EXPECT_EQ(widget.findChild<QLineEdit*>(QStringLiteral("SettingsRateEdit"))->width(), 160);
-  EXPECT_EQ(widget.findChild<QWidget*>(QStringLiteral("SettingsScrollArea"))->height(), 764);
-  EXPECT_EQ(widget.findChild<QWidget*>(QStringLiteral("SettingsStartCombo"))->size(), QSize(400, 64));
-  EXPECT_EQ(widget.findChild<QWidget*>(QStringLiteral("SettingsEndLabel"))->width(), 280);
-}
-
 }  // namespace

@@ -84,7 +84,7 @@ TEST_P(ItemHost, FollowsTheWatchersAnswer) {
   StatusNotifierItem item(nullptr, QStringLiteral("item"));
   EXPECT_EQ(item.host(), Host::Unknown);
   QSignalSpy changed(&item, &StatusNotifierItem::hostChanged);
-  ASSERT_TRUE(changed.wait(5000));
+  ASSERT_TRUE(changed.wait(10000));
   EXPECT_EQ(item.host(), r.expected);
   EXPECT_EQ(watcher_.registered, item.serviceName());
   EXPECT_TRUE(item.serviceName().startsWith("org.kde.StatusNotifierItem-"))
@@ -108,7 +108,7 @@ TEST_F(PrivateBus, TheMenuIsOnTheBusBeforeThereIsOne) {
       QDBusConnection(QStringLiteral("panel"))
           .call(QDBusMessage::createMethodCall(item.serviceName(), "/MenuBar",
                                                "org.freedesktop.DBus.Introspectable", "Introspect"),
-                QDBus::BlockWithGui, 5000);
+                QDBus::BlockWithGui, 10000);
   EXPECT_TRUE(reply.arguments().value(0).toString().contains("com.canonical.dbusmenu"))
       << reply.errorMessage().toStdString();
 }

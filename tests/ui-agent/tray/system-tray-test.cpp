@@ -122,8 +122,6 @@ TEST_F(TrayIcon, StateFromSlotAndMenuPicksThePictureAndLeavingConnectedClears) {
 }
 
 TEST_F(TrayIcon, RightMenuExistsExactlyInModeOne) {
-  QSignalSpy exit(&GlobalConnecter::instance(), &GlobalConnecter::sigExitApplication);
-  QSignalSpy sent(&GlobalConnecter::instance(), &GlobalConnecter::sigQueryService);
   tray_->setConnectionMode(ConnectionMode::Connected);
   QMenu* menu = tray_->rightMenu();
   ASSERT_NE(menu, nullptr);
@@ -139,23 +137,18 @@ TEST_F(TrayIcon, RightMenuExistsExactlyInModeOne) {
   auto* reason = menu->findChild<QAction*>("BackupNowReason");
   ASSERT_TRUE(backup && reason);
 
-  // The model's verdict reaches the menu and the tool tip; a disabled entry sends nothing.
+  // The model's verdict reaches the menu and the tool tip (what the entries send is the
+  // desktop story Session.SecondLaunch's).
   tray_->updateServiceStatus(StatusBackupRunning, agent_test::parse(R"({"connected":true})"));
   EXPECT_FALSE(backup->isEnabled());
   EXPECT_TRUE(reason->isVisible());
   EXPECT_EQ(reason->text(), QStringLiteral("A backup is running"));
   EXPECT_EQ(tray_->toolTip(), QStringLiteral("Nimbra Backup\nBacking up..."));
-  backup->trigger();
   emit GlobalConnecter::instance().sigQueryServiceFailed();
   EXPECT_EQ(reason->text(), QStringLiteral("Service not reachable"));
   tray_->updateServiceStatus(StatusIdle, agent_test::parse(R"({"connected":true})"));
   EXPECT_TRUE(backup->isEnabled());
   EXPECT_FALSE(reason->isVisible());
-  backup->trigger();
-  ASSERT_EQ(sent.count(), 1);
-  EXPECT_EQ(sent.first().at(1).value<Json::Value>()["action"].asString(), "backup_now");
-  menu->findChild<QAction*>("ExitAction")->trigger();
-  EXPECT_EQ(exit.count(), 1);
 
   tray_->setConnectionMode(ConnectionMode::NotConnected);
   EXPECT_EQ(tray_->rightMenu(), nullptr);
@@ -262,34 +255,6 @@ TEST_F(TrayIcon, PressOnTheEdgeKeepsItOpenOnePastCloses) {
   hold = false;
   emit bus.sigPositionClicked(QPoint(g.x() + g.width() + 1, g.y()));
   EXPECT_FALSE(popup()->isVisible());
-}
-
-TEST_F(TrayIcon, WithoutANotificationAreaShowsAnOrdinaryWindow) {
-  trayAvailable_ = false;
-  tray_->setConnectionMode(ConnectionMode::Connected);
-  tray_->showMenuAt(QPoint());
-  ASSERT_TRUE(popup()->isVisible());
-  EXPECT_TRUE(popup()->isWindowMode());
-  EXPECT_EQ(popup()->windowTitle(), QStringLiteral("Nimbra Backup"));
-  EXPECT_TRUE(QRect(0, 0, 1280, 760).contains(popup()->frameGeometry().center()));
-  // A small fixed window: title, minimise and close, nothing to maximise.
-  const Qt::WindowFlags flags = popup()->windowFlags();
-  EXPECT_TRUE(flags.testFlag(Qt::CustomizeWindowHint) && flags.testFlag(Qt::WindowCloseButtonHint));
-  EXPECT_FALSE(flags.testFlag(Qt::WindowMaximizeButtonHint) || flags.testFlag(Qt::Popup));
-  QTest::keyClick(popup(), Qt::Key_Escape);
-  EXPECT_FALSE(popup()->isVisible()) << "Escape leaves the window up";
-  tray_->showMenuAt(QPoint());
-  // An ordinary window: a press elsewhere leaves it, a click raises it.
-  emit GlobalConnecter::instance().sigPositionClicked(QPoint(5000, 5000));
-  EXPECT_TRUE(popup()->isVisible());
-  EXPECT_TRUE(activeOpensThePopup());
-  EXPECT_TRUE(popup()->isWindowMode());
-  // A panel that appears later gets the pop-up back.
-  popup()->hide();
-  trayAvailable_ = true;
-  tray_->showMenuAt(QPoint(640, 780));
-  EXPECT_FALSE(popup()->isWindowMode());
-  EXPECT_TRUE(popup()->windowFlags().testFlag(Qt::Popup));
 }
 
 }  // namespace

@@ -28,8 +28,6 @@ inline void later(std::function<void()> action, int ms = 0) {
   QTimer::singleShot(ms, qApp, std::move(action));
 }
 
-using agent_test::accessibleName;
-
 // The innermost running sheet, or null.
 inline VellMessageSheet* topSheet() {
   const auto sheets = VellMessageSheet::runningSheets();
