@@ -1,7 +1,6 @@
 // Message sheets (nested loop, buttons, quit) and masks (geometry, life).
 
 #include <QApplication>
-#include <QImage>
 #include <QKeyEvent>
 #include <QPointer>
 #include <QPushButton>
@@ -162,45 +161,6 @@ TEST_F(WidgetsSheets, WarningBoxIsAWindowOfItsOwnAndReturnsTheButton) {
       QMessageBox::Ok);
   EXPECT_NE(log.text().find("warning shown: [Nimbra Backup]"), std::string::npos);
 }
-
-// The card is white whatever the caller names the sheet (callers rename it
-// so tests can find it): the look must not hang on the object name.
-class WidgetsSheetCard : public WidgetsSheets, public ::testing::WithParamInterface<const char*> {};
-
-TEST_P(WidgetsSheetCard, DrawsItsWhiteCardOverTheWindow) {
-  QPalette dark = window_.palette();
-  dark.setColor(QPalette::Window, QColor(60, 60, 60));
-  window_.setPalette(dark);
-  window_.setAutoFillBackground(true);
-  VellMessageSheet sheet(VellMessageSheet::Question, &window_, true);
-  if (*GetParam()) sheet.setObjectName(QString::fromLatin1(GetParam()));
-  sheet.setFixedHeight(158);
-  sheet.setText("You're all set for backup. Do you want to back up this device right now?");
-  QImage shot;
-  QRect card;
-  int buttonTop = 0;
-  whileUp([&] {
-    card = sheet.geometry();
-    buttonTop = sheet.button(QMessageBox::Apply)->geometry().top();
-    shot = window_.grab().toImage();
-    sheet.quit();
-  });
-  sheet.exec();
-  ASSERT_FALSE(shot.isNull());
-  // Inside the card, left of the picture and below the buttons: the card's own background.
-  for (const QPoint p :
-       {QPoint(card.left() + 10, card.center().y()), QPoint(card.center().x(), card.bottom() - 6),
-        QPoint(card.right() - 10, card.top() + 10)})
-    EXPECT_EQ(QColor(shot.pixel(p)).name().toStdString(), "#ffffff") << "at " << p.x() << "," << p.y();
-  EXPECT_GT(buttonTop, card.height() / 2) << "the buttons are laid out along the card's bottom";
-  // Outside it, the window as it was.
-  EXPECT_EQ(QColor(shot.pixel(2, 2)).name().toStdString(), "#3c3c3c");
-}
-
-INSTANTIATE_TEST_SUITE_P(Names, WidgetsSheetCard, ::testing::Values("", "BackupNowSheet"),
-                         [](const ::testing::TestParamInfo<const char*>& param) {
-                           return std::string(*param.param ? param.param : "Default");
-                         });
 
 using WidgetsMasks = WidgetsSheets;
 
