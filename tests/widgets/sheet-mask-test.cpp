@@ -28,27 +28,6 @@ class WidgetsSheets : public ::testing::Test {
   QWidget window_;
 };
 
-TEST_F(WidgetsSheets, ExecReturnsThePressedButton) {
-  VellMessageSheet sheet(3, &window_, true);
-  ASSERT_NE(sheet.button(QMessageBox::Apply), nullptr);
-  ASSERT_NE(sheet.button(QMessageBox::Discard), nullptr);
-  whileUp([&] {
-    EXPECT_TRUE(sheet.isVisible());
-    EXPECT_EQ(VellMessageSheet::runningSheets(), QList<VellMessageSheet*>{&sheet});
-    sheet.button(QMessageBox::Apply)->click();
-  });
-  EXPECT_EQ(sheet.exec(), QMessageBox::Apply);
-  EXPECT_FALSE(sheet.isVisible());
-  EXPECT_TRUE(VellMessageSheet::runningSheets().isEmpty());
-
-  // Escape presses the cancelling button.
-  whileUp([&] {
-    QKeyEvent esc(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-    QApplication::sendEvent(&sheet, &esc);
-  });
-  EXPECT_EQ(sheet.exec(), QMessageBox::Discard);
-}
-
 TEST_F(WidgetsSheets, QuitEndsTheLoopAndASecondExecWhileRunningIsRefused) {
   VellMessageSheet sheet(1, &window_, true);
   QSignalSpy finished(&sheet, &VellMessageSheet::finished);
@@ -144,22 +123,6 @@ TEST_F(WidgetsSheets, DefaultButtonsByTypeUseInstalledWordsAndCanBeReplaced) {
   EXPECT_EQ(log.count("message sheet given no button it knows (0x1000000)"), 1) << log.text();
   odd.setInformativeText("More");
   EXPECT_EQ(odd.informativeText(), "More");
-}
-
-TEST_F(WidgetsSheets, WarningBoxIsAWindowOfItsOwnAndReturnsTheButton) {
-  widgets_test::LogCapture log;
-  whileUp([] {
-    ASSERT_EQ(VellMessageSheet::runningSheets().size(), 1);
-    VellMessageSheet* box = VellMessageSheet::runningSheets().first();
-    EXPECT_TRUE(box->isWindow());
-    EXPECT_EQ(box->windowTitle(), "Nimbra Backup");
-    EXPECT_EQ(box->text(), "This application is already opened by another user.");
-    box->button(QMessageBox::Ok)->click();
-  });
-  EXPECT_EQ(
-      showWarningMsg("Nimbra Backup", "This application is already opened by another user.", nullptr, 0),
-      QMessageBox::Ok);
-  EXPECT_NE(log.text().find("warning shown: [Nimbra Backup]"), std::string::npos);
 }
 
 using WidgetsMasks = WidgetsSheets;
