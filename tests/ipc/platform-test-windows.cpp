@@ -1,7 +1,7 @@
 // What only the Windows transport has: the Everyone DACL and the
 // one-instance rule against a squatter. Under Wine only the documented
-// deviations are tolerated (the shared second-server case in
-// transport-test.cpp accepts either error code).
+// deviations are tolerated (a second server on a taken name is the agent's
+// IpcServerTest case, on every platform).
 
 #include <windows.h>
 // after windows.h
