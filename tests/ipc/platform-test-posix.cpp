@@ -13,7 +13,7 @@
 #include <string>
 
 #include "ipc/win-ipc.h"
-#include "tests/ipc/log-capture.h"
+#include "tests/ipc/pipes.h"
 #include "tests/support/temp-dir.h"
 
 namespace {
@@ -50,7 +50,7 @@ INSTANTIATE_TEST_SUITE_P(
     [](const ::testing::TestParamInfo<NameCase>& i) { return std::string(i.param.name); });
 
 TEST(PosixTransport, NamespaceSeparatesServersOfTheSameName) {
-  ipc_test::LogCapture log;
+  nimbra_test::LogCapture log;
   const std::string name = ipc_test::unique_pipe("ns");
   IpcServer mine;
   ASSERT_EQ(mine.create(name), 0);
@@ -64,7 +64,7 @@ TEST(PosixTransport, NamespaceSeparatesServersOfTheSameName) {
 }
 
 TEST(PosixTransport, OverlongNamesFailWithTheirLines) {
-  ipc_test::LogCapture log;
+  nimbra_test::LogCapture log;
   const std::string overlong = "\\\\.\\pipe\\" + std::string(200, 'n');
   EXPECT_EQ(IpcServer().create(overlong), -1);
   EXPECT_EQ(IpcClient().connect(overlong, 3000), -1);
@@ -84,7 +84,7 @@ std::set<int> open_fds() {
 }
 
 TEST(PosixTransport, DescriptorsAreClosedOnExecAndGivenBack) {
-  ipc_test::LogCapture log;
+  nimbra_test::LogCapture log;
   const std::string name = ipc_test::unique_pipe("fds");
   const std::set<int> before = open_fds();
   {
@@ -106,7 +106,7 @@ TEST(PosixTransport, DescriptorsAreClosedOnExecAndGivenBack) {
 // round waits before it returns (50 ms, doubling) and one line is written,
 // so a server loop never spins and never floods the log.
 TEST(PosixTransport, FailingAcceptBacksOffAndLogsOnce) {
-  ipc_test::LogCapture log;
+  nimbra_test::LogCapture log;
   const std::string name = ipc_test::unique_pipe("emfile");
   IpcServer server;
   ASSERT_EQ(server.create(name), 0);

@@ -1,7 +1,7 @@
 // What only the Windows transport has: the Everyone DACL and the
 // one-instance rule against a squatter. Under Wine only the documented
-// deviations are tolerated (the shared second-server case in
-// transport-test.cpp accepts either error code).
+// deviations are tolerated (a second server on a taken name is the agent's
+// IpcServerTest case, on every platform).
 
 #include <windows.h>
 // after windows.h
@@ -12,12 +12,12 @@
 #include <string>
 
 #include "ipc/win-ipc.h"
-#include "tests/ipc/log-capture.h"
+#include "tests/ipc/pipes.h"
 
 namespace {
 
 TEST(WindowsTransport, PipeGrantsEveryoneReadAndWrite) {
-  ipc_test::LogCapture log;
+  nimbra_test::LogCapture log;
   const std::string name = ipc_test::unique_pipe("dacl");
   WinIpc::IpcServer server;
   ASSERT_EQ(server.create(name), 0) << log.text();
@@ -44,7 +44,7 @@ TEST(WindowsTransport, SquatterWithFreeInstancesStillBlocksCreate) {
   const HMODULE ntdll = ::GetModuleHandleA("ntdll.dll");
   if (ntdll != nullptr && ::GetProcAddress(ntdll, "wine_get_version") != nullptr)
     GTEST_SKIP() << "Wine ignores FILE_FLAG_FIRST_PIPE_INSTANCE";
-  ipc_test::LogCapture log;
+  nimbra_test::LogCapture log;
   const std::string name = ipc_test::unique_pipe("squat");
   const HANDLE squatter =
       ::CreateNamedPipeA(name.c_str(), PIPE_ACCESS_DUPLEX, PIPE_TYPE_BYTE | PIPE_READMODE_BYTE | PIPE_NOWAIT,
@@ -59,7 +59,7 @@ TEST(WindowsTransport, SquatterWithFreeInstancesStillBlocksCreate) {
 // Before a request is written the client knows who serves the pipe: here
 // this process, so this user (a squatter of another user would not be).
 TEST(WindowsTransport, ClientNamesTheServersUser) {
-  ipc_test::LogCapture log;
+  nimbra_test::LogCapture log;
   const std::string name = ipc_test::unique_pipe("owner");
   WinIpc::IpcServer server;
   ASSERT_EQ(server.create(name), 0) << log.text();

@@ -1,7 +1,5 @@
 // A small program the single-instance and lock tests start as "another
 // process of the same user".
-//   instance-helper second <appId> <message>   start-up's check: find the
-//       primary running, then forward the message to it
 //   instance-helper primary <appId>            become the primary instance and
 //       print every message received; ends after the first one
 //   instance-helper hold-lock <name>           hold the machine lock until killed
@@ -28,14 +26,6 @@ int main(int argc, char** argv) {
   int qtArgc = 1;
   // The agent's own application object, as start-up creates it.
   QtSingleApplication app(QString::fromLocal8Bit(argv[2]), qtArgc, argv, true);
-  if (std::strcmp(mode, "second") == 0 && argc > 3) {
-    if (!app.isRunning()) {
-      std::printf("PRIMARY\n");
-      return 3;
-    }
-    std::printf("SENT %s\n", app.sendMessage(QString::fromLocal8Bit(argv[3]), 5000) ? "ok" : "failed");
-    return 0;
-  }
   if (std::strcmp(mode, "primary") == 0) {
     if (app.isRunning()) {
       std::printf("RUNNING\n");

@@ -2,10 +2,6 @@
 // agent asks for, unknown names, every block a style sheet Qt accepts),
 // display scaling, and pictures by name for the pixel ratio.
 
-#include <QDir>
-#include <QDirIterator>
-#include <QFile>
-#include <QImage>
 #include <QLabel>
 
 #include "tests/support/qt-print.h"
@@ -96,30 +92,11 @@ INSTANTIATE_TEST_SUITE_P(WidgetsNames, WidgetsAgentStyleName,
 
 TEST(WidgetsStyleFiles, NamesFixtureIsReadAndNoNameIsDefinedTwice) {
   EXPECT_GE(widgets_test::agentStyleNames().size(), 40);
-  EXPECT_GE(widgets_test::agentPictureNames().size(), 25);
   LogCapture log;
   widgets_test::loadProductLook();
   const std::string text = log.text();
   EXPECT_EQ(text.find("defined twice"), std::string::npos);
   EXPECT_EQ(text.find("replaces an earlier one"), std::string::npos);
-}
-
-// The build tree holds the resource folder beside bin/, as installed.
-TEST(WidgetsResourceFolder, BuildTreeMirrorsTheSourceFolder) {
-  const QDir source(widgets_test::sourceResources());
-  const QDir built(qEnvironmentVariable("NIMBRA_BUILD_DIR") + QStringLiteral("/resource"));
-  ASSERT_TRUE(built.exists()) << qPrintable(built.path());
-  QDirIterator it(source.path(), QDir::Files, QDirIterator::Subdirectories);
-  int files = 0;
-  while (it.hasNext()) {
-    const QString rel = source.relativeFilePath(it.next());
-    if (rel == QLatin1String("CMakeLists.txt")) continue;
-    ++files;
-    QFile a(source.filePath(rel)), b(built.filePath(rel));
-    ASSERT_TRUE(b.open(QIODevice::ReadOnly) && a.open(QIODevice::ReadOnly)) << "missing: " << qPrintable(rel);
-    EXPECT_EQ(a.readAll(), b.readAll()) << "stale copy: " << qPrintable(rel);
-  }
-  EXPECT_GT(files, 30);
 }
 
 using ScaleCase = std::tuple<std::string, std::string, std::string>;  // scale, sheet, scaled sheet
@@ -167,29 +144,6 @@ class WidgetsPictures : public ::testing::Test {
   ImageManager* images_ = ImageManager::getInstance();
 };
 
-class WidgetsAgentPicture : public WidgetsPictures, public ::testing::WithParamInterface<QString> {};
-
-TEST_P(WidgetsAgentPicture, LoadsAndScalesWithThePixelRatio) {
-  ASSERT_TRUE(images_->contains(GetParam()));
-  const QSize natural = images_->naturalSize(GetParam());
-  ASSERT_TRUE(natural.isValid() && !natural.isEmpty());
-  const QPixmap one = images_->pixmap(GetParam(), natural, 1.0);
-  const QPixmap two = images_->pixmap(GetParam(), natural, 2.0);
-  EXPECT_EQ(one.size(), natural);
-  EXPECT_EQ(two.size(), natural * 2);
-  EXPECT_DOUBLE_EQ(two.devicePixelRatio(), 2.0);
-  // Something is drawn: not a blank picture.
-  const QImage img = two.toImage();
-  int opaque = 0;
-  for (int y = 0; y < img.height(); ++y)
-    for (int x = 0; x < img.width(); ++x) opaque += qAlpha(img.pixel(x, y)) > 0;
-  EXPECT_GT(opaque, img.width() * img.height() / 50);
-}
-
-INSTANTIATE_TEST_SUITE_P(WidgetsNames, WidgetsAgentPicture,
-                         ::testing::ValuesIn(widgets_test::agentPictureNames()),
-                         [](const ::testing::TestParamInfo<QString>& p) { return p.param.toStdString(); });
-
 TEST_F(WidgetsPictures, GlobalImageFollowsUiScaleAndRenderingsAreCachedBySize) {
   ScopedEnv env("NIMBRA_UI_SCALE", "1.5");
   images_->clearCache();
@@ -227,31 +181,5 @@ TEST(WidgetsPicturesFolder, BrokenFileGivesNullPixmapAndMissingFolderNothing) {
   EXPECT_EQ(images->initializeFrom("/nonexistent/images"), 0);
   EXPECT_TRUE(images->names().isEmpty());
 }
-
-// The tray states must not differ by colour alone: their shapes (opaque or
-// not, light glyph or not, no hue) differ pairwise at 16 px, light and dark.
-class WidgetsTrayShapes : public WidgetsPictures, public ::testing::WithParamInterface<const char*> {};
-
-TEST_P(WidgetsTrayShapes, EveryStateHasItsOwnShapeAt16px) {
-  const QStringList states{"connect", "green", "blue", "red", "orange"};
-  QList<QImage> icons;
-  for (const QString& s : states)
-    icons << images_->pixmap("logo_tray_icn_" + s + GetParam(), QSize(16, 16), 1.0).toImage();
-  auto shape = [](const QImage& img, int k) {
-    const QRgb p = img.pixel(k % 16, k / 16);
-    return qAlpha(p) < 128 ? 0 : (qGray(p) > 200 ? 2 : 1);
-  };
-  for (int i = 0; i < icons.size(); ++i)
-    for (int j = i + 1; j < icons.size(); ++j) {
-      int differing = 0;
-      for (int k = 0; k < 256; ++k) differing += shape(icons[i], k) != shape(icons[j], k);
-      EXPECT_GE(differing, 4) << qPrintable(states[i]) << " vs " << qPrintable(states[j]);
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(WidgetsVariants, WidgetsTrayShapes, ::testing::Values("", "_dark"),
-                         [](const ::testing::TestParamInfo<const char*>& p) {
-                           return std::string(*p.param ? "dark" : "light");
-                         });
 
 }  // namespace

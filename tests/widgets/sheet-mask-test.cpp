@@ -1,7 +1,6 @@
 // Message sheets (nested loop, buttons, quit) and masks (geometry, life).
 
 #include <QApplication>
-#include <QImage>
 #include <QKeyEvent>
 #include <QPointer>
 #include <QPushButton>
@@ -28,27 +27,6 @@ class WidgetsSheets : public ::testing::Test {
   static void whileUp(std::function<void()> action) { QTimer::singleShot(0, std::move(action)); }
   QWidget window_;
 };
-
-TEST_F(WidgetsSheets, ExecReturnsThePressedButton) {
-  VellMessageSheet sheet(3, &window_, true);
-  ASSERT_NE(sheet.button(QMessageBox::Apply), nullptr);
-  ASSERT_NE(sheet.button(QMessageBox::Discard), nullptr);
-  whileUp([&] {
-    EXPECT_TRUE(sheet.isVisible());
-    EXPECT_EQ(VellMessageSheet::runningSheets(), QList<VellMessageSheet*>{&sheet});
-    sheet.button(QMessageBox::Apply)->click();
-  });
-  EXPECT_EQ(sheet.exec(), QMessageBox::Apply);
-  EXPECT_FALSE(sheet.isVisible());
-  EXPECT_TRUE(VellMessageSheet::runningSheets().isEmpty());
-
-  // Escape presses the cancelling button.
-  whileUp([&] {
-    QKeyEvent esc(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-    QApplication::sendEvent(&sheet, &esc);
-  });
-  EXPECT_EQ(sheet.exec(), QMessageBox::Discard);
-}
 
 TEST_F(WidgetsSheets, QuitEndsTheLoopAndASecondExecWhileRunningIsRefused) {
   VellMessageSheet sheet(1, &window_, true);
@@ -146,61 +124,6 @@ TEST_F(WidgetsSheets, DefaultButtonsByTypeUseInstalledWordsAndCanBeReplaced) {
   odd.setInformativeText("More");
   EXPECT_EQ(odd.informativeText(), "More");
 }
-
-TEST_F(WidgetsSheets, WarningBoxIsAWindowOfItsOwnAndReturnsTheButton) {
-  widgets_test::LogCapture log;
-  whileUp([] {
-    ASSERT_EQ(VellMessageSheet::runningSheets().size(), 1);
-    VellMessageSheet* box = VellMessageSheet::runningSheets().first();
-    EXPECT_TRUE(box->isWindow());
-    EXPECT_EQ(box->windowTitle(), "Nimbra Backup");
-    EXPECT_EQ(box->text(), "This application is already opened by another user.");
-    box->button(QMessageBox::Ok)->click();
-  });
-  EXPECT_EQ(
-      showWarningMsg("Nimbra Backup", "This application is already opened by another user.", nullptr, 0),
-      QMessageBox::Ok);
-  EXPECT_NE(log.text().find("warning shown: [Nimbra Backup]"), std::string::npos);
-}
-
-// The card is white whatever the caller names the sheet (callers rename it
-// so tests can find it): the look must not hang on the object name.
-class WidgetsSheetCard : public WidgetsSheets, public ::testing::WithParamInterface<const char*> {};
-
-TEST_P(WidgetsSheetCard, DrawsItsWhiteCardOverTheWindow) {
-  QPalette dark = window_.palette();
-  dark.setColor(QPalette::Window, QColor(60, 60, 60));
-  window_.setPalette(dark);
-  window_.setAutoFillBackground(true);
-  VellMessageSheet sheet(VellMessageSheet::Question, &window_, true);
-  if (*GetParam()) sheet.setObjectName(QString::fromLatin1(GetParam()));
-  sheet.setFixedHeight(158);
-  sheet.setText("You're all set for backup. Do you want to back up this device right now?");
-  QImage shot;
-  QRect card;
-  int buttonTop = 0;
-  whileUp([&] {
-    card = sheet.geometry();
-    buttonTop = sheet.button(QMessageBox::Apply)->geometry().top();
-    shot = window_.grab().toImage();
-    sheet.quit();
-  });
-  sheet.exec();
-  ASSERT_FALSE(shot.isNull());
-  // Inside the card, left of the picture and below the buttons: the card's own background.
-  for (const QPoint p :
-       {QPoint(card.left() + 10, card.center().y()), QPoint(card.center().x(), card.bottom() - 6),
-        QPoint(card.right() - 10, card.top() + 10)})
-    EXPECT_EQ(QColor(shot.pixel(p)).name().toStdString(), "#ffffff") << "at " << p.x() << "," << p.y();
-  EXPECT_GT(buttonTop, card.height() / 2) << "the buttons are laid out along the card's bottom";
-  // Outside it, the window as it was.
-  EXPECT_EQ(QColor(shot.pixel(2, 2)).name().toStdString(), "#3c3c3c");
-}
-
-INSTANTIATE_TEST_SUITE_P(Names, WidgetsSheetCard, ::testing::Values("", "BackupNowSheet"),
-                         [](const ::testing::TestParamInfo<const char*>& param) {
-                           return std::string(*param.param ? param.param : "Default");
-                         });
 
 using WidgetsMasks = WidgetsSheets;
 

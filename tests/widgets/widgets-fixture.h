@@ -46,10 +46,6 @@ inline const QStringList& agentStyleNames() {
   static const QStringList names = namesIn("style-names.txt");
   return names;
 }
-inline const QStringList& agentPictureNames() {
-  static const QStringList names = namesIn("picture-names.txt");
-  return names;
-}
 
 using nimbra_test::LogCapture;
 

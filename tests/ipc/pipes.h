@@ -1,5 +1,5 @@
 #pragma once
-// Test helpers of the transport tests: a log capture and private pipe names.
+// Pipe names private to this test process (the log capture is tests/support's).
 
 #include <gtest/gtest.h>
 
@@ -14,8 +14,6 @@
 namespace ipc_test {
 
 inline const std::string kPrefix = "nimbra-ipc-test-" + std::to_string(vlog::current_pid()) + "-";
-
-using nimbra_test::LogCapture;
 
 // A pipe name private to this test process and the given tag.
 inline std::string unique_pipe(const std::string& tag) {
