@@ -187,31 +187,5 @@ TEST_F(StatusNotifierPanel, IconAppearsWhenAnXEmbedTrayStartsLate) {
   EXPECT_TRUE(waitUntil([&] { return !popup().isEmpty(); }, 30000)) << "a click on the icon shows no pop-up";
 }
 
-// The panel's icon clicked as a person clicks it.
-TEST_F(StatusNotifierPanel, OnLxqtPanelAClickOpensThePopupAboveTheIconAndTheMenuWorks) {
-  ASSERT_TRUE(startPanel());
-  ASSERT_TRUE(startLinked("idle"));
-  // The green picture in the panel along the bottom (768 to 799).
-  const QRect panel(0, 768, 1280, 32);
-  QPoint icon;
-  ASSERT_TRUE(
-      waitUntil([&] { return !(icon = findColour(QColor(0x00, 0xA2, 0x82), panel, 60)).isNull(); }, 30000))
-      << "no green icon in the panel";
-  clickAt(icon);
-  ASSERT_TRUE(waitUntil([&] { return !popup().isEmpty(); }, 30000)) << "a click on the icon shows no pop-up";
-  const QRect pop = windowRect(popup());
-  EXPECT_TRUE(pop.bottom() < panel.top() && pop.bottom() > panel.top() - 40) << pop.bottom();
-  EXPECT_TRUE(pop.left() <= icon.x() && icon.x() <= pop.right()) << pop.x() << " icon " << icon.x();
-  shot("popup-on-lxqt-panel");
-  ASSERT_TRUE(closePopup());
-  // The right-click menu, drawn by the panel: Open, Back up now, Activity.
-  // One pixel off the last click: --sync waits for the pointer to move.
-  clickAt(icon + QPoint(1, 0), 3);
-  ASSERT_TRUE(waitUntil([&] { return screenPixels(QColor(0xFF, 0xFF, 0xFF), 0) > 5000; }, 30000))
-      << "no menu";
-  keys({"Down", "Down", "Down", "Return"});
-  EXPECT_FALSE(waitForAgentWindow(30000, "^Activity$").isEmpty()) << "the menu's Activity opens nothing";
-}
-
 }  // namespace
 }  // namespace desktop_test

@@ -16,7 +16,6 @@
 //   log TEXT; log-count N TEXT; log-more N TEXT; log-same TEXT (as at the mark)
 //   page TEXT              the pop-up's page (as the agent logs it) starts with TEXT
 //   pixels >|< N RRGGBB [TOLERANCE]  screen pixels of that colour
-//   shown N                dunst shows N notifications
 //   status-file TEXT       the first line of the working space's service-status
 //   a11y-node ROLE | NAME  a showing node of the accessibility tree (NAME *: any, ?: not empty)
 //   a11y-value ROLE | CAPTION  a value read whole, with its caption as description
@@ -160,7 +159,6 @@ class AgentStory : public AgentDesktop, public ::testing::WithParamInterface<Sto
       };
       return [=] { return !a11y_->waitFor(match, 0).role.isEmpty(); };
     }
-    if (verb == "shown") return [=] { return desktop_->displayed() >= n; };
     if (verb == "status-file")
       return [=] {
         QFile f(env_.value("NIMBRA_WORKING_SPACE") + "/service-status");
@@ -202,7 +200,6 @@ class AgentStory : public AgentDesktop, public ::testing::WithParamInterface<Sto
     if (verb == "linked") return startLinked(w[1], w.mid(2));
     if (verb == "launch") return ok(launchAgain(w.mid(1)) == 0);
     if (verb == "keys") return keys(w.mid(1)), ok(true);
-    if (verb == "shot") return shot(w[1]), ok(true);
     if (verb == "mark") {
       markActions_ = actions();
       markLog_ = agentLog();
