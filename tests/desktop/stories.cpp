@@ -230,7 +230,9 @@ class AgentStory : public AgentDesktop, public ::testing::WithParamInterface<Sto
       };
     if (verb == "popup-override")  // a pop-up (yes) or a window of its own (no)
       return [=] {
-        return run("xwininfo", {"-id", popup()}).contains("Override Redirect State: yes") == (w[1] == "yes");
+        const QString pop = popup();
+        return !pop.isEmpty() &&
+               run("xwininfo", {"-id", pop}).contains("Override Redirect State: yes") == (w[1] == "yes");
       };
     if (verb.startsWith("a11y-")) {  // what a screen reader reads: "ROLE | NAME" (* any) or "ROLE | CAPTION"
       const QStringList rn = w.mid(1).join(' ').split(" | ");
