@@ -16,11 +16,14 @@
 //   log TEXT; log-count N TEXT; log-more N TEXT; log-same TEXT (as at the mark)
 //   page TEXT              the pop-up's page (as the agent logs it) starts with TEXT
 //   pixels >|< N RRGGBB [TOLERANCE]  screen pixels of that colour
-//   shown N                dunst shows N notifications
 //   status-file TEXT       the first line of the working space's service-status
 //   a11y-node ROLE | NAME  a showing node of the accessibility tree (NAME *: any, ?: not empty)
 //   a11y-value ROLE | CAPTION  a value read whole, with its caption as description
 //   a11y-windows           every window is a frame or a dialog;  a11y-press NAME: pressed
+//   no-icon                no icon in tint2's tray
+//   item, item-property NAME TEXT, item-tooltip TEXT, item-picture NAME  the agent's StatusNotifierItem
+//   popup-at X Y           the pop-up centred on X, its bottom within 10 px above Y
+//   popup-override yes|no  the pop-up is an override-redirect pop-up / a window of its own
 // Actions: start SCENARIO (sim, agent, window), sim SCENARIO, sim-again SCENARIO (its state kept), kill-sim,
 // agent [ARGS], linked SCENARIO [ARGS], launch [ARGS] (a second launch ending 0), keys KEY..., press KEY
 // EXPECTATION (again every 5 s until it holds), not-within MS EXPECTATION, window [REGEX] (waited for and
@@ -28,11 +31,16 @@
 // the dialog), menu (the icon's right-click menu), activity (the list up, Escape closes it), exits CODE (with
 // no thread left running), notifications N TITLE | TITLE (each with the agent's button; then closed),
 // popup-above-icon, popup-framed, clean-pages, log-order A | B, mark, after-ms MS (since the mark),
-// failed-before MIN MAX TEXT, polls-follow.
+// failed-before MIN MAX TEXT, polls-follow, panel (lxqt-panel, a StatusNotifierItem host), stop-panel, tint2
+// (started late), item-click X Y (Activate), item-menu LABEL (the entry of the item's menu clicked).
 //
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QRegularExpression>
+#include <QStandardPaths>
 
 #include <algorithm>
 
@@ -110,6 +118,71 @@ class AgentStory : public AgentDesktop, public ::testing::WithParamInterface<Sto
   }
   int pixels(const QStringList& w) { return screenPixels(QColor("#" + w[2]), w.value(3, "6").toInt()); }
 
+  // lxqt-panel with its statusnotifier plugin, once it owns the watcher's name.
+  ::testing::AssertionResult startPanel() {
+    if (QStandardPaths::findExecutable("lxqt-panel").isEmpty() ||
+        QStandardPaths::findExecutable("busctl").isEmpty())
+      return ::testing::AssertionFailure() << "scripts/setup installs lxqt-panel and busctl";
+    if (!QDir().mkpath(env_.value("XDG_CONFIG_HOME") + "/lxqt") ||
+        !nimbra_test::write_text(
+            env_.value("XDG_CONFIG_HOME") + "/lxqt/panel.conf",
+            "[General]\n__userfile__=true\npanels=panel1\n\n[panel1]\nalignment=-1\n"
+            "panelSize=32\niconSize=22\nplugins=statusnotifier\nposition=Bottom\nwidth=100\n"
+            "width-percent=true\n\n[statusnotifier]\ntype=statusnotifier\n"))
+      return ::testing::AssertionFailure() << "cannot write lxqt's panel.conf";
+    panel_ = std::make_unique<nimbra_test::ChildProcess>();
+    panel_->setProcessEnvironment(env_);
+    panel_->setStandardOutputFile(scratch() + "/panel.log", QIODevice::Append);
+    panel_->setStandardErrorFile(scratch() + "/panel.log", QIODevice::Append);
+    panel_->start("lxqt-panel", QStringList());
+    return ::testing::AssertionResult(waitUntil(
+               [&] {
+                 return run("busctl", {"--user", "list"}).contains("org.kde.StatusNotifierWatcher");
+               },
+               30000))
+           << "lxqt-panel's watcher did not come up";
+  }
+  // The "data" of a busctl call in JSON (its options ended before the
+  // arguments, which may be negative numbers).
+  QJsonValue busctl(QStringList args) const {
+    args.insert(1, "--");
+    return QJsonDocument::fromJson(run("busctl", QStringList{"--user", "--json=short"} + args).toUtf8())
+        .object()
+        .value("data");
+  }
+  // The agent's item as the watcher lists it ("service/path" or just the
+  // service): its service, empty until it registered, and its path.
+  QString item(QString* path = nullptr) const {
+    const QString listed = busctl({"get-property", "org.kde.StatusNotifierWatcher", "/StatusNotifierWatcher",
+                                   "org.kde.StatusNotifierWatcher", "RegisteredStatusNotifierItems"})
+                               .toArray()
+                               .first()
+                               .toString();
+    if (path) *path = listed.contains('/') ? listed.mid(listed.indexOf('/')) : "/StatusNotifierItem";
+    return listed.section('/', 0, 0);
+  }
+  QJsonValue itemCall(const QString& verb, const QStringList& args) const {
+    QString path;
+    const QString service = item(&path);
+    return busctl(QStringList{verb, service, path, "org.kde.StatusNotifierItem"} + args);
+  }
+  // The largest of the item's pictures, as a panel would draw it.
+  TrayPicture itemPicture() const {
+    QImage best;
+    for (const QJsonValue& p : itemCall("get-property", {"IconPixmap"}).toArray()) {
+      const QJsonArray a = p.toArray();
+      const int w = a.at(0).toInt(), h = a.at(1).toInt();
+      const QJsonArray bytes = a.at(2).toArray();
+      if (w <= best.width() || w <= 0 || h <= 0 || bytes.size() != w * h * 4) continue;
+      best = QImage(w, h, QImage::Format_ARGB32);
+      for (int i = 0; i < w * h; ++i)
+        best.setPixel(i % w, i / w,
+                      qRgba(bytes[i * 4 + 1].toInt(), bytes[i * 4 + 2].toInt(), bytes[i * 4 + 3].toInt(),
+                            bytes[i * 4].toInt()));
+    }
+    return classifyTrayPicture(best);
+  }
+
   // An expectation: a condition the step waits for; null for an action.
   std::function<bool()> expectation(const QStringList& w) {
     const QString& verb = w[0];
@@ -142,6 +215,25 @@ class AgentStory : public AgentDesktop, public ::testing::WithParamInterface<Sto
         const QString v = firstRequest(w[1]).value(w[2]).toString();
         return w[3] == "?" ? !v.isEmpty() : v == w[3];
       };
+    if (verb == "no-icon") return [=] { return trayIcon().isEmpty(); };
+    if (verb == "item") return [=] { return !item().isEmpty(); };
+    if (verb == "item-property")
+      return [=] { return itemCall("get-property", {w[1]}).toString() == w.mid(2).join(' '); };
+    if (verb == "item-tooltip")
+      return [=] { return itemCall("get-property", {"ToolTip"}).toArray().at(3).toString().contains(w[1]); };
+    if (verb == "item-picture") return [=] { return itemPicture() == pictureNamed(w[1]); };
+    if (verb == "popup-at")  // centred on the click's x, its bottom just above the click
+      return [=] {
+        const QRect pop = windowRect(popup());
+        return !pop.isEmpty() && std::abs(pop.center().x() - w[1].toInt()) <= 2 &&
+               pop.bottom() < w[2].toInt() && pop.bottom() >= w[2].toInt() - 10;
+      };
+    if (verb == "popup-override")  // a pop-up (yes) or a window of its own (no)
+      return [=] {
+        const QString pop = popup();
+        return !pop.isEmpty() &&
+               run("xwininfo", {"-id", pop}).contains("Override Redirect State: yes") == (w[1] == "yes");
+      };
     if (verb.startsWith("a11y-")) {  // what a screen reader reads: "ROLE | NAME" (* any) or "ROLE | CAPTION"
       const QStringList rn = w.mid(1).join(' ').split(" | ");
       if (verb == "a11y-press") return [=] { return a11y_->press(rn[0]); };
@@ -160,7 +252,6 @@ class AgentStory : public AgentDesktop, public ::testing::WithParamInterface<Sto
       };
       return [=] { return !a11y_->waitFor(match, 0).role.isEmpty(); };
     }
-    if (verb == "shown") return [=] { return desktop_->displayed() >= n; };
     if (verb == "status-file")
       return [=] {
         QFile f(env_.value("NIMBRA_WORKING_SPACE") + "/service-status");
@@ -202,7 +293,6 @@ class AgentStory : public AgentDesktop, public ::testing::WithParamInterface<Sto
     if (verb == "linked") return startLinked(w[1], w.mid(2));
     if (verb == "launch") return ok(launchAgain(w.mid(1)) == 0);
     if (verb == "keys") return keys(w.mid(1)), ok(true);
-    if (verb == "shot") return shot(w[1]), ok(true);
     if (verb == "mark") {
       markActions_ = actions();
       markLog_ = agentLog();
@@ -217,6 +307,30 @@ class AgentStory : public AgentDesktop, public ::testing::WithParamInterface<Sto
     if (verb == "dialog-window") {
       const QStringList d = dialogs();
       return d.isEmpty() ? ok(false) : activate(d.first());
+    }
+    if (verb == "panel") return startPanel();
+    if (verb == "stop-panel") return nimbra_test::stop_process(panel_), ok(true);
+    if (verb == "tint2") {
+      const QString why = desktop_->startTray();
+      return ok(why.isEmpty()) << why.toStdString();
+    }
+    if (verb == "item-click") return itemCall("call", {"Activate", "ii", w[1], w[2]}), ok(true);
+    if (verb == "item-menu") {  // the entry of the item's dbusmenu with that label, clicked
+      for (const QJsonValue& child :
+           busctl({"call", item(), "/MenuBar", "com.canonical.dbusmenu", "GetLayout", "iias", "0", "-1", "0"})
+               .toArray()
+               .at(1)
+               .toArray()
+               .at(2)
+               .toArray()) {
+        const QJsonArray entry = child.toObject().value("data").toArray();
+        if (entry.at(1).toObject().value("label").toObject().value("data").toString() != w.mid(1).join(' '))
+          continue;
+        busctl({"call", item(), "/MenuBar", "com.canonical.dbusmenu", "Event", "isvu",
+                QString::number(entry.at(0).toInt()), "clicked", "s", "", "0"});
+        return ok(true);
+      }
+      return ::testing::AssertionFailure() << "no such entry in the item's menu";
     }
     if (verb == "click-icon") return clickTrayIcon(w.value(1, "1").toInt()), ok(true);
     if (verb == "click-away") return clickAt({300, 300}), ok(true);
@@ -318,11 +432,13 @@ class AgentStory : public AgentDesktop, public ::testing::WithParamInterface<Sto
   }
 
   void TearDown() override {
+    nimbra_test::stop_process(panel_, true);
     AgentDesktop::TearDown();
     a11y_.reset();
   }
 
   std::unique_ptr<AtspiTree> a11y_;
+  std::unique_ptr<QProcess> panel_;
   QStringList markActions_;
   QString markLog_;
   QElapsedTimer markClock_;

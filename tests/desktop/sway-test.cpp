@@ -1,6 +1,6 @@
 // The agent on Wayland: sway (headless) with waybar as its StatusNotifierItem
 // host. The tray pop-up opens as a layer surface where the agent placed it,
-// never as a tile; the first run works from the keyboard, and a screen
+// never as a tile; the wizard floats and takes keys, and a screen
 // reader started after the agent finds it. There is no pointer: the icon is
 // clicked through its D-Bus Activate, keys come from wtype.
 //
@@ -238,18 +238,9 @@ TEST_F(Sway, FirstRunByKeyboardInAFloatingWizard) {
   AtspiTree a11y(env_, source("/tests/desktop/atspi-driver.py"), agent_->processId());
   ASSERT_TRUE(a11y.startBus(runtime_->path() + "/at-spi.err"));
   EXPECT_EQ(a11y.waitFor([](const A11yNode& n) { return n.depth == 1; }, 30000).role, "frame");
-
+  // Keys reach it (the rest of the first run is the FirstRun story's).
   ASSERT_TRUE(pressUntil(
       "Return", [&] { return countOf("get_auth") > 0; }, 30000));
-  ASSERT_TRUE(waitForAction("get_site_info", 30000)) << "the browser's return never reached the agent";
-  grim("summary");
-  // Done has the focus; then OK on the back-up-now question.
-  ASSERT_TRUE(pressUntil(
-      "Return", [&] { return countOf("create_device") > 0; }, 30000));
-  ASSERT_TRUE(pressUntil(
-      "Return", [&] { return countOf("backup_now") > 0; }, 30000));
-  grim("after-backup-now");
-  EXPECT_FALSE(agentStderr().contains("requestActivate")) << agentStderr().toStdString();
 }
 
 }  // namespace

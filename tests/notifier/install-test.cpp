@@ -96,11 +96,8 @@ TEST_F(InstallTree, DesktopFilesAreValidAndStartTheInstalledAgent) {
   EXPECT_EQ(v.code, 0) << v.out.toStdString() << v.err.toStdString();
   EXPECT_EQ(v.out + v.err, "");
 
-  const QString entry = read_text(app);
-  EXPECT_THAT(entry.toStdString(),
-              HasSubstr(("\nExec=" + prefix_ + "/bin/nimbra-backup-agent %u\n").toStdString()));
-  EXPECT_THAT(entry.toStdString(), HasSubstr("\nMimeType=x-scheme-handler/nimbrabackup;\n"));
-  EXPECT_THAT(entry.toStdString(), HasSubstr("\nIcon=nimbra-backup-agent\n"));
+  // (Its Exec and MimeType lines are what xdg-open follows in the next case.)
+  EXPECT_THAT(read_text(app).toStdString(), HasSubstr("\nIcon=nimbra-backup-agent\n"));
   const QString login = read_text(autostart);
   EXPECT_THAT(login.toStdString(),
               HasSubstr(("\nExec=" + prefix_ + "/bin/nimbra-backup-agent\n").toStdString()));

@@ -254,7 +254,6 @@ INSTANTIATE_TEST_SUITE_P(
                 "none",
                 2,
                 "nimbra-backup-notifier: "},
-        Unshown{"NoElements", {"1", "/s", "0"}, "none", 0, ""},
         Unshown{"NoWords", notifierArgs({note("", "", "Open Nimbra Backup", 13)}), "none", 0, ""}),
     [](const auto& p) { return std::string(p.param.name); });
 

@@ -57,11 +57,9 @@ TEST(DebianPackage, AgentAndSimulatorApartLaidOutAsDebianWantsWithoutLintianErro
   EXPECT_TRUE(lint.code == 0 && errors.isEmpty()) << lint.code << "\n"
                                                   << lint.out.toStdString() << lint.err.toStdString();
 
+  // What the install holds is install-test's; here where the package puts it.
   const QStringList paths = paths_in(deb);
-  for (const QString& f : expected_app_files(build)) {
-    if (f.contains("service-sim")) continue;
-    EXPECT_TRUE(paths.contains(kAppDir + f)) << f.toStdString();
-  }
+  EXPECT_TRUE(paths.contains(QString(kAppDir) + "bin/nimbra-backup-notifier"));
   for (const QString& f : expected_desktop_files()) {
     const QString system = f.startsWith("etc/") ? "/" + f : "/usr/" + f;
     EXPECT_TRUE(paths.contains(system)) << system.toStdString();
@@ -88,14 +86,11 @@ TEST(DebianPackage, AgentAndSimulatorApartLaidOutAsDebianWantsWithoutLintianErro
   const Ran conffiles = run_program("dpkg-deb", {"--info", deb, "conffiles"});
   EXPECT_EQ(conffiles.out.trimmed(), "/etc/xdg/autostart/nimbra-backup-agent.desktop");
 
-  // The desktop file names the program where the package puts it.
+  // The desktop file names the program where the package puts it (its
+  // validity is install-test's).
   const QString root = out + "/root";
   ASSERT_EQ(run_program("dpkg-deb", {"--extract", deb, root}).code, 0);
-  const QString entry = root + "/usr/share/applications/nimbra-backup-agent.desktop";
-  const Ran v =
-      run_program("desktop-file-validate", {entry, root + "/etc/xdg/autostart/nimbra-backup-agent.desktop"});
-  EXPECT_EQ(v.code, 0) << v.out.toStdString();
-  QFile f(entry);
+  QFile f(root + "/usr/share/applications/nimbra-backup-agent.desktop");
   ASSERT_TRUE(f.open(QIODevice::ReadOnly));
   EXPECT_THAT(f.readAll().toStdString(),
               HasSubstr("\nExec=/usr/lib/nimbra-backup/bin/nimbra-backup-agent %u\n"));

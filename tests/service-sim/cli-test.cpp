@@ -77,16 +77,6 @@ class SimCliTest : public ::testing::Test {
   nimbra_test::ScopedEnv ns_{"NIMBRA_PIPE_NAMESPACE", simtest::unique_namespace("cli").c_str()};
 };
 
-TEST_F(SimCliTest, HelpExplainsEveryCommand) {
-  const ProcessResult r = run({"--help"});
-  EXPECT_EQ(r.code, 0);
-  for (const char* part : {"serve [--scenario FILE] [--state DIR] [--record FILE]", "send --pipe NAME JSON",
-                           "notify --type N [--data JSON]", "NIMBRA_PIPE_NAMESPACE", "NIMBRA_WORKING_SPACE",
-                           "SIGTERM", "access_token"})
-    EXPECT_THAT(r.out, ::testing::HasSubstr(part));
-  EXPECT_EQ(run({"serve", "--help"}).code, 0);
-}
-
 TEST_F(SimCliTest, SendDoesOneExchangeAndPrintsTheAnswer) {
   AgentEnd agent;
   const std::string message = "{\"action\":\"notifications\",\"x\":[1,2]}";

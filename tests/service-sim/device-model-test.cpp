@@ -7,7 +7,6 @@
 #include <set>
 
 #include "service-sim/device-model.h"
-#include "service-sim/hostile-answer.h"
 #include "tests/service-sim/sim-test-util.h"
 #include "tests/support/temp-dir.h"
 
@@ -223,17 +222,6 @@ TEST_F(SimModelTest, UnreadableStateFileIsSetAsideNotLost) {
   EXPECT_TRUE(nimbra_test::file_exists(state + "/sim-state.json"));
 }
 
-TEST_F(SimModelTest, ScenarioErrorsApplyTheGivenNumberOfTimes) {
-  sim::Scenario s = quick_scenario(false);
-  s.errors["get_auth"] = sim::ErrorRule{17, "https://console.example/key", 1};  // code, base_url, times
-  auto m = make(s);
-  m->set_signin_url("http://127.0.0.1:9/signin");
-  const Json::Value first = m->handle(request("get_auth"));
-  EXPECT_EQ(num(first, "error/code"), 17);
-  EXPECT_EQ(str(first, "error/base_url"), "https://console.example/key");
-  EXPECT_EQ(str(m->handle(request("get_auth")), "redirect_to"), "http://127.0.0.1:9/signin");
-}
-
 TEST_F(SimModelTest, UpgradeWritesServiceStatus) {
   for (bool fails : {false, true}) {
     nimbra_test::TempDir ws;
@@ -277,44 +265,6 @@ TEST_F(SimModelTest, DatedScheduleAndAutomaticBackupStartOnTime) {
   run_for(*m, 20000);
   EXPECT_FALSE(m->backup_running());
   EXPECT_EQ(m->take_notifications().size(), 1u);
-}
-
-// Columns: connected, the status error's code (0: none), status, schedule type.
-using IdleCase = std::tuple<bool, int, int, int>;
-class SimIdleStatusTest : public SimModelTest, public ::testing::WithParamInterface<IdleCase> {};
-
-TEST_P(SimIdleStatusTest, StatusAndContentMembers) {
-  const auto& [connected, error_code, status, schedule_type] = GetParam();
-  sim::Scenario s = quick_scenario(true);
-  s.connected = connected;
-  if (error_code != 0) s.status_error["code"] = error_code;
-  s.schedule = Json::Value(Json::objectValue);  // replaces the default schedule
-  s.schedule["schedule_type"] = schedule_type;
-  const Json::Value v = get_status(*make(s));
-  const Json::Value& c = at(v, "content");
-  EXPECT_EQ(num(v, "status"), status);
-  EXPECT_EQ(jsonx::get_bool(c, "connected"), connected);
-  EXPECT_EQ(num(c, "error/code"), error_code);
-  EXPECT_EQ(jsonx::has(c, "error"), error_code != 0);
-  EXPECT_EQ(num(c, "schedule_type"), schedule_type);
-  EXPECT_FALSE(jsonx::has(c, "next_backup_time"));
-  EXPECT_TRUE(jsonx::has(at(c, "billing"), "used_bytes"));
-}
-
-INSTANTIATE_TEST_SUITE_P(States, SimIdleStatusTest,
-                         ::testing::Values(IdleCase{true, 0, 0x2001, 4}, IdleCase{false, 0, 0x2002, 3},
-                                           IdleCase{true, 5, 0xF001, 1}));
-
-TEST(SimHostileAnswers, EveryScalarChangesType) {
-  const Json::Value in = parse(
-      R"({"status":8193,"content":{"connected":true,"logs":[{"id":3,"body":{"volume_name":"C:"}}],"e":""}})");
-  const Json::Value out = sim::make_hostile(in);
-  EXPECT_TRUE(out["status"].isString());
-  EXPECT_EQ(jsonx::get_int64(out, "status"), 0);  // the agent reads the default
-  EXPECT_TRUE(out["content"]["connected"].isString());
-  EXPECT_TRUE(out["content"]["logs"][0]["id"].isString());
-  EXPECT_TRUE(out["content"]["logs"][0]["body"]["volume_name"].isArray());
-  EXPECT_TRUE(out["content"]["e"].isInt());
 }
 
 }  // namespace

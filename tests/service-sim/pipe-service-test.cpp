@@ -5,7 +5,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <sstream>
 #include <thread>
 
 #include "ipc/win-ipc.h"
@@ -78,27 +77,6 @@ TEST_F(SimPipeTest, OversizedAndSilentClientsAreDroppedAndServingGoesOn) {
   const sim::Exchange next = send(R"({"action":"get_status"})", 8000);
   ASSERT_TRUE(next.ok) << next.error;
   EXPECT_EQ(num(parse(next.answer), "status"), sim::status::kIdle);
-}
-
-TEST_F(SimPipeTest, RecordFileHasOneTimedLinePerRequest) {
-  start();
-  send("{\"action\":\"get_status\",\"log_id\":7}");
-  send("garbage!");
-  send("{\"action\":\"get_bandwidth_control\"}");
-  std::vector<Json::Value> lines;
-  std::istringstream in(nimbra_test::read_file(dir_.file("record.jsonl")));
-  for (std::string line; std::getline(in, line);) lines.push_back(parse(line));
-  ASSERT_EQ(lines.size(), 3u);
-  EXPECT_EQ(str(lines[0], "request/action"), "get_status");
-  EXPECT_EQ(num(lines[0], "request/log_id"), 7);
-  EXPECT_EQ(str(lines[1], "raw"), "garbage!");
-  EXPECT_FALSE(jsonx::has(lines[1], "request"));
-  EXPECT_EQ(str(lines[2], "request/action"), "get_bandwidth_control");
-  for (const auto& l : lines) {
-    EXPECT_GT(num(l, "time_ms"), 1600000000000);
-    EXPECT_THAT(str(l, "time"), ::testing::EndsWith("Z"));
-  }
-  EXPECT_LE(num(lines[0], "time_ms"), num(lines[2], "time_ms"));
 }
 
 TEST_F(SimPipeTest, FaultsRefuseDropGarbleAndRetypeOnSchedule) {

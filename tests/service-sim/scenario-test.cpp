@@ -78,17 +78,6 @@ TEST_P(SimEveryScenarioTest, LoadsAndPlaysABackupToAResult) {
   if (!site_path.empty() && !pushed.empty()) {
     EXPECT_EQ(str(pushed[0], "site_path"), site_path);
   }
-  if (GetParam() != "first-run.json") return;
-  // The first run: several sites with built-in region codes and one that is
-  // not, a successful backup within thirty seconds that used space.
-  std::set<std::string> codes;
-  for (const auto& site : scenario.sites) codes.insert(str(site, "billing/region/code"));
-  EXPECT_TRUE(codes.count("US") && codes.count("EU") && codes.count("TW"));
-  EXPECT_GT(codes.size(), 3u);
-  EXPECT_LT(ticks, 300);
-  EXPECT_EQ(code, 2);
-  EXPECT_GT(num(status, "content/billing/used_bytes"), 0);
-  EXPECT_FALSE(pushed.empty());
 }
 
 INSTANTIATE_TEST_SUITE_P(Shipped, SimEveryScenarioTest, ::testing::ValuesIn(shipped_files()),
@@ -123,7 +112,6 @@ INSTANTIATE_TEST_SUITE_P(
         {R"({"name": )", "not valid JSON"},
         {"[]", "top level must be an object"},
         {R"({"sceanrio": 1})", "'sceanrio' is not a known member"},
-        {R"({"backup": {"rate": 5}})", "'backup.rate' is not a known member"},
         {R"({"device": {"linked": "yes"}})", "'device.linked' must be true or false"},
         {R"({"backup": {"total_bytes": "2GB"}})", "'backup.total_bytes' must be a whole number"},
         {R"({"faults": {"drop_every": 2.5}})", "'faults.drop_every' must be a whole number"},
@@ -135,7 +123,6 @@ INSTANTIATE_TEST_SUITE_P(
         {R"({"errors": {"get_token": {"times": 1}}})", "'errors.get_token.code' is missing"},
         {R"({"errors": {"reboot": {"code": 4}}})", "'errors.reboot' is not a known"},
         {R"({"backup": {"volumes": [1]}})", "'backup.volumes' must hold strings"},
-        {R"({"upgrade": {"outcome": "maybe"}})", "'upgrade.outcome' must be success or error"},
         {R"({"initial_logs": [{"body": {}}]})", "'initial_logs[0].type' is missing"}}));
 
 TEST(SimScenarios, MembersOverrideTheDefaults) {

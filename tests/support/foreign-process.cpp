@@ -9,10 +9,10 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <chrono>
 #include <cstring>
 #include <fstream>
-#include <thread>
+
+#include "tests/support/wait.h"
 
 namespace hostile {
 
@@ -57,18 +57,12 @@ void ForeignProcess::tell(char c) {
 }
 
 int ForeignProcess::wait(int timeout_ms) {
-  if (pid_ <= 0) return -1;
-  const auto until = std::chrono::steady_clock::now() + std::chrono::milliseconds(timeout_ms);
-  for (;;) {
-    int status = 0;
-    const pid_t r = ::waitpid(pid_, &status, WNOHANG);
-    if (r == pid_) {
-      pid_ = -1;
-      return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    }
-    if (std::chrono::steady_clock::now() > until) return -1;
-    std::this_thread::sleep_for(std::chrono::milliseconds(10));
-  }
+  int status = 0;
+  if (pid_ <= 0 ||
+      !nimbra_test::wait_until([&] { return ::waitpid(pid_, &status, WNOHANG) == pid_; }, timeout_ms, 10))
+    return -1;
+  pid_ = -1;
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
 std::unique_ptr<ForeignProcess> holdName(uid_t uid, const std::string& name, bool is_path) {
