@@ -48,9 +48,8 @@ class StatusWorkerTest : public ::testing::Test {
 
   // Waits for status notice number `index` and returns its arguments.
   QList<QVariant> notice(int index) {
-    while (notices_.size() <= index && notices_.wait(10000)) {
-    }
-    EXPECT_GT(notices_.size(), index);
+    // A condition, not QSignalSpy::wait: the notices come from the worker's thread.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return notices_.size() > index; }, 10000)) << "notice " << index;
     return notices_.size() > index ? notices_.at(index) : QList<QVariant>{{}, {}, {}};
   }
 
