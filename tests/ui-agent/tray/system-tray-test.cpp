@@ -122,6 +122,8 @@ TEST_F(TrayIcon, StateFromSlotAndMenuPicksThePictureAndLeavingConnectedClears) {
 }
 
 TEST_F(TrayIcon, RightMenuExistsExactlyInModeOne) {
+  QSignalSpy exit(&GlobalConnecter::instance(), &GlobalConnecter::sigExitApplication);
+  QSignalSpy sent(&GlobalConnecter::instance(), &GlobalConnecter::sigQueryService);
   tray_->setConnectionMode(ConnectionMode::Connected);
   QMenu* menu = tray_->rightMenu();
   ASSERT_NE(menu, nullptr);
@@ -137,18 +139,23 @@ TEST_F(TrayIcon, RightMenuExistsExactlyInModeOne) {
   auto* reason = menu->findChild<QAction*>("BackupNowReason");
   ASSERT_TRUE(backup && reason);
 
-  // The model's verdict reaches the menu and the tool tip (what the entries send is the
-  // desktop story Session.SecondLaunch's).
+  // The model's verdict reaches the menu and the tool tip; a disabled entry sends nothing.
   tray_->updateServiceStatus(StatusBackupRunning, agent_test::parse(R"({"connected":true})"));
   EXPECT_FALSE(backup->isEnabled());
   EXPECT_TRUE(reason->isVisible());
   EXPECT_EQ(reason->text(), QStringLiteral("A backup is running"));
   EXPECT_EQ(tray_->toolTip(), QStringLiteral("Nimbra Backup\nBacking up..."));
+  backup->trigger();
   emit GlobalConnecter::instance().sigQueryServiceFailed();
   EXPECT_EQ(reason->text(), QStringLiteral("Service not reachable"));
   tray_->updateServiceStatus(StatusIdle, agent_test::parse(R"({"connected":true})"));
   EXPECT_TRUE(backup->isEnabled());
   EXPECT_FALSE(reason->isVisible());
+  backup->trigger();
+  ASSERT_EQ(sent.count(), 1);
+  EXPECT_EQ(sent.first().at(1).value<Json::Value>()["action"].asString(), "backup_now");
+  menu->findChild<QAction*>("ExitAction")->trigger();
+  EXPECT_EQ(exit.count(), 1);
 
   tray_->setConnectionMode(ConnectionMode::NotConnected);
   EXPECT_EQ(tray_->rightMenu(), nullptr);
