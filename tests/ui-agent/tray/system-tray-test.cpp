@@ -264,4 +264,32 @@ TEST_F(TrayIcon, PressOnTheEdgeKeepsItOpenOnePastCloses) {
   EXPECT_FALSE(popup()->isVisible());
 }
 
+TEST_F(TrayIcon, WithoutANotificationAreaShowsAnOrdinaryWindow) {
+  trayAvailable_ = false;
+  tray_->setConnectionMode(ConnectionMode::Connected);
+  tray_->showMenuAt(QPoint());
+  ASSERT_TRUE(popup()->isVisible());
+  EXPECT_TRUE(popup()->isWindowMode());
+  EXPECT_EQ(popup()->windowTitle(), QStringLiteral("Nimbra Backup"));
+  EXPECT_TRUE(QRect(0, 0, 1280, 760).contains(popup()->frameGeometry().center()));
+  // A small fixed window: title, minimise and close, nothing to maximise.
+  const Qt::WindowFlags flags = popup()->windowFlags();
+  EXPECT_TRUE(flags.testFlag(Qt::CustomizeWindowHint) && flags.testFlag(Qt::WindowCloseButtonHint));
+  EXPECT_FALSE(flags.testFlag(Qt::WindowMaximizeButtonHint) || flags.testFlag(Qt::Popup));
+  QTest::keyClick(popup(), Qt::Key_Escape);
+  EXPECT_FALSE(popup()->isVisible()) << "Escape leaves the window up";
+  tray_->showMenuAt(QPoint());
+  // An ordinary window: a press elsewhere leaves it, a click raises it.
+  emit GlobalConnecter::instance().sigPositionClicked(QPoint(5000, 5000));
+  EXPECT_TRUE(popup()->isVisible());
+  EXPECT_TRUE(activeOpensThePopup());
+  EXPECT_TRUE(popup()->isWindowMode());
+  // A panel that appears later gets the pop-up back.
+  popup()->hide();
+  trayAvailable_ = true;
+  tray_->showMenuAt(QPoint(640, 780));
+  EXPECT_FALSE(popup()->isWindowMode());
+  EXPECT_TRUE(popup()->windowFlags().testFlag(Qt::Popup));
+}
+
 }  // namespace
