@@ -79,6 +79,18 @@ TEST_F(WidgetsTimeCombo, TimeNotInTheListKeepsTheCustomText) {
   EXPECT_EQ(combo_.count(), 24);
 }
 
+TEST_F(WidgetsTimeCombo, DecoratedItemsAreFoundByTheirTime) {
+  combo_.clear();
+  combo_.addItem("23:00");
+  combo_.addItem("00:00 Next day");
+  combo_.addItem("05:00 Next day");
+  EXPECT_TRUE(combo_.setTimeText("05:00 Next day"));
+  EXPECT_EQ(combo_.currentIndex(), 2);
+  EXPECT_TRUE(combo_.setTimeText("00:00"));
+  EXPECT_EQ(combo_.currentText(), "00:00 Next day");
+  EXPECT_EQ(combo_.timeText(), "00:00");
+}
+
 TEST_F(WidgetsTimeCombo, TypedTimeIsCommittedWhenEditingEnds) {
   combo_.setEditable(true);
   combo_.setTimeText("07:00");
