@@ -25,9 +25,9 @@ QString runtime_folder();
 // 0700) when it is missing. Windows: true for any existing folder.
 bool is_private_folder(const QString& path, bool create);
 
-// The local-server name for `base`: on Linux a socket path in runtime_folder()
-// when it fits the 108-byte limit, else `base` (Qt then picks the folder);
-// on Windows `base`, which Qt turns into a pipe name.
+// The local-server name for `base`: on Linux a socket path in runtime_folder(),
+// named after a hash of `base` when the full name would not fit the socket
+// path limit; on Windows `base`, which Qt turns into a pipe name.
 QString local_server_name(const QString& base);
 
 // True when the process at the other end of the connected local socket

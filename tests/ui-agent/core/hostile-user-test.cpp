@@ -412,6 +412,24 @@ TEST_F(Hostile, OnlyAPeerOfTheSameUserCountsAsSameUser) {
   other->tell('q');
 }
 
+// Needs no other user: a missing folder is made private, an opened one or a
+// link is refused, and what is no socket has no peer.
+TEST(UserIdentity, OnlyAPrivateFolderOrASocketPeerCounts) {
+  nimbra_test::TempDir root;
+  const QString folder = QString::fromStdString(root.file("run"));
+  EXPECT_FALSE(user_identity::is_private_folder(folder, false));
+  ASSERT_TRUE(user_identity::is_private_folder(folder, true)) << "a missing folder is made";
+  EXPECT_TRUE(user_identity::is_private_folder(folder, true)) << "and found again";
+  ASSERT_EQ(::symlink(qPrintable(folder), root.file("link").c_str()), 0);
+  EXPECT_FALSE(user_identity::is_private_folder(QString::fromStdString(root.file("link")), true));
+  ASSERT_EQ(::chmod(qPrintable(folder), 0750), 0);
+  EXPECT_FALSE(user_identity::is_private_folder(folder, false));
+  EXPECT_FALSE(user_identity::peer_is_same_user(-1));
+  const int notASocket = ::open("/dev/null", O_RDONLY);
+  EXPECT_FALSE(user_identity::peer_is_same_user(notASocket));
+  ::close(notASocket);
+}
+
 // ---- the machine-wide lock -------------------------------------------------
 
 enum class Holder { BoundWithoutListening, BacklogFull };

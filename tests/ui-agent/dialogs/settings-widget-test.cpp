@@ -128,6 +128,7 @@ TEST_F(SettingsWidgetTest, SaveSendsTheClampedRateAndHides) {
   EXPECT_EQ(rateEdit()->text(), QString()) << "a zero could be typed";
   QTest::keyClicks(rateEdit(), QStringLiteral("123456"));
   EXPECT_EQ(rateEdit()->text(), QStringLiteral("1234"));
+  rateEdit()->clearFocus();  // Save clamps too, not only leaving the edit
   rateEdit()->setText(QStringLiteral("3"));
   QTest::mouseClick(saveButton(), Qt::LeftButton);
   EXPECT_EQ(

@@ -59,6 +59,9 @@ TEST_F(SummaryPageTest, ChoosingAnotherSiteUpdatesEveryRowTheLinkAndTheSite) {
   EXPECT_EQ(label("SummaryPolicy"), page_.findChild<QLabel*>("SummaryPolicy")->toolTip());
   EXPECT_TRUE(label("SummarySchedule").startsWith(QStringLiteral("Weekly")));
   EXPECT_TRUE(label("SummaryScope").contains(QStringLiteral("C:, D:, E:...")));
+  // Screen readers hear each value with its caption.
+  EXPECT_EQ(page_.findChild<QLabel*>("SummarySchedule")->accessibleDescription(), "Backup schedule");
+  EXPECT_EQ(page_.findChild<QLabel*>("SummaryScope")->accessibleDescription(), "Backup scope");
   EXPECT_TRUE(visible("SummaryMoreInfo"));
   EXPECT_TRUE(label("SummaryIntro").contains("href=\"https://eu.example\""));
   EXPECT_EQ(page_.siteCode(), "EU");
