@@ -118,5 +118,5 @@ int main(int argc, char** argv) {
     if (!only.empty() && std::find(only.begin(), only.end(), area.name) == only.end()) continue;
     area.render();
   }
-  return 0;
+  return gallery::layoutFaults() == 0 ? 0 : 1;
 }

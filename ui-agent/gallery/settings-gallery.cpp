@@ -35,7 +35,7 @@ QImage grabSettings(const Json::Value& server, const Json::Value& client, bool f
       edit->setCursorPosition(edit->text().size());
     }
     QApplication::processEvents();
-    QImage img = widget.grab().toImage();
+    QImage img = gallery::grabShown(&widget);
     widget.hide();
     return img;
   }

@@ -152,7 +152,7 @@ QImage grabMenu(TrayMenu& menu) {
   QMenu* m = menu.userMenu();
   m->popup(QPoint(0, 0));
   QApplication::processEvents();
-  QImage img = m->grab().toImage();
+  QImage img = gallery::grabShown(m);
   m->hide();
   return img;
 }
@@ -252,7 +252,7 @@ void renderIconMenu() {
         QStringLiteral("QLabel { background: #FFFFE1; color: black; border: 1px solid #767676; "
                        "padding: 2px 4px; }"));
     tip.adjustSize();
-    const QImage menuImage = m->grab().toImage();
+    const QImage menuImage = gallery::grabShown(m);
     const QImage tipImage = tip.grab().toImage();
     QImage both(std::max(menuImage.width(), tipImage.width()), menuImage.height() + tipImage.height() + 8,
                 QImage::Format_ARGB32_Premultiplied);

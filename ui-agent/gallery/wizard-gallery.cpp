@@ -32,7 +32,7 @@ const QColor kBackdrop("#E9EDF2");
 QImage shot(Wizard& w) {
   // Layout requests climb one parent per pass.
   for (int i = 0; i < 6; ++i) QApplication::processEvents();
-  return w.grab().toImage();
+  return gallery::grabShown(&w);
 }
 
 // Runs `whileUp` from inside the next nested loop, which it must end.

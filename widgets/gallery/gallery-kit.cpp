@@ -1,6 +1,7 @@
 #include "widgets/gallery/gallery-kit.h"
 
 #include <QApplication>
+#include <QLayout>
 #include <QPainter>
 
 #include <cstdio>
@@ -8,6 +9,59 @@
 namespace gallery {
 
 QString g_out;
+
+namespace {
+
+int g_layoutFaults = 0;
+
+bool holds(const QLayout* layout, const QWidget* w) {
+  for (int i = 0; i < layout->count(); ++i) {
+    QLayoutItem* item = layout->itemAt(i);
+    if (item->widget() == w || (item->layout() && holds(item->layout(), w))) return true;
+  }
+  return false;
+}
+
+QString pathOf(const QWidget* w, const QWidget* root) {
+  QStringList names;
+  for (; w && w != root; w = w->parentWidget())
+    names.prepend(w->objectName().isEmpty() ? QString::fromLatin1(w->metaObject()->className())
+                                            : w->objectName());
+  return names.join(QLatin1Char('/'));
+}
+
+void checkLayout(QWidget* w) {
+  for (const QString& path : unplacedWidgets(w)) {
+    std::fprintf(stderr, "layout: %s/%s is shown but not in its parent's layout\n",
+                 w->metaObject()->className(), qPrintable(path));
+    ++g_layoutFaults;
+  }
+}
+
+}  // namespace
+
+QStringList unplacedWidgets(QWidget* root) {
+  QStringList out;
+  for (QWidget* w : root->findChildren<QWidget*>()) {
+    const QWidget* parent = w->parentWidget();
+    if (w->isWindow() || !parent || !parent->layout() || !w->isVisibleTo(root)) continue;
+    // Overlays (a mask, a sheet, a busy frame) float centred over their
+    // parent by design.
+    const QPoint offCentre = w->geometry().center() - parent->rect().center();
+    if (offCentre.manhattanLength() <= 2) continue;
+    if (!holds(parent->layout(), w)) out << pathOf(w, root);
+  }
+  return out;
+}
+
+int layoutFaults() {
+  return g_layoutFaults;
+}
+
+QImage grabShown(QWidget* w) {
+  checkLayout(w);
+  return w->grab().toImage();
+}
 
 QWidget* firstFocusable(QWidget* w) {
   if (w->focusPolicy() & Qt::TabFocus) return w;
@@ -33,7 +87,7 @@ QImage grabWidget(QWidget* w, bool focus, bool hover) {
     target->update();
   }
   QApplication::processEvents();
-  QImage img = w->grab().toImage();
+  QImage img = grabShown(w);
   w->hide();
   return img;
 }

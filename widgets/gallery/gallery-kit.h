@@ -23,6 +23,19 @@ QWidget* firstFocusable(QWidget* w);
 // it as under the mouse.
 QImage grabWidget(QWidget* w, bool focus = false, bool hover = false);
 
+// Grabs `w` as it is on screen now (shown and laid out by the caller), after
+// checking its layout as grabWidget() does.
+QImage grabShown(QWidget* w);
+
+// The shown descendants of `root` whose parent has a layout that does not
+// hold them and that are not centred over the parent as overlays are: a
+// widget left out of its layout sits in the parent's top-left corner over
+// whatever is there. Each is named by its path of object (or
+// class) names from `root`. Every grab checks its widget and reports what
+// this finds on stderr; layoutFaults() counts them, for the exit status.
+QStringList unplacedWidgets(QWidget* root);
+int layoutFaults();
+
 template <typename T>
 T* find(QWidget* w) {
   if (auto* self = qobject_cast<T*>(w)) return self;

@@ -276,7 +276,7 @@ QImage sheetOverWindow(VellMessageSheet::MessageType type, const QString& text, 
   QImage shot;
   // Grab while the sheet is up, from inside its nested loop, then close it.
   QTimer::singleShot(0, [window, s, &shot]() {
-    shot = window->grab().toImage();
+    shot = grabShown(window);
     s->quit(QMessageBox::NoButton);
   });
   s->exec();
@@ -304,7 +304,7 @@ void renderSheets() {
     box.setText(QStringLiteral("An error sheet without a parent window."));
     QImage shot;
     QTimer::singleShot(0, [&box, &shot]() {
-      shot = box.grab().toImage();
+      shot = grabShown(&box);
       box.quit();
     });
     box.exec();
@@ -349,5 +349,5 @@ int main(int argc, char** argv) {
   for (const Area& area : kAreas) {
     if (only.isEmpty() || only.contains(QLatin1String(area.name))) area.render();
   }
-  return 0;
+  return layoutFaults() == 0 ? 0 : 1;
 }
