@@ -8,7 +8,6 @@
 #include <future>
 #include <optional>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include "ipc/win-ipc.h"
@@ -172,16 +171,15 @@ TEST_F(Transport, CancelFlagStopsReadsAndWritesAndMovesNothing) {
   ASSERT_EQ(client.connect(name_, 3000), 0);
   ASSERT_TRUE(server_.accept());
   std::atomic<bool> cancel{false};
-  std::atomic<bool> reading{false};
   auto waiting = std::async(std::launch::async, [&] {
     std::string got;
-    reading = true;
     return server_.read(got, &cancel);
   });
-  while (!reading) std::this_thread::yield();
+  EXPECT_EQ(waiting.wait_for(std::chrono::milliseconds(200)), std::future_status::timeout)
+      << "a read with nothing to read waits";
   cancel = true;
-  // Looked at within 100 ms on POSIX (10 ms on Windows); the test time-out
-  // catches a reader that never looks.
+  // Looked at within 100 ms on POSIX (10 ms on Windows).
+  ASSERT_EQ(waiting.wait_for(std::chrono::seconds(10)), std::future_status::ready) << "the flag was not seen";
   EXPECT_EQ(waiting.get(), -1);
   EXPECT_EQ(client.write("dropped", &cancel), -1);
   auto written = std::async(std::launch::async, [&client] { return client.write("kept"); });
@@ -258,12 +256,14 @@ TEST_F(Transport, EndsWaitingOnAHungServerSeeTheirCancelFlag) {
   auto writing =
       std::async(std::launch::async, [&] { return client.write(std::string(8 << 20, 'w'), &quit); });
   auto connecting = std::async(std::launch::async, [&] { return IpcClient().connect(name_, 60000, &quit); });
-  std::this_thread::sleep_for(std::chrono::milliseconds(300));
+  std::future<int>* ends[] = {&reading, &writing, &connecting};
+  for (std::future<int>* end : ends)
+    EXPECT_EQ(end->wait_for(std::chrono::milliseconds(200)), std::future_status::timeout) << "each end waits";
   quit = true;
-  // The test's time-out catches an end that never looks at the flag.
-  EXPECT_EQ(reading.get(), -1);
-  EXPECT_EQ(writing.get(), -1);
-  EXPECT_EQ(connecting.get(), -1);
+  for (std::future<int>* end : ends) {
+    ASSERT_EQ(end->wait_for(std::chrono::seconds(10)), std::future_status::ready) << "the flag was not seen";
+    EXPECT_EQ(end->get(), -1);
+  }
 }
 
 TEST(TrustedPeer, SystemAndOwnUserOnly) {
