@@ -38,27 +38,6 @@ QString accessibleName(QObject* object) {
   return iface ? iface->text(QAccessible::Name) : QString();
 }
 
-LogCapture::LogCapture() : path_(dir_.file("ui.txt")) {
-  const std::string settings = dir_.file("agent.debug");
-  nimbra_test::write_file(settings, "default_component = 7\nwin_ipc = 7\n");
-  EXPECT_EQ(vlog::init(vlog::kRotatingFile, std::wstring(path_.begin(), path_.end()),
-                       std::wstring(settings.begin(), settings.end()), "", 5, 1),
-            0);
-}
-
-LogCapture::~LogCapture() {
-  vlog::shutdown();
-}
-
-void LogCapture::mark() {
-  offset_ = nimbra_test::read_file(path_).size();
-}
-
-std::string LogCapture::text() const {
-  const std::string all = nimbra_test::read_file(path_);
-  return all.size() > offset_ ? all.substr(offset_) : std::string();
-}
-
 bool LogCapture::waitFor(const std::string& needle, int timeout_ms) const {
   QDeadlineTimer deadline(timeout_ms);
   while (text().find(needle) == std::string::npos) {

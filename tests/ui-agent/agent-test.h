@@ -13,6 +13,7 @@
 #include <memory>
 #include <string>
 
+#include "tests/support/log-capture.h"
 #include "tests/support/temp-dir.h"
 
 namespace agent_test {
@@ -35,21 +36,12 @@ T* child(const QObject* parent, const char* name) {
 // The name a screen reader announces for `object`.
 QString accessibleName(QObject* object);
 
-// The default logger writing to a scratch file with every component at debug
-// level; text() returns what was written since mark().
-class LogCapture {
+// The log capture with every component at debug level.
+class LogCapture : public nimbra_test::LogCapture {
  public:
-  LogCapture();
-  ~LogCapture();
-  void mark();
-  std::string text() const;
+  LogCapture() : nimbra_test::LogCapture("default_component = 7\nwin_ipc = 7\n") {}
   // Pumps Qt events until `needle` shows up in text(); false after `timeout_ms`.
   bool waitFor(const std::string& needle, int timeout_ms = 10000) const;
-
- private:
-  nimbra_test::TempDir dir_;
-  std::string path_;
-  std::size_t offset_ = 0;
 };
 
 // NIMBRA_PIPE_NAMESPACE unique to this process and object, NIMBRA_WORKING_SPACE
