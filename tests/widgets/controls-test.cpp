@@ -153,6 +153,10 @@ TEST_F(WidgetsControls, LinkLabelClicksOnReleaseInsideAndOnKeys) {
   QKeyEvent space(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier);
   QApplication::sendEvent(&link, &space);
   EXPECT_EQ(clicked.count(), 2);
+  // Other keys go on to the window (Escape closes the dialog the link is in).
+  QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+  QApplication::sendEvent(&link, &escape);
+  EXPECT_FALSE(escape.isAccepted());
   EXPECT_FALSE(getStyleSheet("about_link_label").contains("underline"));
 }
 

@@ -137,7 +137,7 @@ TEST(HighContrast, EveryTextAndFocusRingReachesItsRatio) {
 TEST(HighContrast, ThePaletteIsReadAndStable) {
   widgets_test::LogCapture log;
   const auto swaps = high_contrast::parsePalette(
-      "// c\n#0A9CFF #005FB8\n\nrgba(1, 2, 3, 0.5) #000000\nbad\n#1 #2 #3\n", "t");
+      "// c\n#0A9CFF #005FB8\n\nrgba(1, 2, 3, 0.5) #000000\nbad\n#1 #2 #3\n#0A9CFF 12px\n", "t");
   ASSERT_EQ(swaps.size(), 2);
   EXPECT_EQ(swaps[1].from, "rgba(1, 2, 3, 0.5)");
   EXPECT_EQ(log.count("[t] line 5: not two colours"), 1) << log.text();

@@ -30,9 +30,17 @@ class WidgetsSheets : public ::testing::Test {
 
 TEST_F(WidgetsSheets, QuitEndsTheLoopAndASecondExecWhileRunningIsRefused) {
   VellMessageSheet sheet(1, &window_, true);
+  QWidget later(&window_);  // made after the sheet: above it until the sheet is shown
+  later.setGeometry(window_.rect());
+  later.show();
   QSignalSpy finished(&sheet, &VellMessageSheet::finished);
-  whileUp([&] { sheet.quit(); });
+  QWidget* top = nullptr;
+  whileUp([&] {
+    top = window_.childAt(sheet.geometry().center());
+    sheet.quit();
+  });
   EXPECT_EQ(sheet.exec(), QMessageBox::NoButton);
+  EXPECT_TRUE(top == &sheet || sheet.isAncestorOf(top));
   EXPECT_EQ(finished.count(), 1);
   int inner = -2;
   whileUp([&] {

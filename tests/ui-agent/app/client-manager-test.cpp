@@ -175,7 +175,10 @@ TEST_P(RegistrationFailure, ReturnsToTheWelcomePageWithTheGenericError) {
   answer("get_auth", R"({"redirect_to":"https://signin.example/start"})");
   answer("get_token", "{}");
   failing_.insert(failing);
-  urls_.then = [] { send(QString(kScheme) + "?access_token=tok"); };
+  urls_.then = [] {
+    send(QString(kScheme) + "?access_token=tok");
+    send(QString(kScheme) + "?access_token=tok");  // a replay: ignored
+  };
   if (failing != "create_device") VellMessageSheet::setNextAnswer(QMessageBox::NoButton);  // sign-in notice
   VellMessageSheet::setNextAnswer(QMessageBox::Ok);                                        // the error
   if (failing == "create_device")

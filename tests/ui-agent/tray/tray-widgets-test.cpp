@@ -109,8 +109,11 @@ TEST_F(TrayWidgets, ProgressPageKeepsItsEstimateWhileStalled) {
   page->updateStatus(running, stalled);
   page->updateStatus(running, stalled);
   EXPECT_EQ(page->remainingEstimate(), 118);
+  agent_test::LogCapture log;
   // Kept over a stay on the status page and an answer without "transfer".
   show(0x2000, R"({"connected":true})");
+  // (The page's log line for support names only the labels shown.)
+  EXPECT_NE(log.text().find("tray pop-up: status page: Ready | -- | --"), std::string::npos) << log.text();
   page->updateStatus(static_cast<ServiceStatus>(0x3001), parse("{}"));
   EXPECT_EQ(page->remainingEstimate(), 118);
   EXPECT_EQ(accessibleName(child(page, "progressPhase")), QStringLiteral("Preparing for backup..."));

@@ -44,7 +44,7 @@ TEST_F(LoadingFrameTest, StartWaitsUntilStoppedAndCentresOverItsParent) {
   EXPECT_EQ(frame_->startLoading(), 0);
   EXPECT_TRUE(upWhileWaiting);
   EXPECT_FALSE(frame_->isVisible());
-  EXPECT_EQ(geometry.center().x(), parent_.rect().center().x());
+  EXPECT_EQ(geometry.center(), parent_.rect().center());
   EXPECT_LE(geometry.height(), DPIinfo::scaled(40));
 }
 

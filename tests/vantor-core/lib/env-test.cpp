@@ -26,9 +26,9 @@ TEST(WorkingSpace, VariableSetWinsEvenOverAFailingFolderQuery) {
   EXPECT_EQ(L"/tmp/nimbra-ws", vantor::get_working_space());
   EXPECT_EQ(L"/tmp/nimbra-ws", vantor::detail::get_working_space_with(&failing_query));
 #ifndef _WIN32  // (Windows' narrow environment is in the ANSI code page, not UTF-8.)
-  ScopedEnv utf8("NIMBRA_WORKING_SPACE", "/tmp/caf\xC3\xA9");
-  EXPECT_EQ(L"/tmp/caf\u00E9", vantor::get_working_space());
-  EXPECT_EQ("/tmp/caf\xC3\xA9", vantor::get_working_space_utf8());
+  ScopedEnv utf8("NIMBRA_WORKING_SPACE", "/tmp/caf\xC3\xA9\xF0\x9F\x98\x80");
+  EXPECT_EQ(L"/tmp/caf\u00E9\U0001F600", vantor::get_working_space());
+  EXPECT_EQ("/tmp/caf\xC3\xA9\xF0\x9F\x98\x80", vantor::get_working_space_utf8());
 #endif
 }
 

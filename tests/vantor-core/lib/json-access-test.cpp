@@ -162,10 +162,10 @@ TEST(JsonMask, SecretMembersAtAnyDepthShowAsStars) {
   EXPECT_EQ(jsonx::get_string(in, "token"), "tok-1") << "the original is never changed";
   // Names in any spelling; query parameters in any case or percent-encoding.
   EXPECT_EQ(jsonx::masked(parsed(R"({"accessToken": "a", "sessionKey": "b", "Session-Id": "c",
-      "url": "https://h/p?ACCESS_TOKEN=d&x=1", "u2": "https://h/?access_tok%65n=e#f",
+      "url": "https://h/p?ACCESS_TOKEN=d&x=1", "u2": "https://h/?access_tok%65%4E=e#f",
       "u3": "nimbrabackup://p?Token=", "plain": "a=b&x=y"})")),
             parsed(R"({"accessToken": "***", "sessionKey": "***", "Session-Id": "***",
-      "url": "https://h/p?ACCESS_TOKEN=***&x=1", "u2": "https://h/?access_tok%65n=***#f",
+      "url": "https://h/p?ACCESS_TOKEN=***&x=1", "u2": "https://h/?access_tok%65%4E=***#f",
       "u3": "nimbrabackup://p?Token=", "plain": "a=b&x=y"})"));
   // Other shapes come back as they are.
   for (const char* shape : {R"({"content": ["password"]})", R"("text")", R"({"password": null})"})
