@@ -30,36 +30,24 @@ QString pathOf(const QWidget* w, const QWidget* root) {
   return names.join(QLatin1Char('/'));
 }
 
-void checkLayout(QWidget* w) {
-  for (const QString& path : unplacedWidgets(w)) {
-    std::fprintf(stderr, "layout: %s/%s is shown but not in its parent's layout\n",
-                 w->metaObject()->className(), qPrintable(path));
-    ++g_layoutFaults;
-  }
-}
-
 }  // namespace
-
-QStringList unplacedWidgets(QWidget* root) {
-  QStringList out;
-  for (QWidget* w : root->findChildren<QWidget*>()) {
-    const QWidget* parent = w->parentWidget();
-    if (w->isWindow() || !parent || !parent->layout() || !w->isVisibleTo(root)) continue;
-    // Overlays (a mask, a sheet, a busy frame) float centred over their
-    // parent by design.
-    const QPoint offCentre = w->geometry().center() - parent->rect().center();
-    if (offCentre.manhattanLength() <= 2) continue;
-    if (!holds(parent->layout(), w)) out << pathOf(w, root);
-  }
-  return out;
-}
 
 int layoutFaults() {
   return g_layoutFaults;
 }
 
 QImage grabShown(QWidget* w) {
-  checkLayout(w);
+  for (QWidget* child : w->findChildren<QWidget*>()) {
+    const QWidget* parent = child->parentWidget();
+    if (child->isWindow() || !parent || !parent->layout() || !child->isVisibleTo(w)) continue;
+    // Overlays (a mask, a sheet, a busy frame) float centred over their
+    // parent by design.
+    if ((child->geometry().center() - parent->rect().center()).manhattanLength() <= 2) continue;
+    if (holds(parent->layout(), child)) continue;
+    std::fprintf(stderr, "layout: %s/%s is shown but not in its parent's layout\n",
+                 w->metaObject()->className(), qPrintable(pathOf(child, w)));
+    ++g_layoutFaults;
+  }
   return w->grab().toImage();
 }
 

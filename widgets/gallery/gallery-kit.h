@@ -23,17 +23,13 @@ QWidget* firstFocusable(QWidget* w);
 // it as under the mouse.
 QImage grabWidget(QWidget* w, bool focus = false, bool hover = false);
 
-// Grabs `w` as it is on screen now (shown and laid out by the caller), after
-// checking its layout as grabWidget() does.
+// Grabs `w` as it is on screen now (shown and laid out by the caller). Every
+// grab first checks that each widget shown inside `w` is held by its
+// parent's layout (overlays centred over their parent, such as sheets and
+// masks, excepted): a widget left out sits in its parent's top-left corner
+// over whatever is there. Each one found is a "layout:" line on stderr and
+// counts in layoutFaults(), for the exit status.
 QImage grabShown(QWidget* w);
-
-// The shown descendants of `root` whose parent has a layout that does not
-// hold them and that are not centred over the parent as overlays are: a
-// widget left out of its layout sits in the parent's top-left corner over
-// whatever is there. Each is named by its path of object (or
-// class) names from `root`. Every grab checks its widget and reports what
-// this finds on stderr; layoutFaults() counts them, for the exit status.
-QStringList unplacedWidgets(QWidget* root);
 int layoutFaults();
 
 template <typename T>
